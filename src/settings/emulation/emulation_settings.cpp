@@ -1,0 +1,14 @@
+#include "settings/emulation/emulation_settings.h"
+
+namespace veltrix {
+
+std::span<const FieldDef* const> EmulationFields() { return {}; }
+
+void SetEmulationDefaults(Document& doc) { (void)doc; }
+
+void AppendEmulationSummary(const Document& doc, SummaryNode& parent) {
+  (void)doc;
+  (void)parent;
+}
+
+}  // namespace veltrix

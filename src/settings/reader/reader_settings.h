@@ -1,0 +1,23 @@
+#ifndef VELTRIX_SETTINGS_READER_READER_SETTINGS_H_
+#define VELTRIX_SETTINGS_READER_READER_SETTINGS_H_
+
+#include <span>
+
+#include "settings/document.h"
+#include "settings/field.h"
+#include "shell/summary_node.h"
+
+namespace veltrix {
+
+// Every field of this section, declared once.
+std::span<const FieldDef* const> ReaderFields();
+
+// The section's default routine (run by SetDefaults in the fixed order).
+void SetReaderDefaults(Document& doc);
+
+// Appends this section's summary lines below `parent`.
+void AppendReaderSummary(const Document& doc, SummaryNode& parent);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SETTINGS_READER_READER_SETTINGS_H_
