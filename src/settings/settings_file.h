@@ -1,0 +1,32 @@
+#ifndef VELTRIX_SETTINGS_SETTINGS_FILE_H_
+#define VELTRIX_SETTINGS_SETTINGS_FILE_H_
+
+#include <string>
+#include <string_view>
+
+#include "settings/document.h"
+
+namespace veltrix {
+
+// Reads the settings file at `path` into `doc` with every rule of Open: short files read as far
+// as they go, refused tags/versions/products replaced by the defaults of product 1, the previous
+// ('V') layout converted, the tag restamped "I100", the key code table rebuilt and the reader
+// working blocks filled. Returns false only when the file cannot be opened (doc untouched then).
+// Does not change doc.file_name or doc.modified.
+bool ReadSettingsFile(Document& doc, const std::string& path);
+
+// Writes the document (working blocks copied into the record first) to `path` atomically: a
+// temporary file in the same folder, then a rename. Returns false on failure, leaving any
+// previous file intact.
+bool WriteSettingsFileTo(Document& doc, const std::string& path);
+
+// Writes to doc.file_name (false when it is empty or the write fails).
+bool WriteSettingsFile(Document& doc);
+
+// The Save As name rule: the chosen name is kept when it is longer than four characters and ends
+// in ".QVL" in any case; otherwise ".QVL" is appended.
+std::string SaveAsFileName(std::string_view chosen);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SETTINGS_SETTINGS_FILE_H_

@@ -1,0 +1,26 @@
+#ifndef VELTRIX_SHELL_SUMMARY_H_
+#define VELTRIX_SHELL_SUMMARY_H_
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "settings/document.h"
+#include "shell/summary_node.h"
+
+namespace veltrix {
+
+// The settings summary of a document: the six section items with their lines, in order; empty
+// when no product is chosen.
+std::vector<SummaryNode> BuildSummary(const Document& doc);
+
+enum class KeyNameMode { kNames, kHex };
+
+// Renders bytes as terminal key names (stopping at the first zero byte) or as hexadecimal pairs,
+// each followed by one blank; at most 100 characters.
+std::string KeyNamesText(std::span<const std::uint8_t> bytes, int count, KeyNameMode mode);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SHELL_SUMMARY_H_
