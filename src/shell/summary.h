@@ -15,6 +15,10 @@ namespace veltrix {
 // when no product is chosen.
 std::vector<SummaryNode> BuildSummary(const Document& doc);
 
+// The tree as text: one line per node in tree order, indented by two spaces per level below the
+// top level, each line ended by a line feed.
+std::string RenderSummaryText(const std::vector<SummaryNode>& nodes);
+
 enum class KeyNameMode { kNames, kHex };
 
 // Renders bytes as terminal key names (stopping at the first zero byte) or as hexadecimal pairs,

@@ -11,4 +11,6 @@ void AppendEmulationSummary(const Document& doc, SummaryNode& parent) {
   (void)parent;
 }
 
+void SetEmulationMessageDefaults(Document& doc) { (void)doc; }
+
 }  // namespace veltrix

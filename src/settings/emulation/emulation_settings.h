@@ -18,6 +18,10 @@ void SetEmulationDefaults(Document& doc);
 // Appends this section's summary lines below `parent`.
 void AppendEmulationSummary(const Document& doc, SummaryNode& parent);
 
+// Gives `MessageLineNumber`, `MessageTimeOut` and `ExcludeString` their defaults (also used when
+// a previous-layout file is converted on open).
+void SetEmulationMessageDefaults(Document& doc);
+
 }  // namespace veltrix
 
 #endif  // VELTRIX_SETTINGS_EMULATION_EMULATION_SETTINGS_H_

@@ -21,6 +21,9 @@ void AppendFunctionKeySummary(const Document& doc, SummaryNode& parent);
 // Fills doc.key_present from the product index.
 void ApplyKeyAvailability(Document& doc);
 
+// Rebuilds doc.key_codes from the mapping entries and key codes of the record (on open).
+void RebuildKeyCodeTable(Document& doc);
+
 // Roles a terminal FN key can be claimed for (the first byte of a mapping entry).
 enum FunctionKeyRole : int {
   kRoleNameKey = 201,

@@ -11,4 +11,6 @@ void AppendReaderSummary(const Document& doc, SummaryNode& parent) {
   (void)parent;
 }
 
+void ConvertPreviousReaderLayout(Document& doc) { (void)doc; }
+
 }  // namespace veltrix

@@ -18,6 +18,9 @@ void SetReaderDefaults(Document& doc);
 // Appends this section's summary lines below `parent`.
 void AppendReaderSummary(const Document& doc, SummaryNode& parent);
 
+// Converts the reader bytes of a previous-layout file in place (run when such a file is opened).
+void ConvertPreviousReaderLayout(Document& doc);
+
 }  // namespace veltrix
 
 #endif  // VELTRIX_SETTINGS_READER_READER_SETTINGS_H_
