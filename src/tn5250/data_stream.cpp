@@ -242,12 +242,10 @@ void DataStreamInterpreter::DisplayDataByte(std::uint8_t b) {
     std::uint8_t first = first_half_;
     std::uint8_t second = b;
     ConvertPair(first, second);
-    ps.WriteAtCursor(first);
-    ps.WriteAtCursor(second);
+    ps.PutPairAtCursor(first, second);
   } else if (b >= 0x20 && b <= 0x3F) {
-    const CellAddress at = ps.Cursor();
-    ps.SetCell(at.column, at.row, 0, 0);
-    ps.SetCursor(ps.Advance(at).row, ps.Advance(at).column);
+    ps.SetCurrentAttribute(0);
+    ps.WriteAtCursor(0);
     ps.SetCurrentAttribute(AttributeToDisplay(b));
   } else {
     const std::uint8_t d = HostToDisplay(host_.emulation_type, b);
@@ -277,12 +275,13 @@ void DataStreamInterpreter::WriteMessageByte(std::uint8_t b, int row, int& colum
     std::uint8_t second = b;
     ConvertPair(first, second);
     if (window) {
-      ps.PutCell(column - 1, row, first);
-      ps.PutCell(column, row, second);
+      ps.PutPair(column - 1, row, first, second);
       ++column;
+    } else if (column + 1 < cols) {
+      ps.PutPair(column, row, first, second);
+      column += 2;
     } else {
-      ps.PutCell(column, row, first);
-      if (column + 1 < cols) ps.PutCell(column + 1, row, second);
+      ps.PutCell(column, row, first);  // a pair cut at the end of the row
       column += 2;
     }
     return;
