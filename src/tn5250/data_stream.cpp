@@ -241,8 +241,12 @@ void DataStreamInterpreter::DisplayDataByte(std::uint8_t b) {
     half_ = false;
     std::uint8_t first = first_half_;
     std::uint8_t second = b;
-    ConvertPair(first, second);
-    ps.PutPairAtCursor(first, second);
+    if (ConvertPair(first, second)) {
+      ps.PutPairAtCursor(first, second);
+    } else {
+      ps.WriteAtCursor(first);
+      ps.WriteAtCursor(second);
+    }
   } else if (b >= 0x20 && b <= 0x3F) {
     ps.SetCurrentAttribute(0);
     ps.WriteAtCursor(0);
@@ -273,12 +277,12 @@ void DataStreamInterpreter::WriteMessageByte(std::uint8_t b, int row, int& colum
     half_ = false;
     std::uint8_t first = first_half_;
     std::uint8_t second = b;
-    ConvertPair(first, second);
+    const bool pair = ConvertPair(first, second);
     if (window) {
-      ps.PutPair(column - 1, row, first, second);
+      ps.PutPair(column - 1, row, first, second, pair);
       ++column;
     } else if (column + 1 < cols) {
-      ps.PutPair(column, row, first, second);
+      ps.PutPair(column, row, first, second, pair);
       column += 2;
     } else {
       ps.PutCell(column, row, first);  // a pair cut at the end of the row

@@ -40,11 +40,12 @@ void PresentationSpace::PutPairAtCursor(std::uint8_t first, std::uint8_t second)
   AdvanceAddress(cursor_column_, cursor_row_);
 }
 
-void PresentationSpace::PutPair(int column, int row, std::uint8_t first, std::uint8_t second) {
+void PresentationSpace::PutPair(int column, int row, std::uint8_t first, std::uint8_t second,
+                                bool mark) {
   const CellAddress next = Advance({row, column});
   PutCell(column, row, first);
   PutCell(next.column, next.row, second);
-  if (InScreen(row, column) && InScreen(next.row, next.column)) {
+  if (mark && InScreen(row, column) && InScreen(next.row, next.column)) {
     pair_start_[Index(row, column)] = true;
   }
 }

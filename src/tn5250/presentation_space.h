@@ -64,7 +64,8 @@ class PresentationSpace {
   // marks the first cell as the left half of a pair (for painting and text output).
   void PutPairAtCursor(std::uint8_t first, std::uint8_t second);
   // The same at a given cell, without moving the cursor.
-  void PutPair(int column, int row, std::uint8_t first, std::uint8_t second);
+  // mark false writes two single-byte cells (a pair the host language could not convert).
+  void PutPair(int column, int row, std::uint8_t first, std::uint8_t second, bool mark = true);
   // Whether the cell holds the left half of a double-byte character.
   bool IsPairStart(int row, int column) const;
   // Erases the selected parts of a cell: the character, the colour bits 7-5, the bits 4-0.

@@ -156,7 +156,9 @@ std::string ReplayRun::Text() const {
   const int language = session_.Config().emulation_type;
   std::string out;
   for (int row = 0; row < ps.Rows(); ++row) {
-    out += ScreenRowText(ps, language, row);
+    std::string text = ScreenRowText(ps, language, row);
+    while (!text.empty() && text.back() == ' ') text.pop_back();  // trailing blanks say nothing
+    out += text;
     out += '\n';
   }
   out +=
