@@ -48,6 +48,9 @@ constexpr StringEntry kStrings[] = {
     {3002, "Dravin S"},
     {3003, "Dravin R"},
     // ---- summary information -----------------------------------------------------------------
+    {4001, "Quarvel"},
+    {4002, "1.0"},
+    {4003, "Copyright (C) Quarvel. All rights reserved."},
     // ---- licence agreement (About box) -------------------------------------------------------
     {8888,
      "LICENCE AGREEMENT\n"
