@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_settings.h"
@@ -104,6 +105,42 @@ TEST_F(SystemEditorTest, ScreenNamesFollowTheProduct) {
   EXPECT_EQ("Main Menu (12*2)              ", editor_->ScreenNames().front());
   editor_->SelectScreen(10);
   EXPECT_FALSE(editor_->Rows()[7].enabled);
+}
+
+}  // namespace
+}  // namespace veltrix
+
+namespace veltrix {
+namespace {
+
+// Reset after edits on many screens gives every text of the product's defaults back.
+TEST(SystemEditorReset, RestoresAllTwelveScreensOfTheProduct) {
+  for (int product : {1, 2}) {
+    auto doc = std::make_unique<Document>();
+    SetDefaults(*doc, product);
+    const SettingsRecord fresh = doc->record;
+    SystemEditor editor(*doc);
+    editor.Initialise();
+    for (int s = 0; s < kPromptScreenCount; ++s) {
+      editor.SelectScreen(s);
+      editor.EditPromptLine(0, "changed on screen " + std::to_string(s));
+    }
+    editor.Reset();
+    for (int slot = 0; slot < kPromptSlotCount; ++slot) {
+      EXPECT_EQ(ReadText(fresh, kPromptText, slot), ReadText(doc->record, kPromptText, slot))
+          << "product " << product << " slot " << slot;
+    }
+  }
+}
+
+// A change of product replaces the texts by that product's defaults.
+TEST(SystemEditorReset, ProductChangeGivesThatProductsTexts) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  EXPECT_EQ("1. Telnet   ", ReadText(doc->record, kPromptText, 0));
+  SetDefaults(*doc, 2);
+  EXPECT_EQ("1. Telnet      ", ReadText(doc->record, kPromptText, 0));
+  EXPECT_EQ("Download failed", ReadText(doc->record, kPromptText, PromptSlot(9, 3)));
 }
 
 }  // namespace
