@@ -10,8 +10,6 @@
 #include <vector>
 
 #include "capture/screen_pages.h"
-#include "settings/emulation/function_keys.h"
-#include "settings/reader/reader_settings.h"
 #include "settings_test_files.h"
 
 namespace veltrix {
@@ -174,9 +172,6 @@ TEST_F(SettingsFileTest, PreviousLayoutEmptiesThePagesAndResetsConvertedSettings
 }
 
 TEST_F(SettingsFileTest, PreviousLayoutGetsDefaultKeysMessagesAndReaderBytes) {
-  if (FunctionKeyFields().empty() || ReaderFields().empty()) {
-    GTEST_SKIP() << "function key and reader sections not declared yet";
-  }
   const auto expected = DefaultDocument(2);
   auto original = DefaultDocument(2);
   constexpr std::size_t kMappingFirst = 4565, kMappingLast = 4964;
@@ -256,7 +251,6 @@ TEST_F(SettingsFileTest, OpenFillsTheWorkingBlocksFromTheRecord) {
 }
 
 TEST_F(SettingsFileTest, OpenRebuildsTheKeyCodeTable) {
-  if (FunctionKeyFields().empty()) GTEST_SKIP() << "function key section not declared yet";
   constexpr std::size_t kMapping = 4565, kKeyCodes = 4715;
   auto original = DefaultDocument(1);
   std::fill(original->record.begin() + kMapping, original->record.begin() + kKeyCodes + 250, 0);
