@@ -60,4 +60,26 @@ std::optional<std::uint32_t> HostAddressValue(const HostOctets& octets) {
   return value;
 }
 
+void HostIpForm::Open(std::string_view active_entry) {
+  save_log_ = false;
+  SplitHostAddress(active_entry, octets_);
+}
+
+void HostIpForm::EditChanged(int index, std::string_view text) {
+  if (index < 0 || index >= static_cast<int>(octets_.size())) return;
+  if (std::optional<std::uint32_t> value = ParseOctet(text)) octets_[index] = *value;
+}
+
+bool HostIpForm::Confirm(const std::array<std::string, 4>& texts, bool save_log_checked) {
+  HostOctets read{};
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    std::optional<std::uint32_t> value = ParseOctet(texts[i]);
+    if (!value) return false;
+    read[i] = *value;
+  }
+  octets_ = read;
+  save_log_ = save_log_checked;
+  return true;
+}
+
 }  // namespace veltrix

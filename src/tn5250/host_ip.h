@@ -29,6 +29,27 @@ std::string FormatHostAddress(const HostOctets& octets);
 // it gives the no-address value (all bits set), which is what 255.255.255.255 gives.
 std::optional<std::uint32_t> HostAddressValue(const HostOctets& octets);
 
+inline constexpr std::string_view kInvalidIpAddressMessage = "Invalid IP Address!";
+
+// The rules of the connect dialog, apart from its widgets.
+class HostIpForm {
+ public:
+  // On opening: "Save Log" is cleared and the active host entry is split into the octets.
+  void Open(std::string_view active_entry);
+  // An octet edit changed: a number in 0..255 becomes that octet, anything else is ignored.
+  void EditChanged(int index, std::string_view text);
+  // OK: every edit is read again. False when one is not a number in 0..255 (the dialog shows
+  // kInvalidIpAddressMessage and stays open); otherwise "Save Log" takes the check box's state.
+  bool Confirm(const std::array<std::string, 4>& texts, bool save_log_checked);
+
+  const HostOctets& octets() const { return octets_; }
+  bool save_log() const { return save_log_; }
+
+ private:
+  HostOctets octets_{};
+  bool save_log_ = false;
+};
+
 }  // namespace veltrix
 
 #endif  // VELTRIX_TN5250_HOST_IP_H_

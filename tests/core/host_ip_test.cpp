@@ -54,5 +54,37 @@ TEST(HostAddress, AllOnesIsTheNoAddressValue) {
   EXPECT_FALSE(HostAddressValue({256, 0, 0, 1}).has_value());
 }
 
+TEST(HostIpForm, OpensUncheckedFromTheActiveEntryAndKeepsOctetsBetweenOpenings) {
+  HostIpForm form;
+  form.Open("10.1.2.3");
+  ASSERT_TRUE(form.Confirm({"10", "1", "2", "3"}, true));
+  EXPECT_TRUE(form.save_log());
+  form.Open("172.16");
+  EXPECT_FALSE(form.save_log());
+  EXPECT_EQ((HostOctets{172, 16, 2, 3}), form.octets());
+}
+
+TEST(HostIpForm, EditsTakeOnlyValidOctets) {
+  HostIpForm form;
+  form.Open("1.2.3.4");
+  form.EditChanged(0, "300");
+  form.EditChanged(1, "x");
+  form.EditChanged(2, "");
+  form.EditChanged(3, "99");
+  form.EditChanged(7, "5");
+  EXPECT_EQ((HostOctets{1, 2, 3, 99}), form.octets());
+}
+
+TEST(HostIpForm, ConfirmRefusesAnyBadEditAndChangesNothing) {
+  HostIpForm form;
+  form.Open("1.2.3.4");
+  EXPECT_FALSE(form.Confirm({"1", "2", "256", "4"}, true));
+  EXPECT_FALSE(form.Confirm({"1", "", "3", "4"}, true));
+  EXPECT_FALSE(form.save_log());
+  EXPECT_EQ((HostOctets{1, 2, 3, 4}), form.octets());
+  EXPECT_TRUE(form.Confirm({"127", "0", "0", "1"}, false));
+  EXPECT_EQ((HostOctets{127, 0, 0, 1}), form.octets());
+}
+
 }  // namespace
 }  // namespace veltrix
