@@ -1,13 +1,70 @@
 #include "tn5250/double_byte.h"
 
+#include <algorithm>
+
+#include "tn5250/double_byte_tables.h"
+
 namespace veltrix {
 
-// Stub until the conversion tables land.
+namespace {
+
+std::uint8_t Byte(std::uint32_t entry, int shift) {
+  return static_cast<std::uint8_t>(entry >> shift);
+}
+
+}  // namespace
+
 bool ConvertDoubleByte(int emulation_type, std::uint8_t& first, std::uint8_t& second) {
-  (void)emulation_type;
-  (void)first;
-  (void)second;
+  const auto entries = double_byte_tables::ForEmulationType(emulation_type).entries;
+  // Signed bounds: high drops below low (possibly to -1) when the pair is missing.
+  int low = 0;
+  int high = static_cast<int>(entries.size()) - 1;
+  while (low <= high) {
+    const int middle = (low + high) / 2;
+    const std::uint32_t entry = entries[middle];
+    const std::uint8_t host1 = Byte(entry, 24);
+    const std::uint8_t host2 = Byte(entry, 16);
+    if (first == host1 && second == host2) {
+      first = Byte(entry, 8);
+      second = Byte(entry, 0);
+      return true;
+    }
+    if (first > host1 || (first == host1 && second > host2)) {
+      low = middle + 1;
+    } else {
+      high = middle - 1;
+    }
+  }
   return false;
+}
+
+char32_t DoubleByteToUnicode(int emulation_type, std::uint8_t first, std::uint8_t second) {
+  const auto table = double_byte_tables::ForEmulationType(emulation_type);
+  const auto code = static_cast<std::uint16_t>((first << 8) | second);
+  const auto it = std::lower_bound(table.pc_codes.begin(), table.pc_codes.end(), code);
+  if (it == table.pc_codes.end() || *it != code) return 0;
+  return table.code_points[it - table.pc_codes.begin()];
+}
+
+std::string CodePointToUtf8(char32_t c) {
+  std::string out;
+  if (c < 0x80) {
+    out += static_cast<char>(c);
+  } else if (c < 0x800) {
+    out += static_cast<char>(0xC0 | (c >> 6));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  } else if (c < 0x10000) {
+    if (c >= 0xD800 && c <= 0xDFFF) return out;
+    out += static_cast<char>(0xE0 | (c >> 12));
+    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  } else if (c <= 0x10FFFF) {
+    out += static_cast<char>(0xF0 | (c >> 18));
+    out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  }
+  return out;
 }
 
 }  // namespace veltrix

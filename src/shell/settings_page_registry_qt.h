@@ -1,0 +1,46 @@
+#ifndef VELTRIX_SHELL_SETTINGS_PAGE_REGISTRY_QT_H_
+#define VELTRIX_SHELL_SETTINGS_PAGE_REGISTRY_QT_H_
+
+#include <array>
+#include <functional>
+
+#include "settings/document.h"
+#include "shell/settings_page.h"
+#include "shell/sheet_page.h"
+
+namespace veltrix {
+
+// Which widget class makes each page of the settings sheet. A page left unregistered shows as a
+// tab saying it is not available in this build.
+class SettingsPageRegistry {
+ public:
+  using Factory = std::function<SettingsPage*(Document& doc, QWidget* parent)>;
+
+  // The registry with every page this build has (see settings_pages_qt.cpp).
+  static const SettingsPageRegistry& Installed();
+
+  // One line per page: registry.Register<SystemPage>(SheetPageId::kSystem);
+  // PageClass needs a constructor (Document&, QWidget* parent).
+  template <typename PageClass>
+  void Register(SheetPageId id) {
+    Register(id, [](Document& doc, QWidget* parent) -> SettingsPage* {
+      return new PageClass(doc, parent);
+    });
+  }
+  void Register(SheetPageId id, Factory factory) {
+    factories_[static_cast<int>(id)] = std::move(factory);
+  }
+
+  // Creates the page for `id` (the stand-in when none is registered).
+  SettingsPage* Create(SheetPageId id, Document& doc, QWidget* parent) const;
+
+ private:
+  std::array<Factory, kSheetPageCount> factories_;
+};
+
+// Registers the pages this build has; the one place a new page is plugged in.
+void RegisterSettingsPages(SettingsPageRegistry& registry);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SHELL_SETTINGS_PAGE_REGISTRY_QT_H_

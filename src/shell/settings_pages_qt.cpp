@@ -1,0 +1,9 @@
+// The pages of the settings sheet that this build has. Plug a page in with one line:
+//   registry.Register<SystemPage>(SheetPageId::kSystem);
+#include "shell/settings_page_registry_qt.h"
+
+namespace veltrix {
+
+void RegisterSettingsPages(SettingsPageRegistry& registry) { (void)registry; }
+
+}  // namespace veltrix

@@ -1,0 +1,154 @@
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <QtTest>
+#include <memory>
+
+#include "settings/document.h"
+#include "shell/settings_page.h"
+#include "shell/settings_page_registry_qt.h"
+#include "shell/settings_sheet_dialog.h"
+
+using namespace veltrix;
+
+namespace {
+
+constexpr std::size_t kProbeByte = 30;  // a byte the test page edits
+
+// A page that writes one record byte from a line edit as the user types, like the real pages.
+class ProbePage : public SettingsPage {
+ public:
+  ProbePage(Document& doc, QWidget* parent) : SettingsPage(doc, parent) {
+    edit_ = new QLineEdit(this);
+    edit_->setObjectName("probe");
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(edit_);
+    connect(edit_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { this->doc().record[kProbeByte] = text.toInt(); });
+  }
+  void Initialise(Document& doc) override {
+    ++initialised;
+    edit_->setText(QString::number(doc.record[kProbeByte]));
+  }
+  void Apply(Document&) override { ++applied; }
+  void SetActive(Document&) override { ++activated; }
+
+  int initialised = 0;
+  int applied = 0;
+  int activated = 0;
+
+ private:
+  QLineEdit* edit_;
+};
+
+QPushButton* Button(SettingsSheetDialog& sheet, QDialogButtonBox::StandardButton which) {
+  return sheet.findChild<QDialogButtonBox*>()->button(which);
+}
+
+void TypeInto(SettingsPage* page, const QString& text) {
+  auto* edit = page->findChild<QLineEdit*>("probe");
+  edit->clear();
+  QTest::keyClicks(edit, text);
+}
+
+}  // namespace
+
+class SettingsSheetTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    doc_ = std::make_unique<Document>();
+    SetDefaults(*doc_, 1);
+    registry_ = SettingsPageRegistry();
+    registry_.Register<ProbePage>(SheetPageId::kSystem);
+    registry_.Register<ProbePage>(SheetPageId::kScreen);
+  }
+
+  void hasFiveTabsInOrderAndNoApplyButton() {
+    SettingsSheetDialog sheet(*doc_, registry_);
+    QCOMPARE(sheet.windowTitle(), QString("Settings"));
+    QStringList captions;
+    for (int i = 0; i < sheet.tabs()->count(); ++i) captions << sheet.tabs()->tabText(i);
+    QCOMPARE(captions, QStringList({"System", "Barcode", "Wireless LAN", "Emulation", "Screen"}));
+    QVERIFY(Button(sheet, QDialogButtonBox::Ok));
+    QVERIFY(Button(sheet, QDialogButtonBox::Cancel));
+    QVERIFY(!Button(sheet, QDialogButtonBox::Apply));
+    QCOMPARE(sheet.tabs()->currentIndex(), 0);
+  }
+
+  void createsPagesWhenFirstShown() {
+    SettingsSheetDialog sheet(*doc_, registry_);
+    QVERIFY(sheet.page(0));
+    QVERIFY(!sheet.page(4));
+    sheet.tabs()->setCurrentIndex(4);
+    auto* screen = static_cast<ProbePage*>(sheet.page(4));
+    QVERIFY(screen);
+    sheet.tabs()->setCurrentIndex(0);
+    sheet.tabs()->setCurrentIndex(4);
+    QCOMPARE(screen->initialised, 1);
+    QCOMPARE(screen->activated, 2);
+  }
+
+  void unregisteredPagesSayTheyAreNotAvailable() {
+    SettingsSheetDialog sheet(*doc_, registry_);
+    sheet.tabs()->setCurrentIndex(2);
+    auto* label = sheet.page(2)->findChild<QLabel*>("unavailable_text");
+    QVERIFY(label);
+    QVERIFY(label->text().contains("Wireless LAN"));
+    QVERIFY(label->text().contains("not available"));
+  }
+
+  void cancelRestoresTheSnapshot() {
+    doc_->modified = true;
+    const SettingsRecord before = doc_->record;
+    SettingsSheetDialog sheet(*doc_, registry_);
+    TypeInto(sheet.page(0), "77");
+    QCOMPARE(int(doc_->record[kProbeByte]), 77);
+    Button(sheet, QDialogButtonBox::Cancel)->click();
+    QVERIFY(doc_->record == before);
+    QVERIFY(!doc_->modified);
+  }
+
+  void escapeActsAsCancel() {
+    const SettingsRecord before = doc_->record;
+    SettingsSheetDialog sheet(*doc_, registry_);
+    sheet.show();
+    TypeInto(sheet.page(0), "12");
+    QTest::keyClick(&sheet, Qt::Key_Escape);
+    QVERIFY(doc_->record == before);
+  }
+
+  void okAppliesAndSetsTheModifiedFlag() {
+    SettingsSheetDialog sheet(*doc_, registry_);
+    TypeInto(sheet.page(0), "5");
+    sheet.tabs()->setCurrentIndex(4);
+    Button(sheet, QDialogButtonBox::Ok)->click();
+    QCOMPARE(sheet.result(), int(QDialog::Accepted));
+    QCOMPARE(static_cast<ProbePage*>(sheet.page(0))->applied, 1);
+    QCOMPARE(static_cast<ProbePage*>(sheet.page(4))->applied, 1);
+    QCOMPARE(int(doc_->record[kProbeByte]), 5);
+    QVERIFY(doc_->modified);
+  }
+
+  void systemChangeSurvivesCancelOnAnotherPage() {
+    SettingsSheetDialog sheet(*doc_, registry_);
+    TypeInto(sheet.page(0), "42");
+    sheet.tabs()->setCurrentIndex(4);
+    TypeInto(sheet.page(4), "43");
+    doc_->pages[0][0] = 1;
+    Button(sheet, QDialogButtonBox::Cancel)->click();
+    QCOMPARE(int(doc_->record[kProbeByte]), 42);
+    QCOMPARE(int(doc_->pages[0][0]), 0);
+  }
+
+ private:
+  std::unique_ptr<Document> doc_;
+  SettingsPageRegistry registry_;
+};
+
+QTEST_MAIN(SettingsSheetTest)
+#include "settings_sheet_test.moc"
