@@ -1,0 +1,22 @@
+#include "settings/reader/beeper_sequence.h"
+
+#include <algorithm>
+
+#include "settings/reader/reader_record_fields.h"
+
+namespace veltrix {
+
+std::size_t BeeperSequenceLength(std::span<const std::uint8_t> sequence) {
+  std::size_t length = std::min(sequence.size(), kBeeperSequenceWidth) / 2 * 2;
+  while (length >= 2 && sequence[length - 2] == 0 && sequence[length - 1] == 0) length -= 2;
+  return length;
+}
+
+void SetDefaultBeeperSequences(Document& doc) {
+  std::ranges::copy(kDefaultAlarmBeeperSequence,
+                    FieldBytes(std::span<std::uint8_t>(doc.record), kAlarmBeeperSequence).begin());
+  std::ranges::copy(kDefaultDataBeeperSequence,
+                    FieldBytes(std::span<std::uint8_t>(doc.record), kDataBeeperSequence).begin());
+}
+
+}  // namespace veltrix

@@ -1,0 +1,82 @@
+#ifndef VELTRIX_TN5250_DATA_STREAM_H_
+#define VELTRIX_TN5250_DATA_STREAM_H_
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "tn5250/host_context.h"
+#include "tn5250/inbound_records.h"
+
+namespace veltrix {
+
+// A record never exceeds the 16-bit length in its header, so an item buffer of that size takes
+// any command or order whole; nothing the host sends is cut or can overflow it.
+inline constexpr int kItemCapacity = 65535;
+inline constexpr int kRecordHeaderLength = 10;
+inline constexpr std::uint8_t kEscape = 0x04;
+
+// The 5250 data stream interpreter (`ProcessHostByte`): cuts the stream into records by their
+// length, the records into commands and Write to Display into orders and characters, and
+// carries each out through the command and order tables.
+class DataStreamInterpreter {
+ public:
+  DataStreamInterpreter(HostContext& host, InboundRecords& inbound);
+
+  // `ResetHostSession` for the interpreter's part (the caller resets the screen).
+  void Reset();
+  void ProcessHostBytes(std::span<const std::uint8_t> bytes);
+  void ProcessHostByte(std::uint8_t b);
+
+  // Displays one data byte at the current address (shift-out/in, double-byte halves,
+  // attribute bytes and single-byte characters).
+  void DisplayDataByte(std::uint8_t b);
+  // The same conversion as DisplayDataByte for a message byte written at a given cell.
+  void WriteMessageByte(std::uint8_t b, int row, int& column, bool window);
+  // Carries out the control characters of Write to Display and the read commands.
+  void DoControlCharacters(std::uint8_t cc1, std::uint8_t cc2);
+  // Cursor placement at the end of a record.
+  void PlaceCursor();
+  void Trace(std::string_view text) { host_.out.Trace(text); }
+
+  HostContext& host() { return host_; }
+  InboundRecords& inbound() { return inbound_; }
+  bool double_byte() const { return double_byte_; }
+  void set_double_byte(bool on) {
+    double_byte_ = on;
+    half_ = false;
+  }
+
+ private:
+  enum class State { kHeader = 0, kAwaitEscape = 1, kCommand = 2, kOrder = 4, kData = 5 };
+
+  void HeaderByte(std::uint8_t b);
+  void CommandByte(std::uint8_t b);
+  void OrderByte(std::uint8_t b);
+  void DataByte(std::uint8_t b);
+  void Store(std::uint8_t b);
+  std::span<const std::uint8_t> Item() const;
+  bool ResolveLength(int length, int info);
+  void ResolveStartOfField();
+  void ExecuteCommand();
+  void ExecuteOrder();
+  void EndRecord();
+  bool ConvertPair(std::uint8_t& first, std::uint8_t& second);
+
+  HostContext& host_;
+  InboundRecords& inbound_;
+  State state_ = State::kHeader;
+  int record_length_ = 0;
+  int consumed_ = 0;
+  std::array<std::uint8_t, kItemCapacity> item_{};
+  int item_count_ = 0;
+  int expected_ = 0;
+  bool pending_ = false;
+  bool double_byte_ = false;
+  bool half_ = false;
+  std::uint8_t first_half_ = 0;
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_DATA_STREAM_H_

@@ -1,0 +1,60 @@
+#ifndef VELTRIX_TN5250_HOST_CONTEXT_H_
+#define VELTRIX_TN5250_HOST_CONTEXT_H_
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "tn5250/field_table.h"
+#include "tn5250/presentation_space.h"
+#include "tn5250/session.h"
+
+namespace veltrix {
+
+// Where the engine's parts put what leaves the session.
+class EngineOutput {
+ public:
+  virtual ~EngineOutput() = default;
+  // Telnet answers, sent as they stand.
+  virtual void SendRaw(std::span<const std::uint8_t> bytes) = 0;
+  // A 5250 record without framing; the output adds IAC EOR.
+  virtual void SendRecord(std::span<const std::uint8_t> record) = 0;
+  virtual void Trace(std::string_view text) = 0;
+  virtual void Bell() = 0;
+  virtual void KeyboardLockChanged(bool locked) = 0;
+};
+
+// The state that the interpreter, the keyboard and the inbound records share: the
+// presentation space, the field format table and the session flags.
+struct HostContext {
+  explicit HostContext(EngineOutput& output) : out(output) {}
+
+  void SetKeyboardLocked(bool locked) {
+    if (keyboard_locked == locked) return;
+    keyboard_locked = locked;
+    out.KeyboardLockChanged(locked);
+  }
+  // `SoundAlarm`.
+  void SoundAlarm() {
+    out.Trace("Call Alarm\r\n");
+    out.Bell();
+  }
+  void MarkRepaint() {
+    repaint = true;
+    changed = true;
+  }
+
+  EngineOutput& out;
+  int emulation_type = 0;
+  PresentationSpace ps;
+  FieldTable fields;
+  bool keyboard_locked = true;
+  ReadMode read_mode = ReadMode::kNone;
+  bool repaint = false;  // cleared at the start of each record
+  bool changed = false;  // the screen changed since the session last reported it
+  bool move_cursor = false;
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_HOST_CONTEXT_H_

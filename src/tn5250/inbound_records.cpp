@@ -1,0 +1,211 @@
+#include "tn5250/inbound_records.h"
+
+#include <algorithm>
+#include <array>
+
+#include "tn5250/code_tables.h"
+
+namespace veltrix {
+
+namespace {
+
+constexpr std::array<std::uint8_t, 10> kHeader = {0x00, 0x00, 0x12, 0xA0, 0x00,
+                                                  0x00, 0x04, 0x00, 0x00, 0x03};
+constexpr std::uint8_t kMinus = '-';
+constexpr std::uint8_t kBlank = 0x20;
+constexpr std::size_t kMaxRecord = 0xFFFF;
+
+}  // namespace
+
+InboundRecords::InboundRecords(HostContext& host) : host_(host) { record_.reserve(4096); }
+
+void InboundRecords::StartRecord() { record_.assign(kHeader.begin(), kHeader.end()); }
+
+void InboundRecords::FinishRecord() {
+  // The length field has 16 bits: a record can never be longer than that.
+  if (record_.size() > kMaxRecord) record_.resize(kMaxRecord);
+  record_[0] = static_cast<std::uint8_t>(record_.size() >> 8);
+  record_[1] = static_cast<std::uint8_t>(record_.size());
+  host_.out.SendRecord(record_);
+}
+
+int InboundRecords::CollectFieldData(std::vector<std::uint8_t>& out,
+                                     const FieldDataOptions& options) const {
+  const std::size_t start_size = out.size();
+  const PresentationSpace& ps = host_.ps;
+  const auto records = host_.fields.Records();
+  if (options.modified_gate) {
+    bool any = false;
+    for (const FieldRecord& f : records) any = any || f.IsModified();
+    if (!any) return 0;
+  }
+  for (const FieldRecord& f : records) {
+    if (options.modified_only && !f.IsModified()) continue;
+    if (options.address_order) {
+      out.push_back(0x11);
+      out.push_back(static_cast<std::uint8_t>(f.row + 1));
+      out.push_back(static_cast<std::uint8_t>(f.column + 1));
+    }
+    // Cells are walked from the first one; a field reaching past the screen ends there.
+    const CellAddress first{f.row, f.column};
+    int count = std::max(f.DataLength(), 1);
+    const int screen_left = ps.Rows() * ps.Columns() - ps.Linear(first);
+    count = std::max(0, std::min(count, screen_left));
+    if (options.trim) {
+      while (count > 1) {
+        const int i = ps.Linear(first) + count - 1;
+        const std::uint8_t c = ps.Character(i / ps.Columns(), i % ps.Columns());
+        if (c != 0 && c != kBlank) break;
+        --count;
+      }
+    }
+    for (int k = 0; k < count; ++k) {
+      const int i = ps.Linear(first) + k;
+      std::uint8_t c = ps.Character(i / ps.Columns(), i % ps.Columns());
+      if (options.nul_as_blank && c == 0) c = kBlank;
+      out.push_back(DisplayToHost(host_.emulation_type, c));
+    }
+    if (options.sign && f.IsSignedNumeric() && count > 0 && f.length >= 1) {
+      const int sign = ps.Linear(first) + f.length - 1;
+      if (sign < ps.Rows() * ps.Columns() &&
+          ps.Character(sign / ps.Columns(), sign % ps.Columns()) == kMinus) {
+        out.back() = static_cast<std::uint8_t>((out.back() & 0x0F) | 0xD0);
+      }
+    }
+  }
+  return static_cast<int>(out.size() - start_size);
+}
+
+void InboundRecords::SendAidRecord(std::uint8_t aid) {
+  host_.SetKeyboardLocked(true);
+  PresentationSpace& ps = host_.ps;
+  const FieldRecord& current = host_.fields.Current();
+  if (current.IsField() &&
+      ps.AddressDistance(ps.CursorColumn(), ps.CursorRow(), current.column, current.row) ==
+          current.length &&
+      ps.Linear(ps.Cursor()) > ps.Linear({current.row, current.column})) {
+    CellAddress back = ps.Retreat(ps.Cursor());
+    ps.SetCursor(back.row, back.column);
+  }
+  StartRecord();
+  FieldDataOptions options;
+  switch (host_.read_mode) {
+    case ReadMode::kNone:
+      FinishRecord();
+      return;
+    case ReadMode::kInputFields:
+      options = {.trim = true, .nul_as_blank = true, .sign = true};
+      break;
+    case ReadMode::kMdtFields:
+      options = {.modified_gate = true,
+                 .modified_only = true,
+                 .address_order = true,
+                 .trim = true,
+                 .nul_as_blank = true,
+                 .sign = true};
+      break;
+    case ReadMode::kMdtAlternate:
+      options = {.modified_gate = true,
+                 .modified_only = true,
+                 .address_order = true,
+                 .trim = true,
+                 .sign = true};
+      break;
+  }
+  record_.push_back(static_cast<std::uint8_t>(ps.CursorRow() + 1));
+  record_.push_back(static_cast<std::uint8_t>(ps.CursorColumn() + 1));
+  record_.push_back(aid);
+  CollectFieldData(record_, options);
+  FinishRecord();
+}
+
+void InboundRecords::SendReadImmediate(bool alternate) {
+  host_.SetKeyboardLocked(true);
+  StartRecord();
+  FieldDataOptions options;
+  if (alternate) {
+    options = {.modified_only = true, .address_order = true, .trim = true};
+  } else {
+    options = {.nul_as_blank = true};
+  }
+  CollectFieldData(record_, options);
+  FinishRecord();
+  host_.SetKeyboardLocked(false);
+}
+
+void InboundRecords::SendShortEnter() {
+  StartRecord();
+  record_.push_back(static_cast<std::uint8_t>(host_.ps.CursorRow() + 1));
+  record_.push_back(static_cast<std::uint8_t>(host_.ps.CursorColumn() + 1));
+  record_.push_back(kAidEnter);
+  FinishRecord();
+}
+
+void InboundRecords::SendQueryReply() {
+  static constexpr std::array<std::uint8_t, 61> kReply = {0x00,
+                                                          0x00,  // cursor row and column
+                                                          kAidStructuredField,
+                                                          0x00,
+                                                          0x3A,
+                                                          0xD9,
+                                                          0x70,  // AID, length 58, query reply
+                                                          0x80,
+                                                          0x06,
+                                                          0x00,
+                                                          0x01,
+                                                          0x00,
+                                                          0x00,  //
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,  // sixteen zero bytes
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,  //
+                                                          0x01,
+                                                          0xF3,
+                                                          0xF4,
+                                                          0xF7,
+                                                          0xF7,  // device type 3477
+                                                          0xF0,
+                                                          0xC6,
+                                                          0xC3,  // model 0FC
+                                                          0x02,
+                                                          0x00,
+                                                          0x00,
+                                                          0x01,
+                                                          0x01,
+                                                          0x01,
+                                                          0x01,
+                                                          0x01,  //
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x63,
+                                                          0x31,  //
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00,
+                                                          0x00};
+  StartRecord();
+  record_.insert(record_.end(), kReply.begin(), kReply.end());
+  FinishRecord();
+}
+
+}  // namespace veltrix

@@ -1,0 +1,25 @@
+#include "tn5250/session.h"
+
+#include "tn5250/session_engine.h"
+
+namespace veltrix {
+
+Session::Session(SessionConfig config, SessionListener* listener)
+    : engine_(std::make_unique<SessionEngine>(std::move(config), listener)) {}
+
+Session::~Session() = default;
+
+void Session::SetListener(SessionListener* listener) { engine_->listener = listener; }
+const SessionConfig& Session::Config() const { return engine_->config; }
+void Session::Connect() { engine_->Connect(); }
+void Session::Receive(std::span<const std::uint8_t> bytes) { engine_->Receive(bytes); }
+Repaint Session::KeyInput(HostKey key) { return engine_->KeyInput(key); }
+Repaint Session::TypeCharacter(std::uint8_t c) { return engine_->TypeCharacter(c); }
+const PresentationSpace& Session::Screen() const { return engine_->host.ps; }
+const FieldTable& Session::Fields() const { return engine_->host.fields; }
+bool Session::KeyboardLocked() const { return engine_->host.keyboard_locked; }
+ReadMode Session::CurrentReadMode() const { return engine_->host.read_mode; }
+bool Session::EchoFlag() const { return engine_->telnet.echo(); }
+bool Session::SuppressGoAheadFlag() const { return engine_->telnet.suppress_go_ahead(); }
+
+}  // namespace veltrix

@@ -1,0 +1,100 @@
+#include "tn5250/session_engine.h"
+
+#include "tn5250/telnet_receiver.h"
+
+namespace veltrix {
+
+SessionEngine::SessionEngine(SessionConfig cfg, SessionListener* l)
+    : config(std::move(cfg)),
+      listener(l),
+      host(*this),
+      inbound(host),
+      interpreter(host, inbound),
+      telnet(*this, config, *this),
+      keyboard(host, inbound) {
+  host.emulation_type = config.emulation_type;
+  Connect();
+}
+
+void SessionEngine::SendRaw(std::span<const std::uint8_t> bytes) {
+  if (listener != nullptr) listener->OnSend(bytes);
+}
+
+// A 0xFF inside a record is doubled, so that the host's Telnet layer does not take it for a
+// command; the record's length field still counts it once.
+void SessionEngine::SendRecord(std::span<const std::uint8_t> record) {
+  framed_.clear();
+  for (std::uint8_t b : record) {
+    framed_.push_back(b);
+    if (b == kIac) framed_.push_back(kIac);
+  }
+  framed_.push_back(kIac);
+  framed_.push_back(kEor);
+  SendRaw(framed_);
+}
+
+void SessionEngine::Trace(std::string_view text) {
+  if (listener != nullptr) listener->OnTrace(text);
+}
+
+void SessionEngine::Bell() {
+  if (listener != nullptr) listener->OnAlarm();
+}
+
+void SessionEngine::KeyboardLockChanged(bool locked) {
+  if (listener != nullptr) listener->OnKeyboardLockChanged(locked);
+}
+
+void SessionEngine::HostData(std::span<const std::uint8_t> bytes) {
+  interpreter.ProcessHostBytes(bytes);
+}
+
+void SessionEngine::Connect() {
+  interpreter.Reset();
+  host.ps.Reset();
+  host.fields.ClearCurrent();
+  host.read_mode = ReadMode::kNone;
+  host.SetKeyboardLocked(true);
+  host.changed = false;
+  telnet.Reset();
+}
+
+void SessionEngine::Receive(std::span<const std::uint8_t> bytes) {
+  telnet.Receive(bytes);
+  if (host.changed) {
+    host.changed = false;
+    if (listener != nullptr) listener->OnScreenChanged({ScreenChange::Kind::kWhole, 0, 0});
+  }
+}
+
+Repaint SessionEngine::Report(Repaint repaint, CellAddress before) {
+  if (host.changed) {
+    // The host-side flag is for received chunks; a key reports through its repaint code.
+    host.changed = false;
+  }
+  if (listener == nullptr || repaint == Repaint::kNothing) return repaint;
+  switch (repaint) {
+    case Repaint::kCaret:
+      listener->OnScreenChanged({ScreenChange::Kind::kCaret, 0, 0});
+      break;
+    case Repaint::kCell:
+      listener->OnScreenChanged({ScreenChange::Kind::kCell, before.row, before.column});
+      break;
+    default:
+      listener->OnScreenChanged({ScreenChange::Kind::kWhole, 0, 0});
+      break;
+  }
+  return repaint;
+}
+
+Repaint SessionEngine::KeyInput(HostKey key) {
+  const CellAddress before = host.ps.Cursor();
+  return Report(keyboard.KeyInput(key), before);
+}
+
+Repaint SessionEngine::TypeCharacter(std::uint8_t c) {
+  const CellAddress before = host.ps.Cursor();
+  return Report(keyboard.CharacterInput(c), before);
+}
+
+}  // namespace veltrix

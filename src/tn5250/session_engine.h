@@ -1,0 +1,48 @@
+#ifndef VELTRIX_TN5250_SESSION_ENGINE_H_
+#define VELTRIX_TN5250_SESSION_ENGINE_H_
+
+#include <vector>
+
+#include "tn5250/data_stream.h"
+#include "tn5250/host_context.h"
+#include "tn5250/inbound_records.h"
+#include "tn5250/keyboard.h"
+#include "tn5250/session.h"
+#include "tn5250/telnet_receiver.h"
+
+namespace veltrix {
+
+// Everything one session holds: the Telnet receiver, the interpreter, the keyboard and the
+// shared host context, wired to the listener.
+class SessionEngine : public EngineOutput, public TelnetDataSink {
+ public:
+  SessionEngine(SessionConfig config, SessionListener* listener);
+
+  void SendRaw(std::span<const std::uint8_t> bytes) override;
+  void SendRecord(std::span<const std::uint8_t> record) override;
+  void Trace(std::string_view text) override;
+  void Bell() override;
+  void KeyboardLockChanged(bool locked) override;
+  void HostData(std::span<const std::uint8_t> bytes) override;
+
+  void Connect();
+  void Receive(std::span<const std::uint8_t> bytes);
+  Repaint KeyInput(HostKey key);
+  Repaint TypeCharacter(std::uint8_t c);
+
+  SessionConfig config;
+  SessionListener* listener;
+  HostContext host;
+  InboundRecords inbound;
+  DataStreamInterpreter interpreter;
+  TelnetReceiver telnet;
+  Keyboard keyboard;
+
+ private:
+  Repaint Report(Repaint repaint, CellAddress before);
+  std::vector<std::uint8_t> framed_;
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_SESSION_ENGINE_H_

@@ -1,0 +1,40 @@
+#ifndef VELTRIX_TN5250_SESSION_LISTENER_H_
+#define VELTRIX_TN5250_SESSION_LISTENER_H_
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace veltrix {
+
+// Which part of the host screen has to be repainted.
+struct ScreenChange {
+  enum class Kind {
+    kCaret,  // only the caret moved
+    kCell,   // the cell at (row, column) and the caret
+    kWhole,  // the whole screen
+  };
+  Kind kind = Kind::kWhole;
+  int row = 0;
+  int column = 0;
+};
+
+// Events of a session engine. Every call happens inside Session::Receive or a key call, on
+// the caller's thread. The default implementations ignore the event.
+class SessionListener {
+ public:
+  virtual ~SessionListener() = default;
+  // Bytes to send to the host as they stand (Telnet answers, records already framed with
+  // IAC EOR). The span is valid only during the call.
+  virtual void OnSend(std::span<const std::uint8_t> bytes) { (void)bytes; }
+  virtual void OnScreenChanged(const ScreenChange& change) { (void)change; }
+  // The terminal's alarm (the bell).
+  virtual void OnAlarm() {}
+  // Diagnostic texts of the engine, each ending in "\r\n".
+  virtual void OnTrace(std::string_view text) { (void)text; }
+  virtual void OnKeyboardLockChanged(bool locked) { (void)locked; }
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_SESSION_LISTENER_H_

@@ -1,0 +1,158 @@
+// The 5250 commands: one small function each, reached through the command table.
+#include <algorithm>
+#include <array>
+
+#include "tn5250/data_stream.h"
+#include "tn5250/stream_items.h"
+
+namespace veltrix {
+
+namespace {
+
+using Item = std::span<const std::uint8_t>;
+
+void ClearUnit(DataStreamInterpreter& s, Item) {
+  HostContext& h = s.host();
+  h.ps.ClearPlanes();
+  h.fields.Clear();
+  h.ps.ForgetInsertCursor();
+  h.ps.SetErrorLine(false);
+  h.ps.SetCurrentAttribute(0);
+  h.SetKeyboardLocked(true);
+  h.MarkRepaint();
+}
+
+void ClearUnitAlternate(DataStreamInterpreter& s, Item) {
+  s.host().SetKeyboardLocked(true);
+  s.host().MarkRepaint();
+}
+
+void ClearFormatTable(DataStreamInterpreter& s, Item) {
+  s.host().fields.Clear();
+  s.host().SetKeyboardLocked(true);
+  s.host().MarkRepaint();
+  s.Trace("CLEAR FORMAT TABLE\r\n");
+}
+
+void WriteToDisplay(DataStreamInterpreter& s, Item item) {
+  if (item.size() >= 3) s.DoControlCharacters(item[1], item[2]);
+}
+
+void ReadCommand(DataStreamInterpreter& s, Item item, ReadMode mode) {
+  if (item.size() >= 3) s.DoControlCharacters(item[1], item[2]);
+  s.host().read_mode = mode;
+}
+
+void ReadInputFields(DataStreamInterpreter& s, Item item) {
+  ReadCommand(s, item, ReadMode::kInputFields);
+}
+void ReadMdtFields(DataStreamInterpreter& s, Item item) {
+  ReadCommand(s, item, ReadMode::kMdtFields);
+}
+void ReadMdtAlternate(DataStreamInterpreter& s, Item item) {
+  ReadCommand(s, item, ReadMode::kMdtAlternate);
+}
+
+void ReadImmediate(DataStreamInterpreter& s, Item) { s.inbound().SendReadImmediate(false); }
+void ReadImmediateAlternate(DataStreamInterpreter& s, Item) { s.inbound().SendReadImmediate(true); }
+
+void ReadScreen(DataStreamInterpreter& s, Item) {
+  s.Trace("Save Screen: just send 0x0d to host\r\n");
+  s.inbound().SendShortEnter();
+}
+
+void BeginErrorMessage(HostContext& h) {
+  h.MarkRepaint();
+  h.ps.SetErrorLine(true);
+  h.SetKeyboardLocked(true);
+  h.ps.SaveErrorRow();
+}
+
+void WriteErrorCode(DataStreamInterpreter& s, Item item) {
+  HostContext& h = s.host();
+  h.MarkRepaint();
+  h.ps.SetErrorLine(true);
+  h.SetKeyboardLocked(true);
+  std::size_t begin = 1;
+  if (item.size() >= 5 && item[1] == 0x13) {
+    h.ps.SetCursor(item[2] - 1, item[3] - 1);
+    begin = 4;
+  }
+  h.ps.SaveErrorRow();
+  h.ps.ClearErrorRow();
+  const int row = h.ps.ErrorRow();
+  int column = 0;
+  for (std::size_t i = begin; i < item.size() && column < h.ps.Columns(); ++i) {
+    const std::uint8_t b = item[i];
+    if (b == 0x04 || b == 0xFF || b == 0x00) break;
+    s.WriteMessageByte(b, row, column, false);
+  }
+}
+
+void WriteErrorCodeToWindow(DataStreamInterpreter& s, Item item) {
+  HostContext& h = s.host();
+  BeginErrorMessage(h);
+  if (item.size() < 3) return;
+  const int start = item[1];
+  const int end = item[2];
+  const int row = h.ps.ErrorRow();
+  for (int i = 0; i < end - start && std::size_t(3 + i) < item.size(); ++i) {
+    int column = start - 1 + i;
+    s.WriteMessageByte(item[3 + i], row, column, true);
+  }
+}
+
+void WriteStructuredField(DataStreamInterpreter& s, Item item) {
+  static constexpr std::array<std::uint8_t, 6> kQuery = {0xF3, 0x00, 0x05, 0xD9, 0x70, 0x00};
+  if (item.size() >= kQuery.size() && std::equal(kQuery.begin(), kQuery.end(), item.begin())) {
+    s.inbound().SendQueryReply();
+  }
+}
+
+// In the terminal's order; null handlers take the item and drop it.
+constexpr std::array<StreamItem, 25> kCommands = {{
+    {0x40, ClearUnit, 1, 0},
+    {0x20, ClearUnitAlternate, 2, 0},
+    {0x50, ClearFormatTable, 1, 0},
+    {0x11, WriteToDisplay, 3, 0},
+    {0x21, WriteErrorCode, kToNextEscape, 0},
+    {0x22, WriteErrorCodeToWindow, kToNextEscape, 0},
+    {0x42, ReadInputFields, 3, 0},
+    {0x52, ReadMdtFields, 3, 0},
+    {0x82, ReadMdtAlternate, 3, 0},
+    {0x72, ReadImmediate, 1, 0},
+    {0x83, ReadImmediateAlternate, 1, 0},
+    {0x62, ReadScreen, 1, 0},
+    {0x64, nullptr, 1, 0},
+    {0x66, nullptr, 1, 0},
+    {0x68, nullptr, 1, 0},
+    {0x6A, nullptr, 1, 0},
+    {0x6C, nullptr, 1, 0},
+    {0x02, ReadScreen, 1, 0},          // Save Screen is answered as Read Screen
+    {0x03, nullptr, 6, 0},             // Save Partial Screen
+    {0x12, nullptr, kToRecordEnd, 0},  // Restore Screen
+    {0x13, nullptr, -2, 2},            // Restore Partial Screen
+    {0x23, nullptr, 4, 0},             // Roll
+    {0xF3, WriteStructuredField, kToRecordEnd, 0},
+    {0xF4, nullptr, -1, 2},
+    {0x16, nullptr, 3, 0},
+}};
+
+template <std::size_t N>
+constexpr std::array<std::int8_t, 256> MakeIndex(const std::array<StreamItem, N>& items) {
+  std::array<std::int8_t, 256> index{};
+  index.fill(-1);
+  for (std::size_t i = N; i-- > 0;) index[items[i].code] = static_cast<std::int8_t>(i);
+  return index;
+}
+
+constexpr std::array<std::int8_t, 256> kCommandIndex = MakeIndex(kCommands);
+
+}  // namespace
+
+const StreamItem* FindCommand(std::uint8_t code) {
+  const int i = kCommandIndex[code];
+  return i < 0 ? nullptr : &kCommands[i];
+}
+
+}  // namespace veltrix

@@ -1,0 +1,82 @@
+#ifndef VELTRIX_TN5250_TELNET_RECEIVER_H_
+#define VELTRIX_TN5250_TELNET_RECEIVER_H_
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "tn5250/host_context.h"
+
+namespace veltrix {
+
+// Telnet bytes.
+inline constexpr std::uint8_t kIac = 0xFF;
+inline constexpr std::uint8_t kDont = 0xFE;
+inline constexpr std::uint8_t kDo = 0xFD;
+inline constexpr std::uint8_t kWont = 0xFC;
+inline constexpr std::uint8_t kWill = 0xFB;
+inline constexpr std::uint8_t kSb = 0xFA;
+inline constexpr std::uint8_t kSe = 0xF0;
+inline constexpr std::uint8_t kEor = 0xEF;
+
+// Telnet options the terminal knows.
+inline constexpr std::uint8_t kOptBinary = 0;
+inline constexpr std::uint8_t kOptEcho = 1;
+inline constexpr std::uint8_t kOptSuppressGoAhead = 3;
+inline constexpr std::uint8_t kOptTerminalType = 24;
+inline constexpr std::uint8_t kOptEndOfRecord = 25;
+inline constexpr std::uint8_t kOptNaws = 31;
+inline constexpr std::uint8_t kOptNewEnviron = 39;
+
+// Subnegotiations longer than this are cut; real hosts send a few bytes.
+inline constexpr int kSubnegotiationCapacity = 256;
+
+// Receives the data bytes that the Telnet layer passes on.
+class TelnetDataSink {
+ public:
+  virtual ~TelnetDataSink() = default;
+  virtual void HostData(std::span<const std::uint8_t> bytes) = 0;
+};
+
+// The receiving side of Telnet (`TelnetReceiveByte`): strips commands, answers the host's
+// option negotiation and hands every data byte on. It never starts a negotiation itself.
+class TelnetReceiver {
+ public:
+  TelnetReceiver(EngineOutput& out, const SessionConfig& config, TelnetDataSink& sink);
+
+  // A new connection: state 0, buffer empty, echo flag clear, suppress-go-ahead flag set.
+  void Reset();
+  void Receive(std::span<const std::uint8_t> bytes);
+
+  bool echo() const { return echo_; }
+  bool suppress_go_ahead() const { return suppress_go_ahead_; }
+
+  // Used by the option handlers.
+  void SendAnswer(std::uint8_t verb, std::uint8_t option);
+  void Accept(std::uint8_t command, std::uint8_t option);
+  void Refuse(std::uint8_t command, std::uint8_t option);
+  void Send(std::span<const std::uint8_t> bytes) { out_.SendRaw(bytes); }
+  std::span<const std::uint8_t> Subnegotiation() const {
+    return {subnegotiation_.data(), std::size_t(subnegotiation_count_)};
+  }
+  const SessionConfig& config() const { return config_; }
+  bool echo_ = false;
+  bool suppress_go_ahead_ = true;
+
+ private:
+  enum class State { kData, kIac, kOption };
+  void Command(std::uint8_t b);
+  void Option(std::uint8_t b);
+
+  EngineOutput& out_;
+  const SessionConfig& config_;
+  TelnetDataSink& sink_;
+  State state_ = State::kData;
+  std::uint8_t saved_command_ = 0;
+  std::array<std::uint8_t, kSubnegotiationCapacity> subnegotiation_{};
+  int subnegotiation_count_ = 0;
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_TELNET_RECEIVER_H_

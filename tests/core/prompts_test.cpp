@@ -1,0 +1,144 @@
+#include "settings/prompts/prompts.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+
+#include "settings/prompts/prompt_editor.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument(int product) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, product);
+  return doc;
+}
+
+std::string SlotBytes(const Document& doc, int screen, int line) {
+  const auto bytes =
+      FieldBytes(std::span<const std::uint8_t>(doc.record), kPromptText, PromptSlot(screen, line));
+  return std::string(bytes.begin(), bytes.end());
+}
+
+// A default slot: the text padded to `width`, its NUL, then the zeros New left behind.
+std::string DefaultSlot(std::string_view text, std::size_t width) {
+  std::string slot(text);
+  slot.resize(width, ' ');
+  slot.resize(kPromptSlotWidth, '\0');
+  return slot;
+}
+
+TEST(PromptScreens, OffsetsMatchTheTerminalLayout) {
+  constexpr std::array<std::uint32_t, 12> kOffsets{82,   246,  574,  902,  1230, 1394,
+                                                   1558, 1722, 1886, 2050, 2214, 2542};
+  for (int s = 0; s < kPromptScreenCount; ++s) {
+    EXPECT_EQ(kOffsets[s], kPromptText.OffsetOf(PromptSlot(s, 0))) << "screen " << s + 1;
+  }
+  EXPECT_EQ(-1, PromptSlot(0, 4));
+  EXPECT_EQ(67, PromptSlot(11, 7));
+  EXPECT_EQ(-1, PromptSlot(12, 0));
+  EXPECT_EQ(-1, PromptSlot(-1, 0));
+}
+
+struct SlotCase {
+  int product;
+  int screen;
+  int line;
+  const char* text;
+  std::size_t width;
+};
+
+class PromptDefaultsTest : public ::testing::TestWithParam<SlotCase> {};
+
+TEST_P(PromptDefaultsTest, SlotIsByteExact) {
+  const SlotCase& c = GetParam();
+  auto doc = NewDocument(c.product);
+  EXPECT_EQ(DefaultSlot(c.text, c.width), SlotBytes(*doc, c.screen, c.line));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Slots, PromptDefaultsTest,
+    ::testing::Values(
+        SlotCase{1, 0, 0, "1. Telnet", 12}, SlotCase{2, 0, 0, "1. Telnet", 15},
+        SlotCase{1, 0, 3, "", 12}, SlotCase{2, 0, 3, "", 15},
+        SlotCase{1, 1, 0, "1.TCP/IP Setting", 16}, SlotCase{2, 1, 5, "6.Set Date & Time", 20},
+        SlotCase{1, 3, 7, "8.Trim Spaces", 16}, SlotCase{2, 3, 7, "8. Trim Spaces", 20},
+        SlotCase{2, 4, 2, "Turn baclight off if", 20}, SlotCase{1, 9, 3, "Download NG!", 12},
+        SlotCase{2, 9, 3, "Download failed", 15}, SlotCase{1, 10, 6, "Out of range!", 16},
+        SlotCase{2, 10, 6, "Value out of range!", 20}, SlotCase{2, 10, 7, "", 20},
+        SlotCase{1, 11, 7, "", 16}, SlotCase{2, 11, 5, " New :", 20}));
+
+TEST(PromptDefaults, VariantThreeEqualsDravinR) {
+  auto r = NewDocument(2);
+  auto three = NewDocument(3);
+  EXPECT_TRUE(
+      std::equal(r->record.begin() + 82, r->record.begin() + 2870, three->record.begin() + 82));
+}
+
+TEST(PromptDefaults, NoProductCopiesNothing) {
+  auto doc = NewDocument(0);
+  EXPECT_TRUE(std::all_of(doc->record.begin() + 82, doc->record.begin() + 2870,
+                          [](auto b) { return b == 0; }));
+  doc->record[82] = 'x';
+  SetPromptDefaults(*doc);
+  EXPECT_EQ('x', doc->record[82]);
+  doc->record[kProductOffset] = 7;  // a file with a product this version does not know
+  SetPromptDefaults(*doc);
+  EXPECT_EQ('x', doc->record[82]);
+}
+
+// Every default fits its variant's width, so padding gives exactly that width.
+TEST(PromptDefaults, EveryTextHasItsVariantWidth) {
+  for (int variant = 1; variant <= 3; ++variant) {
+    for (int s = 0; s < kPromptScreenCount; ++s) {
+      for (int k = 0; k < kPromptScreens[s].slots; ++k) {
+        EXPECT_EQ(static_cast<std::size_t>(PromptDefaultWidth(variant, s)),
+                  PromptDefaultText(variant, s, k).size())
+            << "variant " << variant << " screen " << s + 1 << " line " << k + 1;
+      }
+    }
+  }
+}
+
+TEST(PromptDefaults, DefaultsKeepBytesBehindTheirNul) {
+  auto doc = NewDocument(1);
+  std::fill_n(doc->record.begin() + 82, 41, 'z');
+  SetPromptDefaults(*doc);
+  EXPECT_EQ(std::string("1. Telnet   \0zzzzzzzzzzzzzzzzzzzzzzzzzzzz", 41), SlotBytes(*doc, 0, 0));
+}
+
+TEST(PromptNames, CarryTheProductsScreenSizesPaddedTo30) {
+  const std::vector<std::string> s = PromptScreenNames(1);
+  const std::vector<std::string> r = PromptScreenNames(2);
+  ASSERT_EQ(12u, s.size());
+  ASSERT_EQ(12u, r.size());
+  EXPECT_EQ("Main Menu (12*2)              ", s[0]);
+  EXPECT_EQ("Main Menu (15*2)              ", r[0]);
+  EXPECT_EQ("Emulation Settings (16*8)     ", s[3]);
+  EXPECT_EQ("Download Messages (15*4)      ", r[9]);
+  EXPECT_EQ("Error Messages (20*7)         ", r[10]);
+  EXPECT_EQ("Miscellaneous (16*6)          ", s[11]);
+  EXPECT_EQ(r, PromptScreenNames(3));
+  EXPECT_TRUE(PromptScreenNames(0).empty());
+  for (const std::string& name : s) EXPECT_EQ(30u, name.size());
+}
+
+TEST(PromptPadding, EverySlotBecomes40CharactersAndANul) {
+  auto doc = NewDocument(2);
+  std::fill_n(doc->record.begin() + PromptSlot(1, 0) * 41 + 82, 41, 'q');  // no NUL at all
+  PadPromptsForTerminal(*doc);
+  for (int slot = 0; slot < kPromptSlotCount; ++slot) {
+    const std::string text = ReadText(doc->record, kPromptText, slot);
+    EXPECT_EQ(40u, text.size()) << "slot " << slot;
+    EXPECT_EQ(0, doc->record[82 + slot * 41 + 40]);
+  }
+  EXPECT_EQ(std::string(40, 'q'), ReadText(doc->record, kPromptText, PromptSlot(1, 0)));
+  EXPECT_EQ("1. Telnet" + std::string(31, ' '), ReadText(doc->record, kPromptText, 0));
+  EXPECT_EQ(0, doc->record[2870]) << "nothing behind the last slot is touched";
+}
+
+}  // namespace
+}  // namespace veltrix

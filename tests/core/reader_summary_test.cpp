@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+#include "settings/reader/linear_fields.h"
+#include "settings/reader/reader_record_fields.h"
+#include "settings/reader/reader_settings.h"
+#include "settings/reader/two_d_fields.h"
+#include "settings/reader/working_block.h"
+#include "shell/summary.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument(int product) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, product);
+  return doc;
+}
+
+std::string RenderBardode(const Document& doc) {
+  SummaryNode bardode{"Bardode", {}};
+  AppendReaderSummary(doc, bardode);
+  return RenderSummaryText({bardode});
+}
+
+std::string GoldenPath(const std::string& name) {
+  return std::string(VELTRIX_SOURCE_DIR) + "/tests/core/golden/summary/" + name;
+}
+
+// With VELTRIX_UPDATE_GOLDEN set the golden file is rewritten from the output.
+void ExpectMatchesGolden(const Document& doc, const std::string& name) {
+  const std::string actual = RenderBardode(doc);
+  if (std::getenv("VELTRIX_UPDATE_GOLDEN") != nullptr) {
+    std::ofstream(GoldenPath(name), std::ios::binary) << actual;
+  }
+  std::ifstream in(GoldenPath(name), std::ios::binary);
+  ASSERT_TRUE(in) << "missing golden file " << name;
+  std::stringstream expected;
+  expected << in.rdbuf();
+  EXPECT_EQ(expected.str(), actual) << name;
+}
+
+class BardodeDefaults : public ::testing::TestWithParam<int> {};
+
+TEST_P(BardodeDefaults, MatchGolden) {
+  ExpectMatchesGolden(*NewDocument(GetParam()), "bardode_defaults.txt");
+}
+
+INSTANTIATE_TEST_SUITE_P(Products, BardodeDefaults, ::testing::Values(1, 2));
+
+// The summary shows the linear set whatever the reader: a two-dimensional reader with changed
+// two-dimensional options reads the same as the defaults.
+TEST(BardodeSummary, TwoDimensionalReaderStillShowsTheLinearSet) {
+  auto doc = NewDocument(2);
+  WriteNumber(doc->record, kReaderType, 1);
+  WriteNumber(doc->record, kRfidReader, 1);
+  WriteWorking(*doc, kTwoDCode39, 0);
+  WriteWorking(*doc, kTwoDQrCode, 0);
+  WriteWorking(*doc, kTwoDList401, 3);
+  CopyReaderBlocksToRecord(*doc);
+  ExpectMatchesGolden(*doc, "bardode_defaults.txt");
+}
+
+TEST(BardodeSummary, ChangedSymbologyOptions) {
+  auto doc = NewDocument(1);
+  const std::array<std::pair<const FieldDef*, std::uint32_t>, 31> changes{{
+      {&kScanMode, 8},
+      {&kReadRedundancy, 3},
+      {&kTimeOut, 255},
+      {&kNegativeBarcode, 1},
+      {&kCode39, 0},
+      {&kCode39FullAscii, 1},
+      {&kCode39TransmitStartStop, 1},
+      {&kItalianPharmacode, 1},
+      {&kItalianPharmacodeTransmitChecksum, 0},
+      {&kIndustrial25StartStop, 2},
+      {&kIndustrial25VerifyChecksum, 1},
+      {&kCodabarStartStopCharacter, 3},
+      {&kCodabarTransmitStartStop, 1},
+      {&kMsi, 1},
+      {&kMsiChecksumVerification, 2},
+      {&kMsiChecksumTransmission, 2},
+      {&kPlessey, 1},
+      {&kPlesseyConvertToUkPlessey, 1},
+      {&kUpceAddon5, 1},
+      {&kEan8ConvertToEan13, 1},
+      {&kEan13Addon2, 1},
+      {&kEan13IssnConversion, 1},
+      {&kUpcaTransmitSystemNumber, 0},
+      {&kRss14, 1},
+      {&kRss14TransmitApplicationId, 0},
+      {&kRss14Expanded, 1},
+      {&kRss14ExpandedTransmitCodeId, 0},
+      {&kTelepen, 1},
+      {&kTelepenFormat, 1},
+      {&kCode93, 0},
+      {&kCode128, 0},
+  }};
+  for (const auto& [field, value] : changes) WriteWorking(*doc, *field, value);
+  auto industrial = WorkingBytes(*doc, kIndustrial25Length);
+  industrial[0] = 10;  // "Fixed Length" 10 and 20
+  industrial[1] = 20;
+  auto msi = WorkingBytes(*doc, kMsiLength);
+  msi[0] = 0x85;  // "Max / Min Length" 5 and 2
+  msi[1] = 2;
+  ExpectMatchesGolden(*doc, "bardode_options_changed.txt");
+}
+
+TEST(BardodeSummary, AdvancedSettingsWithPrefixAndSuffixCodes) {
+  std::array<std::uint8_t, 1> enter{13};
+  if (KeyNamesText(enter, 1, KeyNameMode::kNames).empty()) {
+    GTEST_SKIP() << "key names are not rendered yet";
+  }
+  auto doc = NewDocument(1);
+  WriteNumber(doc->record, kCheckLeadingCode, 1);
+  WriteText(doc->record, kLeadingCode, "AB9");
+  WriteNumber(doc->record, kReadPartialCode, 1);
+  WriteNumber(doc->record, kStartPosition, 5);
+  WriteNumber(doc->record, kMaximumLength, 20);
+  WriteNumber(doc->record, kAddPrefixCode, 1);
+  const std::array<std::uint8_t, 10> prefix{13, 65, 0, 66};  // stops at the zero byte
+  std::copy(prefix.begin(), prefix.end(), doc->record.begin() + kPrefixCode.offset);
+  WriteNumber(doc->record, kAddSuffixCode, 1);
+  const std::array<std::uint8_t, 10> suffix{15, 32, 200, 127};
+  std::copy(suffix.begin(), suffix.end(), doc->record.begin() + kSuffixCode.offset);
+  WriteNumber(doc->record, kGoodBeep, 2);
+  WriteNumber(doc->record, kScanControl, 1);
+  WriteNumber(doc->record, kScanSwitchKeyName, 10);
+  ExpectMatchesGolden(*doc, "bardode_prefix_suffix.txt");
+}
+
+// The page and its dialogs edit the working block; the summary shows what they changed even
+// before the block is copied into the record.
+TEST(BardodeSummary, ReadsTheLinearWorkingCopy) {
+  auto doc = NewDocument(1);
+  WriteWorking(*doc, kScanMode, 1);
+  EXPECT_EQ(6u, ReadNumber(doc->record, kScanMode));
+  SummaryNode bardode{"Bardode", {}};
+  AppendReaderSummary(*doc, bardode);
+  EXPECT_EQ("Scan Mode : Continuous", bardode.children[0].children[0].text);
+}
+
+struct UnknownValueCase {
+  const char* name;
+  const FieldDef* field;
+  std::uint32_t value;
+  int item;  // 0 reader settings, 2 advanced
+  int line;
+  const char* want;
+};
+
+class BardodeUnknownValue : public ::testing::TestWithParam<UnknownValueCase> {};
+
+TEST_P(BardodeUnknownValue, ShowsTheNumber) {
+  auto doc = NewDocument(1);
+  WriteWorking(*doc, *GetParam().field, GetParam().value);
+  SummaryNode bardode{"Bardode", {}};
+  AppendReaderSummary(*doc, bardode);
+  EXPECT_EQ(GetParam().want, bardode.children[GetParam().item].children[GetParam().line].text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, BardodeUnknownValue,
+    ::testing::Values(UnknownValueCase{"ScanMode", &kScanMode, 12, 0, 0, "Scan Mode : 12"},
+                      UnknownValueCase{"AutoEnter", &kAutoEnter, 2, 2, 9, "Auto Enter : 2"},
+                      UnknownValueCase{"GoodBeep", &kGoodBeep, 7, 2, 10, "Good Beep : 7"},
+                      UnknownValueCase{"ScanControl", &kScanControl, 3, 2, 11, "Scan Control : 3"},
+                      UnknownValueCase{"SwitchKey", &kScanSwitchKeyName, 11, 2, 12,
+                                       "Scan SwitchKey Name : 11"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(BardodeSummary, UnknownStartStopSelectionShowsTheNumber) {
+  auto doc = NewDocument(1);
+  WriteWorking(*doc, kIndustrial25StartStop, 3);
+  SummaryNode bardode{"Bardode", {}};
+  AppendReaderSummary(*doc, bardode);
+  EXPECT_EQ("Start / Stop Selection : 3", bardode.children[1].children[3].children[0].text);
+}
+
+}  // namespace
+}  // namespace veltrix

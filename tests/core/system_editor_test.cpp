@@ -1,0 +1,94 @@
+#include "settings/system/system_editor.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "settings/prompts/prompts.h"
+#include "settings/system/system_settings.h"
+
+namespace veltrix {
+namespace {
+
+class SystemEditorTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    doc_ = std::make_unique<Document>();
+    SetDefaults(*doc_, 1);
+    doc_->modified = true;
+    editor_ = std::make_unique<SystemEditor>(*doc_);
+    editor_->Initialise();
+  }
+  std::unique_ptr<Document> doc_;
+  std::unique_ptr<SystemEditor> editor_;
+};
+
+TEST_F(SystemEditorTest, InitialiseClearsTheModifiedFlag) { EXPECT_FALSE(doc_->modified); }
+
+TEST_F(SystemEditorTest, AutoPowerOffWithLeadingZeroIsStoredInBothBytes) {
+  const NumericEdit edit = editor_->EditAutoPowerOff("0300");
+  EXPECT_EQ("300", edit.rewrite.value_or(""));
+  EXPECT_EQ(44, doc_->record[26]);
+  EXPECT_EQ(1, doc_->record[62]);
+  EXPECT_EQ(300u, editor_->Value(kAutoPowerOff));
+}
+
+TEST_F(SystemEditorTest, IdleEditIsClampedAndStored) {
+  editor_->EditIdle("12");
+  EXPECT_EQ(9, doc_->record[29]);
+  editor_->EditIdle("0");
+  EXPECT_EQ(1, doc_->record[29]);
+}
+
+TEST_F(SystemEditorTest, SetValueIgnoresValuesOutsideTheFieldRange) {
+  editor_->SetValue(kDownloadVia, 2);
+  editor_->SetValue(kDownloadVia, -1);  // a combo without selection
+  editor_->SetValue(kDownloadVia, 4);
+  EXPECT_EQ(2u, editor_->Value(kDownloadVia));
+  editor_->SetValue(kPassword, 1);
+  EXPECT_EQ("", editor_->Password());
+}
+
+TEST_F(SystemEditorTest, ResetBringsBackDefaultsAndTheFirstScreen) {
+  editor_->EditAutoPowerOff("300");
+  editor_->SelectScreen(2);
+  editor_->EditPromptLine(0, "changed");
+  editor_->EditPassword("42");
+  editor_->Reset();
+  EXPECT_EQ(180u, editor_->Value(kAutoPowerOff));
+  EXPECT_EQ("", editor_->Password());
+  EXPECT_EQ(0, editor_->prompts().selected());
+  EXPECT_EQ("1. Subnet Mask  ", ReadText(doc_->record, kPromptText, PromptSlot(2, 0)));
+  EXPECT_EQ("1. Subnet Mask  ", editor_->prompts().Line(2, 0));
+}
+
+TEST_F(SystemEditorTest, CancelWithoutApplyRestoresTheSnapshot) {
+  const SettingsRecord before = doc_->record;
+  editor_->SetValue(kPowerOn, 1);
+  editor_->EditPassword("secret");
+  editor_->EditPromptLine(1, "x");
+  editor_->QueryCancel();
+  EXPECT_EQ(before, doc_->record);
+  EXPECT_FALSE(doc_->modified);
+}
+
+TEST_F(SystemEditorTest, ApplyPadsSetsModifiedAndCancelThenKeepsTheRecord) {
+  editor_->EditPassword("123456789");
+  editor_->EditPassword("12");
+  editor_->Apply();
+  EXPECT_TRUE(doc_->modified);
+  for (int k = 3; k < 10; ++k) EXPECT_EQ(0, doc_->record[kPassword.offset + k]);
+  EXPECT_EQ(40u, ReadText(doc_->record, kPromptText, 0).size());
+  const SettingsRecord applied = doc_->record;
+  editor_->QueryCancel();
+  EXPECT_EQ(applied, doc_->record);
+}
+
+TEST_F(SystemEditorTest, ScreenNamesFollowTheProduct) {
+  EXPECT_EQ("Main Menu (12*2)              ", editor_->ScreenNames().front());
+  editor_->SelectScreen(10);
+  EXPECT_FALSE(editor_->Rows()[7].enabled);
+}
+
+}  // namespace
+}  // namespace veltrix

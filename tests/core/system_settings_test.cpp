@@ -1,0 +1,134 @@
+#include "settings/system/system_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+#include "settings/field_registry.h"
+#include "settings/prompts/prompts.h"
+#include "settings/system/system_editor.h"
+#include "shell/summary.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument(int product) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, product);
+  return doc;
+}
+
+class SystemDefaultsTest : public ::testing::TestWithParam<int> {};
+
+// Bytes 25 to 81 after New, whatever the product.
+TEST_P(SystemDefaultsTest, SectionIsByteExact) {
+  auto doc = NewDocument(GetParam());
+  std::array<std::uint8_t, 57> expected{};  // bytes 25..81
+  expected[25 - 25] = 0;                    // resume the program
+  expected[26 - 25] = 180;                  // 180 seconds, low byte
+  expected[27 - 25] = 1;                    // key click on
+  expected[29 - 25] = 2;                    // 20 seconds
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_EQ(expected[i], doc->record[25 + i]) << "byte " << 25 + i;
+  }
+}
+
+TEST_P(SystemDefaultsTest, ResetRestoresEveryByteAfterChanges) {
+  auto doc = NewDocument(GetParam());
+  const SettingsRecord fresh = doc->record;
+  for (std::size_t i = 25; i <= 62; ++i) doc->record[i] = 0xA5;
+  SetSystemDefaults(*doc);
+  EXPECT_EQ(fresh, doc->record);
+}
+
+INSTANTIATE_TEST_SUITE_P(Products, SystemDefaultsTest, ::testing::Values(0, 1, 2));
+
+TEST(SystemFields, AreRegisteredByName) {
+  for (const FieldDef* f : SystemFields()) EXPECT_EQ(f, FindField(f->name)) << f->name;
+  EXPECT_EQ(&kAutoPowerOff, FindField("AutoPowerOff"));
+  EXPECT_EQ(&kPromptText, FindField("PromptText"));
+}
+
+TEST(SystemFields, AutoPowerOffSplitsAcrossBytes26And62) {
+  auto doc = NewDocument(1);
+  WriteNumber(doc->record, kAutoPowerOff, 300);
+  EXPECT_EQ(44, doc->record[26]);
+  EXPECT_EQ(1, doc->record[62]);
+  EXPECT_EQ(300u, ReadNumber(doc->record, kAutoPowerOff));
+}
+
+// ---- summary, compared with golden text files ---------------------------------------------------
+
+std::string GoldenPath(const std::string& name) {
+  return std::string(VELTRIX_SOURCE_DIR) + "/tests/core/golden/summary/" + name;
+}
+
+// Renders the "System" branch; with VELTRIX_UPDATE_GOLDEN set the golden file is rewritten.
+void ExpectSummaryMatchesGolden(const Document& doc, const std::string& name) {
+  SummaryNode system{"System", {}};
+  AppendSystemSummary(doc, system);
+  const std::string actual = RenderSummaryText({system});
+  if (std::getenv("VELTRIX_UPDATE_GOLDEN") != nullptr) {
+    std::ofstream(GoldenPath(name), std::ios::binary) << actual;
+  }
+  std::ifstream in(GoldenPath(name), std::ios::binary);
+  ASSERT_TRUE(in) << "missing golden file " << name;
+  std::stringstream expected;
+  expected << in.rdbuf();
+  EXPECT_EQ(expected.str(), actual) << name;
+}
+
+TEST(SystemSummary, DefaultsOfDravinS) {
+  ExpectSummaryMatchesGolden(*NewDocument(1), "system_product1.txt");
+}
+
+TEST(SystemSummary, DefaultsOfDravinR) {
+  ExpectSummaryMatchesGolden(*NewDocument(2), "system_product2.txt");
+}
+
+TEST(SystemSummary, ChangedFields) {
+  auto doc = NewDocument(2);
+  SystemEditor editor(*doc);
+  editor.Initialise();
+  editor.SetValue(kPowerOn, 1);
+  editor.EditAutoPowerOff("300");
+  editor.SetValue(kBacklight, 1);
+  editor.EditIdle("9");
+  editor.SetValue(kDownloadVia, 3);
+  editor.SetValue(kBaudRate, 2);
+  editor.SetValue(kKeyClick, 0);
+  editor.EditPassword("1234");
+  for (const SecurityFlag& flag : kSecurityFlags) editor.SetValue(*flag.field, 1);
+  editor.SelectScreen(0);
+  editor.EditPromptLine(0, "1. Host");
+  ExpectSummaryMatchesGolden(*doc, "system_changed.txt");
+}
+
+// After OK every text is 40 characters with blanks behind; the empty password line ends after
+// the colon and blank.
+TEST(SystemSummary, AppliedDravinSWithEmptyPassword) {
+  auto doc = NewDocument(1);
+  SystemEditor editor(*doc);
+  editor.Initialise();
+  editor.EditPassword("");
+  editor.Apply();
+  ExpectSummaryMatchesGolden(*doc, "system_applied_empty_password.txt");
+}
+
+TEST(SystemSummary, UnknownValuesShowTheirNumbers) {
+  auto doc = NewDocument(1);
+  doc->record[kDownloadVia.offset] = 9;
+  doc->record[kBaudRate.offset] = 200;
+  SummaryNode system{"System", {}};
+  AppendSystemSummary(*doc, system);
+  EXPECT_EQ("Download via : 9", system.children[4].text);
+  EXPECT_EQ("Baud Rate : 200", system.children[5].text);
+}
+
+}  // namespace
+}  // namespace veltrix
