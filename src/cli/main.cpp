@@ -1,12 +1,32 @@
-#include <cstdio>
-#include <cstring>
+#include <algorithm>
+#include <iostream>
+#include <span>
+#include <string>
+#include <vector>
 
-// Placeholder until the command-line tool lands.
+#include "cli/cli_command.h"
+
 int main(int argc, char** argv) {
-  if (argc < 2 || std::strcmp(argv[1], "--help") == 0) {
-    std::puts("usage: veltrix-cli COMMAND ...");
-    return argc < 2 ? 2 : 0;
+  using namespace veltrix::cli;
+  CliIo io{std::cout, std::cerr};
+  const std::vector<std::string> args(argv + std::min(argc, 1), argv + argc);
+  if (args.empty()) {
+    PrintHelp(std::cerr);
+    return kExitUsage;
   }
-  std::fprintf(stderr, "veltrix-cli: unknown command '%s'\n", argv[1]);
-  return 2;
+  if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
+    PrintHelp(std::cout);
+    return kExitOk;
+  }
+  const Command* command = FindCommand(args[0]);
+  if (!command) return Fail(io, "unknown command '" + args[0] + "' (see veltrix-cli --help)");
+  const std::span<const std::string> rest = std::span(args).subspan(1);
+  if (!rest.empty() && (rest[0] == "--help" || rest[0] == "-h")) {
+    std::cout << "usage: veltrix-cli " << command->name << ' ' << command->usage << '\n'
+              << command->description << '\n';
+    return kExitOk;
+  }
+  const int status = command->run(rest, io);
+  std::cout.flush();
+  return status;
 }

@@ -22,6 +22,9 @@ constexpr StringEntry kStrings[] = {
     {3002, "Dravin S"},
     {3003, "Dravin R"},
     // ---- summary information -----------------------------------------------------------------
+    {4001, "Quarvel"},
+    {4002, "1.0"},
+    {4003, "Copyright (C) Quarvel. All rights reserved."},
 };
 
 }  // namespace

@@ -11,12 +11,23 @@
 #include "settings/system/system_settings.h"
 
 namespace veltrix {
+namespace {
+
+// The record's header: the format tag is restamped on every open and not offered as a field.
+constexpr FieldDef kProductIndex{.name = "ProductIndex",
+                                 .offset = kProductOffset,
+                                 .max = kProductCount,
+                                 .meaning = "0 no product, 1 Dravin S, 2 Dravin R"};
+constexpr const FieldDef* kHeaderFields[] = {&kProductIndex};
+
+}  // namespace
 
 std::span<const FieldDef* const> AllFields() {
   static const std::vector<const FieldDef*> all = [] {
     std::vector<const FieldDef*> v;
-    for (auto section : {SystemFields(), PromptFields(), ReaderFields(), NetworkFields(),
-                         EmulationFields(), FunctionKeyFields(), ScreenPageFields()}) {
+    for (auto section : {std::span<const FieldDef* const>(kHeaderFields), SystemFields(),
+                         PromptFields(), ReaderFields(), NetworkFields(), EmulationFields(),
+                         FunctionKeyFields(), ScreenPageFields()}) {
       v.insert(v.end(), section.begin(), section.end());
     }
     return v;

@@ -1,21 +1,189 @@
 #include "settings/settings_file.h"
 
-namespace veltrix {
+#include <algorithm>
+#include <cctype>
+#include <climits>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string_view>
+#include <system_error>
+#include <vector>
 
-// Stubs until the settings file lands.
+#include "capture/screen_pages.h"
+#include "resources/strings.h"
+#include "settings/emulation/emulation_settings.h"
+#include "settings/emulation/function_keys.h"
+#include "settings/reader/reader_settings.h"
+
+namespace veltrix {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kCurrentTag{"I100\0", kFormatTagWidth};
+constexpr int kMinimumVersion = 100;
+constexpr char kCurrentLayout = 'I';
+constexpr char kPreviousLayout = 'V';
+
+bool IsBlank(std::uint8_t c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+// Copies the file's bytes over the record and then the page records, in file order; whatever
+// the file does not hold keeps its former contents.
+void CopyFileImage(std::span<const std::uint8_t> image, Document& doc) {
+  const std::size_t in_record = std::min(image.size(), kRecordSize);
+  std::copy_n(image.begin(), in_record, doc.record.begin());
+  image = image.subspan(in_record);
+  for (PageRecord& page : doc.pages) {
+    const std::size_t n = std::min(image.size(), kPageRecordSize);
+    std::copy_n(image.begin(), n, page.begin());
+    image = image.subspan(n);
+  }
+}
+
+// The previous layout differs in the screen pages, the function key mapping, a few reader bytes
+// and the message settings; everything else is read with the current offsets.
+void ConvertPreviousLayout(Document& doc) {
+  WriteNumber(doc.record, kScreensLoaded, 0);
+  WriteNumber(doc.record, kTotalPages, 0);
+  for (PageRecord& page : doc.pages) page.fill(0);
+  SetFunctionKeyDefaults(doc);
+  ConvertPreviousReaderLayout(doc);
+  SetEmulationMessageDefaults(doc);
+}
+
+int ProductCount() { return static_cast<int>(ProductNames().size()); }
+
+// A name for the temporary file beside `target` that no one else is likely to use.
+fs::path TemporaryPathFor(const fs::path& target) {
+  static std::mt19937_64 random{std::random_device{}()};
+  static constexpr char kHex[] = "0123456789abcdef";
+  std::string suffix = ".tmp-";
+  for (std::uint64_t r = random(), i = 0; i < 12; ++i, r >>= 4) suffix += kHex[r & 0xF];
+  fs::path temp = target;
+  temp += suffix;
+  return temp;
+}
+
+bool WriteImage(const Document& doc, const fs::path& path) {
+  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  if (!out) return false;
+  auto write = [&out](std::span<const std::uint8_t> bytes) {
+    out.write(reinterpret_cast<const char*>(bytes.data()),
+              static_cast<std::streamsize>(bytes.size()));
+  };
+  write(doc.record);
+  for (const PageRecord& page : doc.pages) write(page);
+  out.close();
+  return static_cast<bool>(out);
+}
+
+}  // namespace
+
+int FormatVersion(std::span<const std::uint8_t> record) {
+  if (record.empty() || (record[0] != kCurrentLayout && record[0] != kPreviousLayout)) return 0;
+  std::size_t i = 1;
+  while (i < record.size() && IsBlank(record[i])) ++i;
+  bool negative = false;
+  if (i < record.size() && (record[i] == '+' || record[i] == '-')) negative = record[i++] == '-';
+  long long value = 0;
+  for (; i < record.size() && record[i] >= '0' && record[i] <= '9'; ++i) {
+    value = std::min<long long>(value * 10 + (record[i] - '0'), INT_MAX);  // saturate, never wrap
+  }
+  return static_cast<int>(negative ? -value : value);
+}
+
+void CopyWorkingBlocksToRecord(Document& doc) {
+  std::ranges::copy(doc.reader_block1, doc.record.begin() + kReaderBlock1Offset);
+  std::ranges::copy(doc.reader_block2, doc.record.begin() + kReaderBlock2Offset);
+}
+
+void CopyRecordToWorkingBlocks(Document& doc) {
+  std::ranges::copy(doc.bytes(kReaderBlock1Offset, kReaderBlock1Size), doc.reader_block1.begin());
+  std::ranges::copy(doc.bytes(kReaderBlock2Offset, kReaderBlock2Size), doc.reader_block2.begin());
+}
+
+SettingsFileReport ApplyOpenRules(Document& doc) {
+  SettingsFileReport report;
+  const char letter = static_cast<char>(doc.record[kFormatTagOffset]);
+  if (FormatVersion(doc.record) < kMinimumVersion || doc.product() > ProductCount()) {
+    SetDefaults(doc, 1);
+    report.refused = true;
+  } else {
+    // The key-present list is not stored: make it match the product just read.
+    ApplyKeyAvailability(doc);
+    if (letter == kPreviousLayout) {
+      ConvertPreviousLayout(doc);
+      report.converted = true;
+    }
+  }
+  std::ranges::copy(kCurrentTag, doc.record.begin() + kFormatTagOffset);
+  RebuildKeyCodeTable(doc);
+  CopyRecordToWorkingBlocks(doc);
+  return report;
+}
+
 bool ReadSettingsFile(Document& doc, const std::string& path) {
-  (void)doc;
-  (void)path;
-  return false;
+  return ReadSettingsFile(doc, path, nullptr);
 }
+
+bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport* report) {
+  std::error_code error;
+  if (fs::is_directory(path, error)) return false;
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  std::vector<std::uint8_t> image(kSettingsFileSize);
+  in.read(reinterpret_cast<char*>(image.data()), static_cast<std::streamsize>(image.size()));
+  if (in.bad()) return false;
+  image.resize(static_cast<std::size_t>(in.gcount()));
+
+  CopyFileImage(image, doc);
+  SettingsFileReport found = ApplyOpenRules(doc);
+  found.bytes_read = image.size();
+  const std::uintmax_t size = fs::file_size(path, error);
+  found.file_size = error ? image.size() : size;
+  if (report) *report = found;
+  return true;
+}
+
 bool WriteSettingsFileTo(Document& doc, const std::string& path) {
-  (void)doc;
-  (void)path;
-  return false;
+  CopyWorkingBlocksToRecord(doc);
+  const fs::path target(path);
+  const fs::path temp = TemporaryPathFor(target);
+  std::error_code error;
+  if (!WriteImage(doc, temp)) {
+    fs::remove(temp, error);
+    return false;
+  }
+  // Keep the permissions of the file being replaced.
+  const fs::file_status old_status = fs::status(target, error);
+  if (!error && fs::is_regular_file(old_status)) {
+    fs::permissions(temp, old_status.permissions(), error);
+  }
+  fs::rename(temp, target, error);
+  if (error) {
+    fs::remove(temp, error);
+    return false;
+  }
+  return true;
 }
+
 bool WriteSettingsFile(Document& doc) {
   return !doc.file_name.empty() && WriteSettingsFileTo(doc, doc.file_name);
 }
-std::string SaveAsFileName(std::string_view chosen) { return std::string(chosen); }
+
+std::string SaveAsFileName(std::string_view chosen) {
+  constexpr std::string_view kExtension = ".QVL";
+  auto same_letter = [](char a, char b) {
+    return std::toupper(static_cast<unsigned char>(a)) ==
+           std::toupper(static_cast<unsigned char>(b));
+  };
+  if (chosen.size() > kExtension.size() &&
+      std::equal(kExtension.begin(), kExtension.end(), chosen.end() - kExtension.size(),
+                 same_letter)) {
+    return std::string(chosen);
+  }
+  return std::string(chosen) + std::string(kExtension);
+}
 
 }  // namespace veltrix

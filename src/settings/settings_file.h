@@ -1,6 +1,9 @@
 #ifndef VELTRIX_SETTINGS_SETTINGS_FILE_H_
 #define VELTRIX_SETTINGS_SETTINGS_FILE_H_
 
+#include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -8,12 +11,33 @@
 
 namespace veltrix {
 
+// What reading a settings file found, for callers that want to tell the user more than Open does.
+struct SettingsFileReport {
+  std::uintmax_t file_size = 0;
+  std::size_t bytes_read = 0;  // at most a whole settings file
+  bool refused = false;        // tag, version or product not accepted: defaults of product 1
+  bool converted = false;      // a previous-layout ('V') file, converted in place
+};
+
 // Reads the settings file at `path` into `doc` with every rule of Open: short files read as far
 // as they go, refused tags/versions/products replaced by the defaults of product 1, the previous
 // ('V') layout converted, the tag restamped "I100", the key code table rebuilt and the reader
 // working blocks filled. Returns false only when the file cannot be opened (doc untouched then).
 // Does not change doc.file_name or doc.modified.
 bool ReadSettingsFile(Document& doc, const std::string& path);
+bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport* report);
+
+// The checks and conversions Open makes once the file's bytes are in `doc` (steps after the
+// read). Returns what it found; `bytes_read` is left to the caller.
+SettingsFileReport ApplyOpenRules(Document& doc);
+
+// The format version of a record's tag: the signed decimal number from offset 1 (leading blanks,
+// optional sign, digits up to the first non-digit); 0 unless the letter is 'I' or 'V'.
+int FormatVersion(std::span<const std::uint8_t> record);
+
+// The reader working blocks and their stored images in the record.
+void CopyWorkingBlocksToRecord(Document& doc);
+void CopyRecordToWorkingBlocks(Document& doc);
 
 // Writes the document (working blocks copied into the record first) to `path` atomically: a
 // temporary file in the same folder, then a rename. Returns false on failure, leaving any

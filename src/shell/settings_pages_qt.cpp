@@ -2,8 +2,12 @@
 //   registry.Register<SystemPage>(SheetPageId::kSystem);
 #include "shell/settings_page_registry_qt.h"
 
+#include "settings/system/system_page.h"
+
 namespace veltrix {
 
-void RegisterSettingsPages(SettingsPageRegistry& registry) { (void)registry; }
+void RegisterSettingsPages(SettingsPageRegistry& registry) {
+  registry.Register<SystemPage>(SheetPageId::kSystem);
+}
 
 }  // namespace veltrix

@@ -94,7 +94,7 @@ TEST(PromptDefaults, NoProductCopiesNothing) {
 TEST(PromptDefaults, EveryTextHasItsVariantWidth) {
   for (int variant = 1; variant <= 3; ++variant) {
     for (int s = 0; s < kPromptScreenCount; ++s) {
-      for (int k = 0; k < kPromptScreens[s].slots; ++k) {
+      for (int k = 0; k < kPromptScreens[s].slot_count; ++k) {
         EXPECT_EQ(static_cast<std::size_t>(PromptDefaultWidth(variant, s)),
                   PromptDefaultText(variant, s, k).size())
             << "variant " << variant << " screen " << s + 1 << " line " << k + 1;

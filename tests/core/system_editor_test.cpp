@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_settings.h"
+#include "shell/page_snapshot.h"
 
 namespace veltrix {
 namespace {
@@ -16,14 +18,27 @@ class SystemEditorTest : public ::testing::Test {
     doc_ = std::make_unique<Document>();
     SetDefaults(*doc_, 1);
     doc_->modified = true;
+    // As the sheet does it: snapshot first, then the page fills its controls.
+    snapshot_.Take(*doc_);
     editor_ = std::make_unique<SystemEditor>(*doc_);
     editor_->Initialise();
   }
+  // OK as the sheet gives it to this page.
+  void Ok() {
+    editor_->Apply();
+    snapshot_.MarkApplied(*doc_);
+  }
   std::unique_ptr<Document> doc_;
+  PageSnapshot snapshot_{SnapshotScope::kRecord};
   std::unique_ptr<SystemEditor> editor_;
 };
 
-TEST_F(SystemEditorTest, InitialiseClearsTheModifiedFlag) { EXPECT_FALSE(doc_->modified); }
+TEST_F(SystemEditorTest, InitialiseStartsOnTheFirstScreen) {
+  editor_->SelectScreen(5);
+  editor_->Initialise();
+  EXPECT_EQ(0, editor_->prompts().selected());
+  EXPECT_EQ("1. Telnet   ", editor_->Rows()[0].text);
+}
 
 TEST_F(SystemEditorTest, AutoPowerOffWithLeadingZeroIsStoredInBothBytes) {
   const NumericEdit edit = editor_->EditAutoPowerOff("0300");
@@ -67,7 +82,9 @@ TEST_F(SystemEditorTest, CancelWithoutApplyRestoresTheSnapshot) {
   editor_->SetValue(kPowerOn, 1);
   editor_->EditPassword("secret");
   editor_->EditPromptLine(1, "x");
-  editor_->QueryCancel();
+  editor_->Reset();
+  editor_->EditAutoPowerOff("0300");
+  EXPECT_TRUE(snapshot_.RestoreOnCancel(*doc_));
   EXPECT_EQ(before, doc_->record);
   EXPECT_FALSE(doc_->modified);
 }
@@ -75,12 +92,12 @@ TEST_F(SystemEditorTest, CancelWithoutApplyRestoresTheSnapshot) {
 TEST_F(SystemEditorTest, ApplyPadsSetsModifiedAndCancelThenKeepsTheRecord) {
   editor_->EditPassword("123456789");
   editor_->EditPassword("12");
-  editor_->Apply();
+  Ok();
   EXPECT_TRUE(doc_->modified);
   for (int k = 3; k < 10; ++k) EXPECT_EQ(0, doc_->record[kPassword.offset + k]);
   EXPECT_EQ(40u, ReadText(doc_->record, kPromptText, 0).size());
   const SettingsRecord applied = doc_->record;
-  editor_->QueryCancel();
+  EXPECT_FALSE(snapshot_.RestoreOnCancel(*doc_));
   EXPECT_EQ(applied, doc_->record);
 }
 
@@ -88,6 +105,42 @@ TEST_F(SystemEditorTest, ScreenNamesFollowTheProduct) {
   EXPECT_EQ("Main Menu (12*2)              ", editor_->ScreenNames().front());
   editor_->SelectScreen(10);
   EXPECT_FALSE(editor_->Rows()[7].enabled);
+}
+
+}  // namespace
+}  // namespace veltrix
+
+namespace veltrix {
+namespace {
+
+// Reset after edits on many screens gives every text of the product's defaults back.
+TEST(SystemEditorReset, RestoresAllTwelveScreensOfTheProduct) {
+  for (int product : {1, 2}) {
+    auto doc = std::make_unique<Document>();
+    SetDefaults(*doc, product);
+    const SettingsRecord fresh = doc->record;
+    SystemEditor editor(*doc);
+    editor.Initialise();
+    for (int s = 0; s < kPromptScreenCount; ++s) {
+      editor.SelectScreen(s);
+      editor.EditPromptLine(0, "changed on screen " + std::to_string(s));
+    }
+    editor.Reset();
+    for (int slot = 0; slot < kPromptSlotCount; ++slot) {
+      EXPECT_EQ(ReadText(fresh, kPromptText, slot), ReadText(doc->record, kPromptText, slot))
+          << "product " << product << " slot " << slot;
+    }
+  }
+}
+
+// A change of product replaces the texts by that product's defaults.
+TEST(SystemEditorReset, ProductChangeGivesThatProductsTexts) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  EXPECT_EQ("1. Telnet   ", ReadText(doc->record, kPromptText, 0));
+  SetDefaults(*doc, 2);
+  EXPECT_EQ("1. Telnet      ", ReadText(doc->record, kPromptText, 0));
+  EXPECT_EQ("Download failed", ReadText(doc->record, kPromptText, PromptSlot(9, 3)));
 }
 
 }  // namespace

@@ -115,6 +115,7 @@ TEST(SystemSummary, AppliedDravinSWithEmptyPassword) {
   auto doc = NewDocument(1);
   SystemEditor editor(*doc);
   editor.Initialise();
+  editor.EditPassword("abc");
   editor.EditPassword("");
   editor.Apply();
   ExpectSummaryMatchesGolden(*doc, "system_applied_empty_password.txt");

@@ -21,7 +21,7 @@ const PromptScreen& ScreenAt(int screen) {
 void PromptEditor::Load(std::span<const std::uint8_t> record) {
   for (Slot& slot : buffer_) slot.fill(0);
   for (int screen = 0; screen < kPromptScreenCount; ++screen) {
-    for (int line = 0; line < ScreenAt(screen).slots; ++line) {
+    for (int line = 0; line < ScreenAt(screen).slot_count; ++line) {
       std::span<const std::uint8_t> bytes =
           FieldBytes(record, kPromptText, PromptSlot(screen, line));
       Slot& slot = buffer_[static_cast<std::size_t>(BufferIndex(screen, line))];
@@ -33,7 +33,7 @@ void PromptEditor::Load(std::span<const std::uint8_t> record) {
 
 void PromptEditor::Store(std::span<std::uint8_t> record) const {
   for (int screen = 0; screen < kPromptScreenCount; ++screen) {
-    for (int line = 0; line < ScreenAt(screen).slots; ++line) {
+    for (int line = 0; line < ScreenAt(screen).slot_count; ++line) {
       WriteText(record, kPromptText, Line(screen, line), PromptSlot(screen, line));
     }
   }

@@ -102,7 +102,7 @@ bool ValidVariant(int variant) { return variant >= 1 && variant <= 3; }
 int PromptSlot(int screen, int line) {
   if (!ValidScreen(screen)) return -1;
   const PromptScreen& s = kPromptScreens[static_cast<std::size_t>(screen)];
-  if (line < 0 || line >= s.slots) return -1;
+  if (line < 0 || line >= s.slot_count) return -1;
   return s.first_slot + line;
 }
 
@@ -144,7 +144,7 @@ void SetPromptDefaults(Document& doc) {
   const std::optional<int> variant = PromptVariant(doc.product());
   if (!variant) return;
   for (int screen = 0; screen < kPromptScreenCount; ++screen) {
-    for (int line = 0; line < kPromptScreens[static_cast<std::size_t>(screen)].slots; ++line) {
+    for (int line = 0; line < kPromptScreens[static_cast<std::size_t>(screen)].slot_count; ++line) {
       WriteText(doc.record, kPromptText, PromptDefaultText(*variant, screen, line),
                 PromptSlot(screen, line));
     }

@@ -35,7 +35,7 @@ inline constexpr int kPromptRowsPerScreen = 8;
 // many of them the editor lets the user change and how many characters a line may hold.
 struct PromptScreen {
   std::string_view name;
-  int slots;
+  int slot_count;
   int lines_edited;
   int width_limit;
   int first_slot;  // flat slot number of line 1
@@ -54,7 +54,7 @@ inline constexpr std::array<PromptScreen, kPromptScreenCount> kPromptScreens{{
     {"Error Messages", 8, 7, 20, 52},
     {"Miscellaneous", 8, 6, 20, 60},
 }};
-static_assert(kPromptScreens.back().first_slot + kPromptScreens.back().slots == kPromptSlotCount);
+static_assert(kPromptScreens.back().first_slot + kPromptScreens.back().slot_count == kPromptSlotCount);
 
 // The flat slot number of line `line` (0-based) of screen `screen` (0-based); -1 when the screen
 // has no such slot.

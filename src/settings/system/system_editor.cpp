@@ -8,8 +8,6 @@ namespace veltrix {
 SystemEditor::SystemEditor(Document& doc) : doc_(doc) {}
 
 void SystemEditor::Initialise() {
-  snapshot_ = std::make_unique<SettingsRecord>(doc_.record);
-  doc_.modified = false;
   prompts_.Select(0);
   prompts_.Load(doc_.record);
 }
@@ -65,11 +63,6 @@ void SystemEditor::Reset() {
 void SystemEditor::Apply() {
   PadPromptsForTerminal(doc_);
   FinishPassword(doc_.record);
-  doc_.modified = true;
-}
-
-void SystemEditor::QueryCancel() {
-  if (!doc_.modified && snapshot_) doc_.record = *snapshot_;
 }
 
 }  // namespace veltrix

@@ -2,7 +2,6 @@
 #define VELTRIX_SETTINGS_SYSTEM_SYSTEM_EDITOR_H_
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,13 +13,13 @@
 namespace veltrix {
 
 // Everything the System page does to the document, without any widget: it writes the record as
-// the user works, keeps the snapshot for Cancel and owns the prompts editor.
+// the user works and owns the prompts editor. The snapshot for Cancel and the modified flag are
+// the settings sheet's (PageSnapshot).
 class SystemEditor {
  public:
   explicit SystemEditor(Document& doc);
 
-  // First showing of the page: snapshot the record, clear the modified flag, load the prompts
-  // editor and select its first screen.
+  // First showing of the page: load the prompts editor and select its first screen.
   void Initialise();
 
   Document& document() { return doc_; }
@@ -49,16 +48,13 @@ class SystemEditor {
 
   // "Reset": the System and prompts defaults, the editor reloaded on its first screen.
   void Reset();
-  // OK: pad the texts and the password for the terminal, set the modified flag.
+  // OK: pad the texts and the password as the terminal expects them.
   void Apply();
-  // Cancel: without an Apply since Initialise, the record goes back to the snapshot.
-  void QueryCancel();
 
  private:
   NumericEdit EditNumber(const FieldDef& field, std::string_view text);
 
   Document& doc_;
-  std::unique_ptr<SettingsRecord> snapshot_;
   PromptEditor prompts_;
 };
 

@@ -1,0 +1,50 @@
+#include "cli/cli_args.h"
+
+#include <algorithm>
+
+namespace veltrix::cli {
+
+bool ParsedArgs::has_flag(std::string_view flag) const {
+  return std::ranges::find(flags, flag) != flags.end();
+}
+
+const std::string* ParsedArgs::value(std::string_view option) const {
+  auto it = values.find(option);
+  return it == values.end() ? nullptr : &it->second;
+}
+
+ParsedArgs ParseArgs(std::span<const std::string> args,
+                     std::span<const std::string_view> value_options,
+                     std::span<const std::string_view> flags) {
+  ParsedArgs parsed;
+  bool options_ended = false;
+  for (std::size_t k = 0; k < args.size(); ++k) {
+    const std::string& arg = args[k];
+    if (options_ended || arg.size() < 2 || arg.compare(0, 2, "--") != 0) {
+      parsed.positional.push_back(arg);
+    } else if (arg == "--") {
+      options_ended = true;
+    } else if (std::ranges::find(flags, arg) != flags.end()) {
+      parsed.flags.push_back(arg);
+    } else if (std::ranges::find(value_options, arg) != value_options.end()) {
+      if (k + 1 >= args.size()) {
+        parsed.error = "option " + arg + " needs a value";
+        return parsed;
+      }
+      parsed.values[arg] = args[++k];
+    } else {
+      parsed.error = "unknown option " + arg;
+      return parsed;
+    }
+  }
+  return parsed;
+}
+
+std::string ExpectPositional(const ParsedArgs& parsed, std::size_t at_least, std::size_t at_most) {
+  const std::size_t n = parsed.positional.size();
+  if (n < at_least) return "too few arguments";
+  if (n > at_most) return "unexpected argument '" + parsed.positional[at_most] + "'";
+  return {};
+}
+
+}  // namespace veltrix::cli

@@ -1,0 +1,54 @@
+#include <algorithm>
+#include <ostream>
+
+#include "cli/cli_command.h"
+
+namespace veltrix::cli {
+namespace {
+
+constexpr Command kCommands[] = {
+    {"new", "--product N --out FILE",
+     "write a new settings file with the defaults of product N (0 none, 1 Dravin S, 2 Dravin R)",
+     RunNewCommand},
+    {"convert", "IN OUT", "read IN as the program opens a settings file and write it to OUT",
+     RunConvertCommand},
+    {"get", "FILE NAME...",
+     "print NAME=VALUE for each field (indices from 0, e.g. TerminalScreen[0][3])", RunGetCommand},
+    {"set", "FILE NAME=VALUE...",
+     "change fields and save FILE; nothing is written when a value is refused", RunSetCommand},
+    {"diff", "A B", "list every field and page that differs; exit 1 when they differ",
+     RunDiffCommand},
+    {"summary", "FILE [--json]", "print the settings summary tree (as JSON with --json)",
+     RunSummaryCommand},
+};
+
+}  // namespace
+
+std::span<const Command> Commands() { return kCommands; }
+
+const Command* FindCommand(std::string_view name) {
+  auto it = std::ranges::find(kCommands, name, &Command::name);
+  return it == std::end(kCommands) ? nullptr : &*it;
+}
+
+void PrintHelp(std::ostream& out) {
+  out << "usage: veltrix-cli COMMAND ARGS...\n"
+         "Works on Veltrix settings files (.QVL) without a window.\n\n"
+         "commands:\n";
+  for (const Command& c : kCommands) {
+    out << "  " << c.name << ' ' << c.usage << "\n      " << c.description << '\n';
+  }
+  out << "\nNumbers are decimal, texts plain text, byte strings hexadecimal pairs (0D 41).\n"
+         "Exit status: 0 success, 1 the files differ (diff), 2 bad usage or unreadable input.\n";
+}
+
+int Fail(CliIo& io, std::string_view message) {
+  io.err << "veltrix-cli: " << message << '\n';
+  return kExitUsage;
+}
+
+void Warn(CliIo& io, std::string_view message) {
+  io.err << "veltrix-cli: warning: " << message << '\n';
+}
+
+}  // namespace veltrix::cli

@@ -1,0 +1,46 @@
+#include "cli/cli_args.h"
+#include "cli/cli_command.h"
+#include "cli/settings_input.h"
+#include "settings/field_values.h"
+
+namespace veltrix::cli {
+
+int RunSetCommand(std::span<const std::string> args, CliIo& io) {
+  const ParsedArgs parsed = ParseArgs(args, {}, {});
+  if (!parsed.error.empty()) return Fail(io, "set: " + parsed.error);
+  if (std::string error = ExpectPositional(parsed, 2, SIZE_MAX); !error.empty()) {
+    return Fail(io, "set: " + error + " (set FILE NAME=VALUE...)");
+  }
+  const std::string& path = parsed.positional[0];
+  SettingsFileReport report;
+  auto doc = LoadSettingsInput(path, io, &report);
+  if (!doc) return kExitUsage;
+  // Saving such a file would replace what it holds by defaults: leave that to convert.
+  if (report.refused || report.file_size != kSettingsFileSize) {
+    return Fail(io, "set: '" + path + "' is not a complete settings file; nothing written");
+  }
+  for (std::size_t k = 1; k < parsed.positional.size(); ++k) {
+    const std::string& assignment = parsed.positional[k];
+    const std::size_t equals = assignment.find('=');
+    if (equals == std::string::npos) {
+      return Fail(io, "set: '" + assignment + "' is not NAME=VALUE; nothing written");
+    }
+    const ElementLookup lookup = LookUpElement(std::string_view(assignment).substr(0, equals));
+    if (!lookup.ok()) return Fail(io, "set: " + lookup.error + "; nothing written");
+    if (!lookup.single()) {
+      return Fail(io, "set: " + std::string(lookup.field->name) + " needs " +
+                          std::to_string(lookup.field->dimensions()) + " index(es), e.g. " +
+                          std::string(lookup.field->name) +
+                          (lookup.field->dimensions() == 1 ? "[0]" : "[0][0]") +
+                          "; nothing written");
+    }
+    const std::string refused = StoreElementValue(doc->record, ElementsOf(lookup).front(),
+                                                  std::string_view(assignment).substr(equals + 1));
+    if (!refused.empty()) return Fail(io, "set: " + refused + "; nothing written");
+  }
+  // The reader working blocks are written over their record images on save: take the new values.
+  CopyRecordToWorkingBlocks(*doc);
+  return SaveSettingsOutput(*doc, path, io) ? kExitOk : kExitUsage;
+}
+
+}  // namespace veltrix::cli

@@ -1,0 +1,48 @@
+#include "cli/settings_input.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace veltrix::cli {
+
+std::unique_ptr<Document> LoadSettingsInput(const std::string& path, CliIo& io,
+                                            SettingsFileReport* report) {
+  namespace fs = std::filesystem;
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (!fs::exists(status)) {
+    Fail(io, "cannot open '" + path + "': no such file");
+    return nullptr;
+  }
+  if (fs::is_directory(status)) {
+    Fail(io, "cannot open '" + path + "': it is a folder");
+    return nullptr;
+  }
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 0);
+  SettingsFileReport found;
+  if (!ReadSettingsFile(*doc, path, &found)) {
+    Fail(io, "cannot open '" + path + "' for reading");
+    return nullptr;
+  }
+  if (found.file_size != kSettingsFileSize) {
+    Warn(io, "'" + path + "' is " + std::to_string(found.file_size) + " bytes, not " +
+                 std::to_string(kSettingsFileSize) + "; read as far as it goes");
+  }
+  if (found.refused) {
+    Warn(io, "'" + path +
+                 "' has no accepted format tag, version or product; read as the defaults of "
+                 "product 1");
+  }
+  if (found.converted) Warn(io, "'" + path + "' has the previous layout; converted");
+  if (report) *report = found;
+  return doc;
+}
+
+bool SaveSettingsOutput(Document& doc, const std::string& path, CliIo& io) {
+  if (WriteSettingsFileTo(doc, path)) return true;
+  Fail(io, "cannot write '" + path + "'");
+  return false;
+}
+
+}  // namespace veltrix::cli

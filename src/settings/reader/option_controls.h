@@ -1,0 +1,42 @@
+#ifndef VELTRIX_SETTINGS_READER_OPTION_CONTROLS_H_
+#define VELTRIX_SETTINGS_READER_OPTION_CONTROLS_H_
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "settings/field.h"
+
+namespace veltrix {
+
+// The controls of the symbology option dialogs, each bound to the field it shows and stores.
+
+struct CheckBoxControl {
+  int id;
+  std::string_view text;
+  const FieldDef* field;  // a one-bit field: checked = 1
+};
+
+// How the chosen entry of a radio group or list is stored.
+enum class ChoiceCoding : std::uint8_t {
+  kIndex,          // the field holds the entry's position
+  kReversed,       // the field holds (entries - 1 - position): the first entry stores the highest
+  kNoneThenIndex,  // first entry clears the field and `flag`; others store position - 1, set `flag`
+};
+
+struct ChoiceControl {
+  int id;  // the list's id, or the first radio's id (the others follow)
+  std::span<const std::string_view> texts;
+  const FieldDef* field;
+  ChoiceCoding coding = ChoiceCoding::kIndex;
+  const FieldDef* flag = nullptr;  // kNoneThenIndex only
+};
+
+// The position a stored value selects, and the value a position stores.
+int DecodeChoice(const ChoiceControl& control, std::uint32_t value, std::uint32_t flag);
+void EncodeChoice(const ChoiceControl& control, int position, std::uint32_t& value,
+                  std::uint32_t& flag);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SETTINGS_READER_OPTION_CONTROLS_H_

@@ -1,0 +1,361 @@
+#include "settings/settings_file.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "capture/screen_pages.h"
+#include "settings/emulation/function_keys.h"
+#include "settings/reader/reader_settings.h"
+#include "settings_test_files.h"
+
+namespace veltrix {
+namespace {
+
+using testing::ReadBytes;
+using testing::TempFolder;
+using testing::WriteBytes;
+
+std::unique_ptr<Document> DefaultDocument(int product) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, product);
+  return doc;
+}
+
+// The file image of a document as written, without touching a disk.
+std::vector<std::uint8_t> FileImage(const Document& doc) {
+  std::vector<std::uint8_t> image(doc.record.begin(), doc.record.end());
+  for (const PageRecord& page : doc.pages) image.insert(image.end(), page.begin(), page.end());
+  return image;
+}
+
+void SetTag(std::vector<std::uint8_t>& image, std::string_view tag) {
+  std::fill_n(image.begin(), kFormatTagWidth, 0);
+  std::copy(tag.begin(), tag.end(), image.begin());
+}
+
+bool HasCurrentTag(const Document& doc) {
+  return std::memcmp(doc.record.data(), "I100\0", kFormatTagWidth) == 0;
+}
+
+class SettingsFileTest : public ::testing::Test {
+ protected:
+  // Writes `image` as a file and reads it into `doc` (which keeps whatever the file lacks).
+  SettingsFileReport ReadImage(const std::vector<std::uint8_t>& image) {
+    const std::string path = folder_.File("in.QVL");
+    WriteBytes(path, image);
+    SettingsFileReport report;
+    EXPECT_TRUE(ReadSettingsFile(*doc_, path, &report));
+    return report;
+  }
+
+  TempFolder folder_;
+  std::unique_ptr<Document> doc_ = DefaultDocument(0);
+};
+
+TEST(SaveAsFileName, AppendsTheExtensionUnlessTheNameEndsInIt) {
+  const struct {
+    const char* chosen;
+    const char* stored;
+  } cases[] = {
+      {"abc", "abc.QVL"},
+      {"abc.qvl", "abc.qvl"},
+      {"abc.QvL", "abc.QvL"},
+      {".qvl", ".qvl.QVL"},
+      {"a.QVL", "a.QVL"},
+      {"QVL", "QVL.QVL"},
+      {"", ".QVL"},
+      {"x.qvlx", "x.qvlx.QVL"},
+      {"dir/s.Qvl", "dir/s.Qvl"},
+      {"name.QVL.bak", "name.QVL.bak.QVL"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(c.stored, SaveAsFileName(c.chosen)) << c.chosen;
+}
+
+TEST(FormatVersion, ParsesTheNumberAfterTheLetter) {
+  const struct {
+    std::string_view tag;
+    int version;
+  } cases[] = {
+      {"I100", 100},
+      {"I250", 250},
+      {"V100", 100},
+      {"V99", 99},
+      {"X100", 0},
+      {"i100", 0},
+      {"I  120", 120},
+      {"I+130", 130},
+      {"I-100", -100},
+      {"Iabc", 0},
+      {"I12a4", 12},
+      {"I", 0},
+      {"I99999999999999", 2147483647},
+  };
+  for (const auto& c : cases) {
+    std::vector<std::uint8_t> record(c.tag.begin(), c.tag.end());
+    record.push_back(0);
+    EXPECT_EQ(c.version, FormatVersion(record)) << c.tag;
+  }
+}
+
+TEST_F(SettingsFileTest, AcceptsAHigherVersionAndRestampsTheTag) {
+  auto original = DefaultDocument(2);
+  original->record[10] = 0x5A;  // an unused byte survives only if the file is used as read
+  std::vector<std::uint8_t> image = FileImage(*original);
+  SetTag(image, "I250");
+
+  const SettingsFileReport report = ReadImage(image);
+  EXPECT_FALSE(report.refused);
+  EXPECT_FALSE(report.converted);
+  EXPECT_TRUE(HasCurrentTag(*doc_));
+  EXPECT_EQ(2, doc_->product());
+  EXPECT_EQ(0x5A, doc_->record[10]);
+  EXPECT_EQ(kSettingsFileSize, report.bytes_read);
+}
+
+TEST_F(SettingsFileTest, RefusedFilesBecomeTheDefaultsOfProductOne) {
+  const struct {
+    const char* why;
+    std::string_view tag;
+    std::uint8_t product;
+  } cases[] = {
+      {"version below 100", "I99", 2},
+      {"unknown letter", "X100", 2},
+      {"product beyond the list", "I100", 3},
+      {"previous layout, old version", "V99", 1},
+      {"no number", "I", 1},
+  };
+  const auto expected = DefaultDocument(1);
+  for (const auto& c : cases) {
+    auto original = DefaultDocument(2);
+    original->record[10] = 0x5A;
+    original->pages[4][100] = 7;
+    std::vector<std::uint8_t> image = FileImage(*original);
+    SetTag(image, c.tag);
+    image[kProductOffset] = c.product;
+    doc_->file_name = "kept.QVL";
+
+    const SettingsFileReport report = ReadImage(image);
+    EXPECT_TRUE(report.refused) << c.why;
+    EXPECT_TRUE(HasCurrentTag(*doc_)) << c.why;
+    EXPECT_EQ(1, doc_->product()) << c.why;
+    EXPECT_TRUE(doc_->record == expected->record) << c.why;
+    EXPECT_TRUE(doc_->pages == expected->pages) << c.why;
+    EXPECT_TRUE(doc_->reader_block1 == expected->reader_block1) << c.why;
+    EXPECT_TRUE(doc_->reader_block2 == expected->reader_block2) << c.why;
+    EXPECT_EQ("kept.QVL", doc_->file_name) << c.why;
+  }
+}
+
+TEST_F(SettingsFileTest, PreviousLayoutEmptiesThePagesAndResetsConvertedSettings) {
+  auto original = DefaultDocument(2);
+  WriteNumber(original->record, kTotalPages, 3);
+  WriteNumber(original->record, kScreensLoaded, 1);
+  WriteText(original->record, kTerminalScreen, "KEPT", 0, 0);  // line texts are not converted
+  for (PageRecord& page : original->pages) page.fill(0x33);
+  std::vector<std::uint8_t> image = FileImage(*original);
+  SetTag(image, "V100");
+
+  const SettingsFileReport report = ReadImage(image);
+  EXPECT_TRUE(report.converted);
+  EXPECT_TRUE(HasCurrentTag(*doc_));
+  EXPECT_EQ(2, doc_->product());
+  EXPECT_EQ(0u, ReadNumber(doc_->record, kTotalPages));
+  EXPECT_EQ(0u, ReadNumber(doc_->record, kScreensLoaded));
+  EXPECT_EQ("KEPT", ReadText(doc_->record, kTerminalScreen, 0, 0));
+  for (const PageRecord& page : doc_->pages) {
+    EXPECT_TRUE(std::ranges::all_of(page, [](std::uint8_t b) { return b == 0; }));
+  }
+}
+
+TEST_F(SettingsFileTest, PreviousLayoutGetsDefaultKeysMessagesAndReaderBytes) {
+  if (FunctionKeyFields().empty() || ReaderFields().empty()) {
+    GTEST_SKIP() << "function key and reader sections not declared yet";
+  }
+  const auto expected = DefaultDocument(2);
+  auto original = DefaultDocument(2);
+  constexpr std::size_t kMappingFirst = 4565, kMappingLast = 4964;
+  constexpr std::size_t kMessageFirst = 59660, kMessageLast = 59673;
+  for (std::size_t k = kMappingFirst; k <= kMappingLast; ++k) original->record[k] = 0x77;
+  for (std::size_t k = kMessageFirst; k <= kMessageLast; ++k) original->record[k] = 0x66;
+  original->record[3763] = 9;
+  for (std::size_t k = 3754; k <= 3771; ++k) original->record[k] = 0x44;
+  original->record[3763] = 9;
+  std::vector<std::uint8_t> image = FileImage(*original);
+  SetTag(image, "V100");
+
+  ReadImage(image);
+  for (std::size_t k = kMappingFirst; k <= kMappingLast; ++k) {
+    ASSERT_EQ(expected->record[k], doc_->record[k]) << "function key byte " << k;
+  }
+  for (std::size_t k = kMessageFirst; k <= kMessageLast; ++k) {
+    ASSERT_EQ(expected->record[k], doc_->record[k]) << "message byte " << k;
+  }
+  EXPECT_EQ(1, doc_->record[3753]);
+  for (std::size_t k = 3754; k <= 3771; ++k) EXPECT_EQ(0, doc_->record[k]) << "reader byte " << k;
+}
+
+TEST_F(SettingsFileTest, ShortFileIsReadAsFarAsItGoes) {
+  auto original = DefaultDocument(2);
+  original->pages[0].fill(0x11);
+  const std::vector<std::uint8_t> full = FileImage(*original);
+  const std::size_t length = kRecordSize + 216;
+  doc_->record.fill(0xAB);
+  for (PageRecord& page : doc_->pages) page.fill(0xAB);
+
+  const SettingsFileReport report =
+      ReadImage(std::vector<std::uint8_t>(full.begin(), full.begin() + length));
+  EXPECT_EQ(length, report.bytes_read);
+  EXPECT_EQ(length, report.file_size);
+  EXPECT_FALSE(report.refused);
+  EXPECT_TRUE(std::equal(doc_->record.begin() + kFormatTagWidth, doc_->record.end(),
+                         original->record.begin() + kFormatTagWidth));
+  EXPECT_EQ(0x11, doc_->pages[0][215]);
+  EXPECT_EQ(0xAB, doc_->pages[0][216]);  // beyond the file: former contents
+  EXPECT_EQ(0xAB, doc_->pages[1][0]);
+  EXPECT_EQ(0xAB, doc_->pages[49][kPageRecordSize - 1]);
+}
+
+TEST_F(SettingsFileTest, EmptyFileKeepsTheDocumentItReadInto) {
+  doc_ = DefaultDocument(2);
+  doc_->record[10] = 0x5A;
+  const SettingsFileReport report = ReadImage({});
+  EXPECT_EQ(0u, report.bytes_read);
+  EXPECT_FALSE(report.refused);
+  EXPECT_EQ(2, doc_->product());
+  EXPECT_EQ(0x5A, doc_->record[10]);
+}
+
+TEST_F(SettingsFileTest, FewBytesOfGarbageGiveTheDefaultsOfProductOne) {
+  const SettingsFileReport report = ReadImage({'#', '!', 'x'});
+  EXPECT_TRUE(report.refused);
+  EXPECT_TRUE(doc_->record == DefaultDocument(1)->record);
+}
+
+TEST_F(SettingsFileTest, OpenFillsTheWorkingBlocksFromTheRecord) {
+  auto original = DefaultDocument(1);
+  for (std::size_t k = 0; k < kReaderBlock1Size; ++k) {
+    original->record[kReaderBlock1Offset + k] = static_cast<std::uint8_t>(k + 1);
+  }
+  for (std::size_t k = 0; k < kReaderBlock2Size; ++k) {
+    original->record[kReaderBlock2Offset + k] = static_cast<std::uint8_t>(0x80 + k);
+  }
+  ReadImage(FileImage(*original));
+  for (std::size_t k = 0; k < kReaderBlock1Size; ++k) EXPECT_EQ(k + 1, doc_->reader_block1[k]);
+  for (std::size_t k = 0; k < kReaderBlock2Size; ++k) {
+    EXPECT_EQ(0x80 + k, doc_->reader_block2[k]);
+  }
+}
+
+TEST_F(SettingsFileTest, OpenRebuildsTheKeyCodeTable) {
+  if (FunctionKeyFields().empty()) GTEST_SKIP() << "function key section not declared yet";
+  constexpr std::size_t kMapping = 4565, kKeyCodes = 4715;
+  auto original = DefaultDocument(1);
+  std::fill(original->record.begin() + kMapping, original->record.begin() + kKeyCodes + 250, 0);
+  auto map = [&](int n, int group, int host_key, std::uint8_t first_code) {
+    original->record[kMapping + 3 * n] = static_cast<std::uint8_t>(group);
+    original->record[kMapping + 3 * n + 1] = static_cast<std::uint8_t>(host_key);
+    original->record[kKeyCodes + 5 * n] = first_code;
+    original->record[kKeyCodes + 5 * n + 1] = 0x42;
+  };
+  map(3, 1, 7, 0x1B);   // stored at group 1, host key 7
+  map(4, 2, 19, 0x31);  // the last slot of the table
+  map(5, 3, 0, 0x32);   // no such group: ignored
+  map(6, 0, 2, 0x00);   // no key code: ignored
+  doc_->key_codes.fill(0xEE);
+
+  ReadImage(FileImage(*original));
+  auto slot = [&](int group, int host_key) {
+    return std::span(doc_->key_codes).subspan((group * kHostKeysPerGroup + host_key) * 5, 5);
+  };
+  EXPECT_EQ(0x1B, slot(1, 7)[0]);
+  EXPECT_EQ(0x42, slot(1, 7)[1]);
+  EXPECT_EQ(0x31, slot(2, 19)[0]);
+  EXPECT_EQ(0xEE, slot(0, 0)[0]);  // untouched by entries that do not qualify
+  EXPECT_EQ(0xEE, slot(0, 2)[0]);
+}
+
+TEST_F(SettingsFileTest, UnopenableFilesLeaveTheDocumentAlone) {
+  auto before = DefaultDocument(2);
+  doc_ = DefaultDocument(2);
+  EXPECT_FALSE(ReadSettingsFile(*doc_, folder_.File("missing.QVL")));
+  EXPECT_FALSE(ReadSettingsFile(*doc_, folder_.path().string()));
+  EXPECT_TRUE(doc_->record == before->record);
+  EXPECT_FALSE(std::filesystem::exists(folder_.File("missing.QVL")));
+}
+
+TEST_F(SettingsFileTest, WriteThenReadReproducesTheDocument) {
+  auto written = DefaultDocument(2);
+  for (std::size_t k = 0; k < kRecordSize; ++k) {
+    written->record[k] = static_cast<std::uint8_t>(k * 7 + 3);
+  }
+  std::copy_n("I100\0\2", 6, written->record.begin());
+  for (std::size_t p = 0; p < kPageCount; ++p) written->pages[p].fill(static_cast<std::uint8_t>(p));
+  written->reader_block1.fill(0x91);
+  written->reader_block2.fill(0x92);
+  const std::string path = folder_.File("round.QVL");
+  ASSERT_TRUE(WriteSettingsFileTo(*written, path));
+
+  const std::vector<std::uint8_t> bytes = ReadBytes(path);
+  ASSERT_EQ(kSettingsFileSize, bytes.size());
+  EXPECT_EQ(0, std::memcmp(bytes.data(), "I100\0", 5));
+  EXPECT_EQ(2, bytes[kProductOffset]);
+  EXPECT_EQ(0x91, bytes[kReaderBlock1Offset]);  // working blocks are copied in before writing
+  EXPECT_EQ(0x92, bytes[kReaderBlock2Offset + kReaderBlock2Size - 1]);
+  EXPECT_TRUE(bytes == FileImage(*written));
+
+  auto read = DefaultDocument(0);
+  ASSERT_TRUE(ReadSettingsFile(*read, path));
+  EXPECT_TRUE(read->record == written->record);
+  EXPECT_TRUE(read->pages == written->pages);
+  EXPECT_TRUE(read->reader_block1 == written->reader_block1);
+  EXPECT_TRUE(read->reader_block2 == written->reader_block2);
+}
+
+TEST_F(SettingsFileTest, SavingReplacesTheFileAndLeavesNoTemporaryFiles) {
+  const std::string path = folder_.File("s.QVL");
+  WriteBytes(path, std::vector<std::uint8_t>(10, 0xFF));
+  doc_ = DefaultDocument(1);
+  ASSERT_TRUE(WriteSettingsFileTo(*doc_, path));
+  EXPECT_EQ(kSettingsFileSize, std::filesystem::file_size(path));
+  EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {}));
+}
+
+TEST_F(SettingsFileTest, FailedSaveLeavesTheOldFileIntact) {
+  doc_ = DefaultDocument(1);
+  // The folder does not exist.
+  EXPECT_FALSE(WriteSettingsFileTo(*doc_, folder_.File("no/such/folder/s.QVL")));
+  // The name is taken by a folder: the new file cannot replace it.
+  const std::string taken = folder_.File("taken.QVL");
+  std::filesystem::create_directory(taken);
+  EXPECT_FALSE(WriteSettingsFileTo(*doc_, taken));
+  EXPECT_TRUE(std::filesystem::is_directory(taken));
+  EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {}));
+}
+
+TEST_F(SettingsFileTest, FailedSaveInAReadOnlyFolderKeepsTheFile) {
+  const std::string path = folder_.File("ro.QVL");
+  const std::vector<std::uint8_t> old_bytes(100, 0x42);
+  WriteBytes(path, old_bytes);
+  namespace fs = std::filesystem;
+  fs::permissions(folder_.path(), fs::perms::owner_read | fs::perms::owner_exec);
+  if (std::ofstream(folder_.File("probe")).is_open()) {
+    GTEST_SKIP() << "running with rights that ignore folder permissions";
+  }
+  doc_ = DefaultDocument(1);
+  EXPECT_FALSE(WriteSettingsFileTo(*doc_, path));
+  EXPECT_TRUE(ReadBytes(path) == old_bytes);
+}
+
+TEST(WriteSettingsFile, NeedsAFileName) {
+  auto doc = DefaultDocument(1);
+  EXPECT_FALSE(WriteSettingsFile(*doc));
+}
+
+}  // namespace
+}  // namespace veltrix

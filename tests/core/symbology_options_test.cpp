@@ -1,0 +1,342 @@
+#include "settings/reader/symbology_options.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "settings/reader/length_pair.h"
+#include "settings/reader/linear_fields.h"
+#include "settings/reader/number_box.h"
+#include "settings/reader/reader_settings.h"
+#include "settings/reader/working_block.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument() {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  return doc;
+}
+
+// ---- numeric boxes -----------------------------------------------------------------------------
+
+struct BoxCase {
+  const char* name;
+  const NumberBoxRule* rule;
+  const char* typed;
+  std::int64_t value;
+};
+
+class NumberBox : public ::testing::TestWithParam<BoxCase> {};
+
+TEST_P(NumberBox, CorrectsWhatIsTyped) {
+  const CorrectedNumber got = CorrectNumberText(GetParam().typed, *GetParam().rule);
+  EXPECT_EQ(GetParam().value, got.value);
+  EXPECT_EQ(std::to_string(GetParam().value), got.text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, NumberBox,
+    ::testing::Values(BoxCase{"TimeOutZero", &kTimeOutBox, "0", 1},
+                      BoxCase{"TimeOutTooBig", &kTimeOutBox, "300", 255},
+                      BoxCase{"TimeOutLeadingZeros", &kTimeOutBox, "007", 7},
+                      BoxCase{"TimeOutEmpty", &kTimeOutBox, "", 1},
+                      BoxCase{"TimeOutLetters", &kTimeOutBox, "1a", 1},
+                      BoxCase{"TimeOutNegative", &kTimeOutBox, "-5", 1},
+                      BoxCase{"AimNotANumber", &kAimDurationBox, "x", 0},
+                      BoxCase{"AimZeroStands", &kAimDurationBox, "0", 0},
+                      BoxCase{"AimTooBig", &kAimDurationBox, "256", 255},
+                      BoxCase{"LinearLengthTooBig", &kLinearLengthBox, "200", 127},
+                      BoxCase{"LinearLengthLeadingZero", &kLinearLengthBox, "05", 5},
+                      BoxCase{"LinearLengthZero", &kLinearLengthBox, "0", 1},
+                      BoxCase{"TwoDLengthNotANumber", &kTwoDLengthBox, "?", 0},
+                      BoxCase{"TwoDLengthZeroStands", &kTwoDLengthBox, "0", 0},
+                      BoxCase{"TwoDLengthTooBig", &kTwoDLengthBox, "128", 127},
+                      BoxCase{"RfidMaxLenTooBig", &kRfidLengthBox, "70000", 0},
+                      BoxCase{"RfidMaxLenZero", &kRfidLengthBox, "0", 0},
+                      BoxCase{"RfidMaxLenTop", &kRfidLengthBox, "65279", 65279},
+                      BoxCase{"RfidDelayZero", &kRfidDelayBox, "0", 1},
+                      BoxCase{"RfidDelayTooBig", &kRfidDelayBox, "65280", 1},
+                      BoxCase{"StartNotANumber", &kStartPositionBox, "x", 1},
+                      BoxCase{"MaximumNotANumber", &kMaximumLengthBox, "x", 50},
+                      BoxCase{"MaximumTooBig", &kMaximumLengthBox, "60", 50},
+                      BoxCase{"VibratorOutside", &kVibratorBox, "255", 0},
+                      BoxCase{"VibratorTop", &kVibratorBox, "254", 254},
+                      BoxCase{"HugeNumberSaturates", &kTimeOutBox, "99999999999999999999999", 255},
+                      BoxCase{"BlanksAround", &kTimeOutBox, " 12 ", 12}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+// ---- length groups -----------------------------------------------------------------------------
+
+struct PackCase {
+  const char* name;
+  LengthPair entered;
+  std::uint8_t first;
+  std::uint8_t second;
+};
+
+class LengthPairPacking : public ::testing::TestWithParam<PackCase> {};
+
+TEST_P(LengthPairPacking, StoresWhatOkStores) {
+  const auto packed = PackLengthPair(GetParam().entered);
+  EXPECT_EQ(GetParam().first, packed[0]);
+  EXPECT_EQ(GetParam().second, packed[1]);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, LengthPairPacking,
+    ::testing::Values(PackCase{"MaxMinSwapsSoTheLargerIsFirst", {true, 20, 40}, 0x80 | 40, 20},
+                      PackCase{"MaxMinInOrder", {true, 40, 20}, 0x80 | 40, 20},
+                      PackCase{"MaxMinZeroCountsAsOne", {true, 0, 5}, 0x85, 1},
+                      PackCase{"MaxMinBothZero", {true, 0, 0}, 0x81, 1},
+                      PackCase{"FixedKeepsOrder", {false, 10, 20}, 10, 20},
+                      PackCase{"FixedKeepsZero", {false, 0, 7}, 0, 7},
+                      PackCase{"LimitedTo127", {false, 300, 127}, 127, 127}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(LengthPair, UnpacksAndLabels) {
+  const std::uint8_t interleave_default[] = {0xFE, 0x01};
+  EXPECT_EQ((LengthPair{true, 126, 1}), UnpackLengthPair(interleave_default));
+  const std::uint8_t fixed[] = {0x0A, 0x14};
+  EXPECT_EQ((LengthPair{false, 10, 20}), UnpackLengthPair(fixed));
+  EXPECT_EQ("Max Length :", LengthPairLabels(true).first);
+  EXPECT_EQ("Min Length :", LengthPairLabels(true).second);
+  EXPECT_EQ("Fixed Length 1:", LengthPairLabels(false).first);
+  EXPECT_EQ("Fixed Length 2:", LengthPairLabels(false).second);
+}
+
+// ---- option dialogs ----------------------------------------------------------------------------
+
+TEST(LinearOptionDialogs, BindOnlyLinearFieldsWithDistinctControls) {
+  EXPECT_EQ(17u, LinearOptionDialogs().size());
+  for (const LinearOptionDialog& dialog : LinearOptionDialogs()) {
+    std::set<int> ids;
+    for (const CheckBoxControl& check : dialog.checks) {
+      EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*check.field)) << dialog.template_name;
+      EXPECT_EQ(1, check.field->bit_count) << check.field->name;
+      EXPECT_TRUE(ids.insert(check.id).second) << dialog.template_name << " " << check.id;
+    }
+    for (const ChoiceControl& group : dialog.radios) {
+      EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*group.field)) << dialog.template_name;
+      for (std::size_t i = 0; i < group.texts.size(); ++i) {
+        EXPECT_TRUE(ids.insert(group.id + static_cast<int>(i)).second) << dialog.template_name;
+      }
+    }
+    if (dialog.length != nullptr) {
+      EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*dialog.length));
+      EXPECT_TRUE(ids.insert(dialog.length_radio_id).second) << dialog.template_name;
+      EXPECT_TRUE(ids.insert(dialog.length_radio_id + 1).second) << dialog.template_name;
+    }
+    EXPECT_EQ(&dialog, FindLinearOptionDialog(dialog.template_name));
+  }
+  EXPECT_EQ(nullptr, FindLinearOptionDialog("NoSuchDlg"));
+}
+
+TEST(LinearOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
+  for (const LinearOptionDialog& dialog : LinearOptionDialogs()) {
+    auto doc = NewDocument();
+    const auto before = doc->reader_block2;
+    ApplyLinearOptions(*doc, dialog, OpenLinearOptions(*doc, dialog));
+    EXPECT_EQ(before, doc->reader_block2) << dialog.template_name;
+  }
+}
+
+TEST(LinearOptionDialogs, OpeningShowsTheWorkingBlock) {
+  auto doc = NewDocument();
+  const LinearOptionState industrial =
+      OpenLinearOptions(*doc, *FindLinearOptionDialog("Industrial25Dlg"));
+  EXPECT_EQ((std::vector<bool>{false, true}), industrial.checked);
+  EXPECT_EQ((std::vector<int>{0}), industrial.chosen);
+  EXPECT_EQ((LengthPair{true, 127, 1}), industrial.length);
+
+  EXPECT_EQ((std::vector<int>{0}),  // "None" while the transmit bit is clear
+            OpenLinearOptions(*doc, *FindLinearOptionDialog("CodabarDlg")).chosen);
+  EXPECT_EQ((std::vector<int>{1}),  // bit 0 shows "AIM Telepen  (Full ASCII)", radio 602
+            OpenLinearOptions(*doc, *FindLinearOptionDialog("TelepenDlg")).chosen);
+  EXPECT_EQ((std::vector<int>{0, 1}),
+            OpenLinearOptions(*doc, *FindLinearOptionDialog("MSIDlg")).chosen);
+}
+
+struct ApplyCase {
+  const char* name;
+  const char* dialog;
+  std::function<void(LinearOptionState&)> change;
+  std::uint32_t offset;  // record offset of the first byte checked
+  std::vector<std::uint8_t> want;
+};
+
+class LinearOptionApply : public ::testing::TestWithParam<ApplyCase> {};
+
+TEST_P(LinearOptionApply, PacksTheControlsIntoTheWorkingBlock) {
+  auto doc = NewDocument();
+  const LinearOptionDialog& dialog = *FindLinearOptionDialog(GetParam().dialog);
+  LinearOptionState state = OpenLinearOptions(*doc, dialog);
+  GetParam().change(state);
+  ApplyLinearOptions(*doc, dialog, state);
+  for (std::size_t i = 0; i < GetParam().want.size(); ++i) {
+    const std::size_t at = GetParam().offset + i;
+    EXPECT_EQ(GetParam().want[i], doc->reader_block2[at - 3690]) << "byte " << at;
+  }
+  // The record keeps its image until the page applies.
+  EXPECT_EQ(0, std::memcmp(doc->record.data() + 3690, NewDocument()->record.data() + 3690,
+                           kReaderBlock2Size));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, LinearOptionApply,
+    ::testing::Values(ApplyCase{"Code39AllOn",
+                                "Code39Dlg",
+                                [](LinearOptionState& s) { s.checked.assign(4, true); },
+                                3695,
+                                {0xFD}},
+                      ApplyCase{"Code39AllOff",
+                                "Code39Dlg",
+                                [](LinearOptionState& s) { s.checked.assign(4, false); },
+                                3695,
+                                {0x0D}},
+                      ApplyCase{"ItalianChecksumOff",
+                                "ItalyPharmaDlg",
+                                [](LinearOptionState& s) { s.checked[0] = false; },
+                                3695,
+                                {0x25}},
+                      ApplyCase{"FrenchChecksumOff",
+                                "FrenchPharmaDlg",
+                                [](LinearOptionState& s) { s.checked[0] = false; },
+                                3695,
+                                {0x29}},
+                      ApplyCase{"Industrial25FixedAsTyped",
+                                "Industrial25Dlg",
+                                [](LinearOptionState& s) {
+                                  s.chosen[0] = 2;
+                                  s.checked = {true, false};
+                                  s.length = {false, 10, 20};
+                                },
+                                3696,
+                                {0x96}},
+                      ApplyCase{"Industrial25Lengths",
+                                "Industrial25Dlg",
+                                [](LinearOptionState& s) {
+                                  s.length = {false, 10, 20};
+                                },
+                                3702,
+                                {0x0A, 0x14}},
+                      ApplyCase{"Interleave25MaxMinSwapped",
+                                "Interleave25Dlg",
+                                [](LinearOptionState& s) {
+                                  s.chosen[0] = 2;
+                                  s.checked = {true, false};
+                                  s.length = {true, 20, 40};
+                                },
+                                3695,
+                                {0x2E, 0x58, 0x80, 0x00, 0x19, 0x3D, 0x00, 0xFF, 0x01, 0xA8, 0x14}},
+                      ApplyCase{"Matrix25ToIndustrial",
+                                "Matrix25Dlg",
+                                [](LinearOptionState& s) {
+                                  s.chosen[0] = 0;
+                                  s.checked = {true, true};
+                                },
+                                3696,
+                                {0x74, 0x00}},
+                      ApplyCase{"CodabarNoneClearsBits5To3",
+                                "CodabarDlg",
+                                [](LinearOptionState& s) { s.chosen[0] = 0; },
+                                3697,
+                                {0x80}},
+                      ApplyCase{"CodabarLastRadio",
+                                "CodabarDlg",
+                                [](LinearOptionState& s) { s.chosen[0] = 4; },
+                                3697,
+                                {0xB8}},
+                      ApplyCase{"CodabarFirstCharacterSet",
+                                "CodabarDlg",
+                                [](LinearOptionState& s) { s.chosen[0] = 1; },
+                                3697,
+                                {0x88}},
+                      ApplyCase{"MsiRadiosAndLengths",
+                                "MSIDlg",
+                                [](LinearOptionState& s) {
+                                  s.chosen = {2, 2};
+                                  s.length = {true, 0, 0};
+                                },
+                                3699,
+                                {0xA9}},
+                      ApplyCase{"MsiLengthBothZero",
+                                "MSIDlg",
+                                [](LinearOptionState& s) {
+                                  s.length = {true, 0, 0};
+                                },
+                                3708,
+                                {0x81, 0x01}},
+                      ApplyCase{"PlesseyBothOn",
+                                "PlesseyDlg",
+                                [](LinearOptionState& s) {
+                                  s.checked = {true, true};
+                                },
+                                3699,
+                                {0x1D}},
+                      ApplyCase{"UpceAllOn",
+                                "UPCEDlg",
+                                [](LinearOptionState& s) { s.checked.assign(3, true); },
+                                3699,
+                                {0x1B, 0x3F}},
+                      ApplyCase{"Ean8AllOff",
+                                "EAN8Dlg",
+                                [](LinearOptionState& s) { s.checked.assign(2, false); },
+                                3700,
+                                {0x35, 0x00}},
+                      ApplyCase{"Ean8ConvertOn",
+                                "EAN8Dlg",
+                                [](LinearOptionState& s) { s.checked[0] = true; },
+                                3700,
+                                {0x3D, 0x80}},
+                      ApplyCase{"Ean13AllOn",
+                                "EAN13Dlg",
+                                [](LinearOptionState& s) { s.checked.assign(6, true); },
+                                3699,
+                                {0x19, 0xFD}},
+                      ApplyCase{"Ean13AllOff",
+                                "EAN13Dlg",
+                                [](LinearOptionState& s) { s.checked.assign(6, false); },
+                                3699,
+                                {0x18, 0x28}},
+                      ApplyCase{"TelepenOriginalStoresOne",
+                                "TelepenDlg",
+                                [](LinearOptionState& s) { s.chosen[0] = 0; },
+                                3692,
+                                {0x02}},
+                      ApplyCase{"Rss14AllOff",
+                                "RSS14Dlg",
+                                [](LinearOptionState& s) { s.checked.assign(3, false); },
+                                3693,
+                                {0x07}},
+                      ApplyCase{"Rss14LimitedAllOff",
+                                "RSS14LimitedDlg",
+                                [](LinearOptionState& s) { s.checked.assign(3, false); },
+                                3693,
+                                {0x38}},
+                      ApplyCase{"Rss14ExpandedOff",
+                                "RSS14ExpandedDlg",
+                                [](LinearOptionState& s) { s.checked[0] = false; },
+                                3694,
+                                {0x00}},
+                      ApplyCase{"Ean128CodeIdOn",
+                                "EAN128Dlg",
+                                [](LinearOptionState& s) { s.checked[0] = true; },
+                                3712,
+                                {0x23}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(LinearOptionDialogs, OutOfRangeStoredChoiceSelectsTheNearestRadio) {
+  auto doc = NewDocument();
+  WriteWorking(*doc, kIndustrial25StartStop, 3);
+  EXPECT_EQ((std::vector<int>{2}),
+            OpenLinearOptions(*doc, *FindLinearOptionDialog("Industrial25Dlg")).chosen);
+}
+
+}  // namespace
+}  // namespace veltrix

@@ -1,0 +1,217 @@
+#include "settings/system/system_page.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+#include <memory>
+
+#include "settings/document.h"
+#include "settings/prompts/prompts.h"
+#include "settings/system/system_settings.h"
+#include "shell/settings_page_registry_qt.h"
+#include "shell/settings_sheet_dialog.h"
+
+using namespace veltrix;
+
+class SystemPageTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    doc_ = std::make_unique<Document>();
+    SetDefaults(*doc_, 2);
+    page_ = std::make_unique<SystemPage>(*doc_);
+    page_->Initialise(*doc_);
+  }
+  void cleanup() {
+    page_.reset();
+    doc_.reset();
+  }
+
+  void loadsTheDefaults() {
+    QCOMPARE(Edit("auto_power_off")->text(), QString("180"));
+    QCOMPARE(Edit("idle")->text(), QString("2"));
+    QVERIFY(Find<QRadioButton>("power_resume")->isChecked());
+    QVERIFY(Find<QRadioButton>("backlight_off")->isChecked());
+    QVERIFY(Find<QCheckBox>("key_click")->isChecked());
+    QCOMPARE(Find<QComboBox>("download_via")->currentText(), QString("Cradle-IR"));
+    QCOMPARE(Find<QComboBox>("baud_rate")->currentText(), QString("115200 bps"));
+    auto* screens = Find<QComboBox>("prompt_screens");
+    QCOMPARE(screens->count(), 12);
+    QCOMPARE(screens->currentIndex(), 0);
+    QCOMPARE(screens->itemText(0), QString("Main Menu (15*2)").leftJustified(30));
+    QCOMPARE(Edit("prompt_edit_1")->text(), QString("1. Telnet").leftJustified(15));
+  }
+
+  void autoPowerOffEdits_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("empty") << ""
+                           << "1" << 1;
+    QTest::newRow("leading zero") << "0300"
+                                  << "300" << 300;
+    QTest::newRow("above bound") << "70000"
+                                 << "65025" << 65025;
+    QTest::newRow("letters") << "abc"
+                             << "1" << 1;
+    QTest::newRow("plain") << "600"
+                           << "600" << 600;
+  }
+  void autoPowerOffEdits() {
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    QFETCH(int, stored);
+    Edit("auto_power_off")->setText(typed);  // the text changes as a whole, as on a paste
+    QCOMPARE(Edit("auto_power_off")->text(), shown);
+    QCOMPARE(static_cast<int>(ReadNumber(doc_->record, kAutoPowerOff)), stored);
+  }
+
+  void typingKeyByKeyCorrectsEveryChange() {
+    QLineEdit* edit = Edit("auto_power_off");
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Backspace);  // emptied: 1 comes back at once
+    QCOMPARE(edit->text(), QString("1"));
+    QTest::keyClicks(edit, "70000");
+    QCOMPARE(edit->text(), QString("65025"));
+    QCOMPARE(doc_->record[26], std::uint8_t{65025 & 0xFF});
+    QCOMPARE(doc_->record[62], std::uint8_t{65025 >> 8});
+  }
+
+  void idleEdits() {
+    QLineEdit* edit = Edit("idle");
+    edit->setText("0");
+    QCOMPARE(edit->text(), QString("1"));
+    QCOMPARE(doc_->record[29], std::uint8_t{1});
+    edit->setText("12");
+    QCOMPARE(edit->text(), QString("9"));
+    QCOMPARE(doc_->record[29], std::uint8_t{9});
+  }
+
+  void passwordKeepsNineCharacters() {
+    QTest::keyClicks(Edit("password"), "123456789012");
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kPassword)), QString("123456789"));
+    QCOMPARE(Edit("password")->text(), QString("123456789012"));
+    Edit("password")->clear();
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kPassword)), QString());
+  }
+
+  void checkBoxesAndRadiosStoreAtOnce() {
+    for (const SecurityFlag& flag : kSecurityFlags) {
+      auto* box = Find<QCheckBox>(
+          QString::fromUtf8(flag.field->name.data(), static_cast<int>(flag.field->name.size())));
+      box->click();
+      QCOMPARE(ReadNumber(doc_->record, *flag.field), 1u);
+    }
+    QCOMPARE(Find<QCheckBox>("SetDateTime")->text(), QString("Set Date && Time"));
+    Find<QCheckBox>("key_click")->click();
+    QCOMPARE(ReadNumber(doc_->record, kKeyClick), 0u);
+    Find<QRadioButton>("power_restart")->click();
+    QCOMPARE(ReadNumber(doc_->record, kPowerOn), 1u);
+    Find<QRadioButton>("backlight_on")->click();
+    QCOMPARE(ReadNumber(doc_->record, kBacklight), 1u);
+  }
+
+  void combosStoreTheirIndex() {
+    Find<QComboBox>("download_via")->setCurrentIndex(3);
+    Find<QComboBox>("baud_rate")->setCurrentIndex(2);
+    QCOMPARE(ReadNumber(doc_->record, kDownloadVia), 3u);
+    QCOMPARE(ReadNumber(doc_->record, kBaudRate), 2u);
+  }
+
+  void promptScreensEnableTheirRows() {
+    auto* screens = Find<QComboBox>("prompt_screens");
+    screens->setCurrentIndex(10);  // Error Messages: seven lines
+    for (int k = 1; k <= 7; ++k) QVERIFY(Edit(QString("prompt_edit_%1").arg(k))->isEnabled());
+    QVERIFY(!Edit("prompt_edit_8")->isEnabled());
+    QVERIFY(!Label("prompt_label_8")->isEnabled());
+    QCOMPARE(Edit("prompt_edit_8")->text(), QString(20, ' '));
+    screens->setCurrentIndex(0);  // Main Menu: two lines, two more stored slots
+    QVERIFY(Edit("prompt_edit_2")->isEnabled());
+    QVERIFY(!Edit("prompt_edit_3")->isEnabled());
+    QCOMPARE(Edit("prompt_edit_3")->text(), QString(15, ' '));
+    QCOMPARE(Edit("prompt_edit_5")->text(), QString());
+    screens->setCurrentIndex(1);
+    QCOMPARE(Label("prompt_label_6")->text(), QString("6.Set Date && Time   "));
+  }
+
+  void typingALineStoresTheWidthLimit() {
+    Find<QComboBox>("prompt_screens")->setCurrentIndex(1);  // Utilities: 20 characters
+    QLineEdit* edit = Edit("prompt_edit_3");
+    edit->clear();
+    QTest::keyClicks(edit, "abcdefghijklmnopqrstuvwxy");
+    QCOMPARE(edit->text().size(), 25);
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kPromptText, PromptSlot(1, 2))),
+             QString("abcdefghijklmnopqrst"));
+  }
+
+  void resetRestoresDefaultsAndTheFirstScreen() {
+    Edit("auto_power_off")->setText("300");
+    Find<QComboBox>("prompt_screens")->setCurrentIndex(2);
+    QTest::keyClicks(Edit("prompt_edit_1"), "!");
+    Find<QPushButton>("reset")->click();
+    QCOMPARE(Edit("auto_power_off")->text(), QString("180"));
+    QCOMPARE(ReadNumber(doc_->record, kAutoPowerOff), 180u);
+    QCOMPARE(Find<QComboBox>("prompt_screens")->currentIndex(), 0);
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kPromptText, PromptSlot(2, 0))),
+             QString("1. Subnet Mask").leftJustified(20));
+  }
+
+  void applyPadsTheTexts() {
+    page_->Apply(*doc_);
+    QCOMPARE(ReadText(doc_->record, kPromptText, 0).size(), std::size_t{40});
+  }
+
+  // Through the real sheet: a change on this page is undone by Cancel, kept by OK.
+  void sheetCancelRestoresAndOkKeeps() {
+    const SettingsRecord before = doc_->record;
+    {
+      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+      QVERIFY(qobject_cast<SystemPage*>(sheet.page(0)) != nullptr);
+      sheet.page(0)->findChild<QLineEdit*>("auto_power_off")->setText("0300");
+      QCOMPARE(ReadNumber(doc_->record, kAutoPowerOff), 300u);
+      sheet.reject();
+    }
+    QVERIFY(doc_->record == before);
+    QVERIFY(!doc_->modified);
+    {
+      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+      sheet.page(0)->findChild<QLineEdit*>("idle")->setText("12");
+      sheet.accept();
+    }
+    QCOMPARE(doc_->record[29], std::uint8_t{9});
+    QVERIFY(doc_->modified);
+  }
+
+  // Renders the page for a look at its layout (kept in the build folder).
+  void grabsAPicture() {
+    page_->resize(page_->sizeHint().expandedTo(QSize(735, 500)));
+    const QPixmap shot = page_->grab();
+    QVERIFY(!shot.isNull());
+    QVERIFY(shot.save(QDir(VELTRIX_BINARY_DIR).filePath("system_page.png")));
+    Find<QComboBox>("prompt_screens")->setCurrentIndex(1);
+    QVERIFY(page_->grab().save(QDir(VELTRIX_BINARY_DIR).filePath("system_page_utilities.png")));
+  }
+
+ private:
+  template <typename T>
+  T* Find(const QString& name) {
+    T* widget = page_->findChild<T*>(name);
+    if (widget == nullptr) qFatal("no widget %s", qPrintable(name));
+    return widget;
+  }
+  QLineEdit* Edit(const QString& name) { return Find<QLineEdit>(name); }
+  QLabel* Label(const QString& name) { return Find<QLabel>(name); }
+
+  std::unique_ptr<Document> doc_;
+  std::unique_ptr<SystemPage> page_;
+};
+
+QTEST_MAIN(SystemPageTest)
+#include "system_page_test.moc"

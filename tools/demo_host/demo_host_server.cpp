@@ -1,0 +1,121 @@
+#include "demo_host/demo_host_server.h"
+
+#include <QHostAddress>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include "demo_host/demo_application.h"
+
+namespace veltrix::demo_host {
+
+DemoHostServer::DemoHostServer(QObject* parent)
+    : QObject(parent),
+      server_(new QTcpServer(this)),
+      factory_([] { return std::make_unique<DemoApplication>(); }) {
+  connect(server_, &QTcpServer::newConnection, this, &DemoHostServer::OnNewConnection);
+}
+
+DemoHostServer::~DemoHostServer() { Close(); }
+
+void DemoHostServer::SetScript(std::vector<ScriptStep> steps, bool negotiate) {
+  SetApplicationFactory(
+      [steps = std::move(steps)] { return std::make_unique<ScriptedApplication>(steps); },
+      negotiate);
+}
+
+void DemoHostServer::SetApplicationFactory(ApplicationFactory factory, bool negotiate) {
+  factory_ = std::move(factory);
+  negotiate_ = negotiate;
+}
+
+bool DemoHostServer::Listen(quint16 port) {
+  return server_->listen(QHostAddress(QHostAddress::LocalHost), port);
+}
+
+quint16 DemoHostServer::port() const { return server_->serverPort(); }
+
+QString DemoHostServer::error() const { return server_->errorString(); }
+
+void DemoHostServer::Close() {
+  server_->close();
+  const auto sockets = sessions_.keys();
+  sessions_.clear();
+  for (QTcpSocket* socket : sockets) {
+    socket->disconnect(this);
+    socket->abort();
+    socket->deleteLater();
+  }
+}
+
+QList<QByteArray> DemoHostServer::receivedRecords() const {
+  QList<QByteArray> records;
+  if (latest_ == nullptr) return records;
+  for (const auto& r : latest_->records()) {
+    records.append(QByteArray(reinterpret_cast<const char*>(r.data()), qsizetype(r.size())));
+  }
+  return records;
+}
+
+QStringList DemoHostServer::scriptMismatches() const {
+  QStringList list;
+  if (latest_ == nullptr) return list;
+  if (auto* script = dynamic_cast<ScriptedApplication*>(&latest_->application())) {
+    for (const auto& m : script->mismatches()) list.append(QString::fromStdString(m));
+  }
+  return list;
+}
+
+bool DemoHostServer::scriptFinished() const {
+  if (latest_ == nullptr) return false;
+  auto* script = dynamic_cast<ScriptedApplication*>(&latest_->application());
+  return script != nullptr && script->finished();
+}
+
+void DemoHostServer::OnNewConnection() {
+  while (QTcpSocket* socket = server_->nextPendingConnection()) {
+    auto session = std::make_shared<HostSession>(factory_(), negotiate_);
+    sessions_.insert(socket, session);
+    latest_ = session;
+    ++connection_count_;
+    log_.append(QStringLiteral("station connected from %1:%2")
+                    .arg(socket->peerAddress().toString())
+                    .arg(socket->peerPort()));
+    emit logLine(log_.last());
+    connect(socket, &QTcpSocket::readyRead, this, [this, socket] { OnReadyRead(socket); });
+    connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+      sessions_.remove(socket);
+      socket->deleteLater();
+      log_.append(QStringLiteral("station disconnected"));
+      emit logLine(log_.last());
+      emit stationDisconnected();
+    });
+    emit stationConnected();
+    Write(socket, *session, session->Start());
+  }
+}
+
+void DemoHostServer::OnReadyRead(QTcpSocket* socket) {
+  const auto it = sessions_.find(socket);
+  if (it == sessions_.end()) return;
+  const std::shared_ptr<HostSession> session = it.value();
+  const QByteArray bytes = socket->readAll();
+  received_bytes_.append(bytes);
+  emit bytesReceived(bytes);
+  const auto* data = reinterpret_cast<const std::uint8_t*>(bytes.constData());
+  Write(socket, *session, session->Receive({data, static_cast<std::size_t>(bytes.size())}));
+}
+
+void DemoHostServer::Write(QTcpSocket* socket, HostSession& session,
+                           const std::vector<std::uint8_t>& bytes) {
+  for (const auto& line : session.TakeLog()) {
+    log_.append(QString::fromStdString(line));
+    emit logLine(log_.last());
+  }
+  if (!bytes.empty()) {
+    socket->write(reinterpret_cast<const char*>(bytes.data()), qint64(bytes.size()));
+  }
+  // The station sees everything sent before the connection ends.
+  if (session.wants_close()) socket->disconnectFromHost();
+}
+
+}  // namespace veltrix::demo_host

@@ -1,0 +1,40 @@
+// veltrix-demo-host: a small TN5250 host on 127.0.0.1 for trying Veltrix.
+//   veltrix-demo-host [--port N]   (default 2323; 0 picks a free port)
+#include <QCoreApplication>
+#include <QStringList>
+#include <cstdio>
+
+#include "demo_host/demo_host_server.h"
+
+int main(int argc, char** argv) {
+  QCoreApplication app(argc, argv);
+  const QStringList args = app.arguments();
+  quint16 port = 2323;
+  for (int i = 1; i < args.size(); ++i) {
+    if (args[i] == QLatin1String("--port") && i + 1 < args.size()) {
+      bool ok = false;
+      const uint value = args[++i].toUInt(&ok);
+      if (!ok || value > 65535) {
+        std::fprintf(stderr, "veltrix-demo-host: invalid port '%s'\n", qPrintable(args[i]));
+        return 2;
+      }
+      port = static_cast<quint16>(value);
+    } else {
+      std::fprintf(stderr,
+                   "usage: veltrix-demo-host [--port N]\n"
+                   "Serves a TN5250 demo host on 127.0.0.1 (default port 2323, 0 = any free).\n");
+      return args[i] == QLatin1String("--help") ? 0 : 2;
+    }
+  }
+  veltrix::demo_host::DemoHostServer server;
+  QObject::connect(&server, &veltrix::demo_host::DemoHostServer::logLine,
+                   [](const QString& line) { std::fprintf(stderr, "%s\n", qPrintable(line)); });
+  if (!server.Listen(port)) {
+    std::fprintf(stderr, "veltrix-demo-host: cannot listen on 127.0.0.1:%u: %s\n", port,
+                 qPrintable(server.error()));
+    return 1;
+  }
+  std::printf("listening on 127.0.0.1:%u\n", server.port());
+  std::fflush(stdout);
+  return app.exec();
+}
