@@ -1,11 +1,14 @@
 #include <QApplication>
-#include <QMainWindow>
 
-// Placeholder until the main window lands.
+#include "shell/main_window.h"
+
+// Start-up: the main window (document with no product, empty summary), the About box once over
+// it, then the event loop until the window closes.
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  QMainWindow window;
-  window.setWindowTitle("Veltrix - TN5250");
+  QApplication::setApplicationName("Veltrix");
+  veltrix::MainWindow window;
   window.show();
+  window.ShowAbout();
   return app.exec();
 }

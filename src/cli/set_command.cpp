@@ -15,9 +15,14 @@ int RunSetCommand(std::span<const std::string> args, CliIo& io) {
   SettingsFileReport report;
   auto doc = LoadSettingsInput(path, io, &report);
   if (!doc) return kExitUsage;
-  // Saving such a file would replace what it holds by defaults: leave that to convert.
+  // Saving such a file would replace what it holds by defaults, or empty its pages (previous
+  // layout): leave that to convert, which the user asks for knowingly.
   if (report.refused || report.file_size != kSettingsFileSize) {
     return Fail(io, "set: '" + path + "' is not a complete settings file; nothing written");
+  }
+  if (report.converted) {
+    return Fail(io,
+                "set: '" + path + "' has the previous layout; run convert first; nothing written");
   }
   for (std::size_t k = 1; k < parsed.positional.size(); ++k) {
     const std::string& assignment = parsed.positional[k];

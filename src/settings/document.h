@@ -32,6 +32,12 @@ inline constexpr std::size_t kHostKeysPerGroup = 20;
 inline constexpr std::size_t kKeyCodeWidth = 5;
 inline constexpr std::size_t kTerminalKeyCount = 50;
 
+// The blocks' stored images end where the record's map says they do.
+static_assert(kReaderBlock1Offset + kReaderBlock1Size == 58704);
+static_assert(kReaderBlock2Offset + kReaderBlock2Size == 3713);
+static_assert(kKeyGroups * kHostKeysPerGroup * kKeyCodeWidth == 300);
+static_assert(kReaderBlock1Offset + kReaderBlock1Size <= kRecordSize);
+
 // The number of products the product list knows ("Dravin S", "Dravin R").
 inline constexpr int kProductCount = 2;
 

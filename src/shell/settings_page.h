@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "settings/document.h"
-#include "shell/sheet_page.h"
+#include "shell/sheet_page_contract.h"
 
 namespace veltrix {
 

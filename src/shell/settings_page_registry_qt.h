@@ -6,7 +6,7 @@
 
 #include "settings/document.h"
 #include "shell/settings_page.h"
-#include "shell/sheet_page.h"
+#include "shell/sheet_page_contract.h"
 
 namespace veltrix {
 

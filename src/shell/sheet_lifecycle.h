@@ -6,7 +6,7 @@
 
 #include "settings/document.h"
 #include "shell/page_snapshot.h"
-#include "shell/sheet_page.h"
+#include "shell/sheet_page_contract.h"
 
 namespace veltrix {
 

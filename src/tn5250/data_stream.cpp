@@ -241,13 +241,15 @@ void DataStreamInterpreter::DisplayDataByte(std::uint8_t b) {
     half_ = false;
     std::uint8_t first = first_half_;
     std::uint8_t second = b;
-    ConvertPair(first, second);
-    ps.WriteAtCursor(first);
-    ps.WriteAtCursor(second);
+    if (ConvertPair(first, second)) {
+      ps.PutPairAtCursor(first, second);
+    } else {
+      ps.WriteAtCursor(first);
+      ps.WriteAtCursor(second);
+    }
   } else if (b >= 0x20 && b <= 0x3F) {
-    const CellAddress at = ps.Cursor();
-    ps.SetCell(at.column, at.row, 0, 0);
-    ps.SetCursor(ps.Advance(at).row, ps.Advance(at).column);
+    ps.SetCurrentAttribute(0);
+    ps.WriteAtCursor(0);
     ps.SetCurrentAttribute(AttributeToDisplay(b));
   } else {
     const std::uint8_t d = HostToDisplay(host_.emulation_type, b);
@@ -275,14 +277,15 @@ void DataStreamInterpreter::WriteMessageByte(std::uint8_t b, int row, int& colum
     half_ = false;
     std::uint8_t first = first_half_;
     std::uint8_t second = b;
-    ConvertPair(first, second);
+    const bool pair = ConvertPair(first, second);
     if (window) {
-      ps.PutCell(column - 1, row, first);
-      ps.PutCell(column, row, second);
+      ps.PutPair(column - 1, row, first, second, pair);
       ++column;
+    } else if (column + 1 < cols) {
+      ps.PutPair(column, row, first, second, pair);
+      column += 2;
     } else {
-      ps.PutCell(column, row, first);
-      if (column + 1 < cols) ps.PutCell(column + 1, row, second);
+      ps.PutCell(column, row, first);  // a pair cut at the end of the row
       column += 2;
     }
     return;

@@ -22,9 +22,33 @@ void PresentationSpace::Reset() {
 void PresentationSpace::ClearPlanes() {
   characters_.fill(0);
   attributes_.fill(0);
+  pair_start_.fill(false);
 }
 
-void PresentationSpace::ClearCharacterPlane() { characters_.fill(0); }
+void PresentationSpace::ClearCharacterPlane() {
+  characters_.fill(0);
+  pair_start_.fill(false);
+}
+
+bool PresentationSpace::IsPairStart(int row, int column) const {
+  return InScreen(row, column) && pair_start_[Index(row, column)];
+}
+
+void PresentationSpace::PutPairAtCursor(std::uint8_t first, std::uint8_t second) {
+  PutPair(cursor_column_, cursor_row_, first, second);
+  AdvanceAddress(cursor_column_, cursor_row_);
+  AdvanceAddress(cursor_column_, cursor_row_);
+}
+
+void PresentationSpace::PutPair(int column, int row, std::uint8_t first, std::uint8_t second,
+                                bool mark) {
+  const CellAddress next = Advance({row, column});
+  PutCell(column, row, first);
+  PutCell(next.column, next.row, second);
+  if (mark && InScreen(row, column) && InScreen(next.row, next.column)) {
+    pair_start_[Index(row, column)] = true;
+  }
+}
 
 std::uint8_t PresentationSpace::Character(int row, int column) const {
   return InScreen(row, column) ? characters_[Index(row, column)] : 0;
@@ -41,8 +65,10 @@ void PresentationSpace::PutCell(int column, int row, std::uint8_t character) {
 void PresentationSpace::SetCell(int column, int row, std::uint8_t character,
                                 std::uint8_t attribute) {
   if (!InScreen(row, column)) return;
-  characters_[Index(row, column)] = character;
-  attributes_[Index(row, column)] = attribute;
+  const int i = Index(row, column);
+  characters_[i] = character;
+  attributes_[i] = attribute;
+  pair_start_[i] = false;
 }
 
 void PresentationSpace::SetAttribute(int column, int row, std::uint8_t attribute) {
@@ -53,7 +79,10 @@ void PresentationSpace::EraseCell(int column, int row, bool character, bool colo
                                   bool display_bits) {
   if (!InScreen(row, column)) return;
   const int i = Index(row, column);
-  if (character) characters_[i] = 0;
+  if (character) {
+    characters_[i] = 0;
+    pair_start_[i] = false;
+  }
   if (colour_bits) attributes_[i] &= static_cast<std::uint8_t>(~kAttrColourMask);
   if (display_bits) attributes_[i] &= kAttrColourMask;
 }
@@ -109,6 +138,7 @@ void PresentationSpace::RestoreErrorRow() {
 
 void PresentationSpace::ClearErrorRow() {
   std::fill_n(characters_.begin() + Index(error_row_, 0), kPlaneColumns, std::uint8_t{0});
+  std::fill_n(pair_start_.begin() + Index(error_row_, 0), kPlaneColumns, false);
 }
 
 }  // namespace veltrix

@@ -60,6 +60,14 @@ class PresentationSpace {
   // Stores character and attribute directly (dropped outside the screen).
   void SetCell(int column, int row, std::uint8_t character, std::uint8_t attribute);
   void SetAttribute(int column, int row, std::uint8_t attribute);
+  // Writes a double-byte character: first byte at (column, row), second in the next cell, and
+  // marks the first cell as the left half of a pair (for painting and text output).
+  void PutPairAtCursor(std::uint8_t first, std::uint8_t second);
+  // The same at a given cell, without moving the cursor.
+  // mark false writes two single-byte cells (a pair the host language could not convert).
+  void PutPair(int column, int row, std::uint8_t first, std::uint8_t second, bool mark = true);
+  // Whether the cell holds the left half of a double-byte character.
+  bool IsPairStart(int row, int column) const;
   // Erases the selected parts of a cell: the character, the colour bits 7-5, the bits 4-0.
   void EraseCell(int column, int row, bool character, bool colour_bits, bool display_bits);
 
@@ -107,6 +115,7 @@ class PresentationSpace {
   std::array<std::uint8_t, kPlaneSize> characters_{};
   std::array<std::uint8_t, kPlaneSize> attributes_{};
   std::array<std::uint8_t, kPlaneColumns> error_row_save_{};
+  std::array<bool, kPlaneSize> pair_start_{};
   int rows_ = kScreenRows;
   int columns_ = kScreenColumns;
   int cursor_row_ = 0;

@@ -175,6 +175,12 @@ TEST_F(CliTest, SetLeavesIncompleteFilesAlone) {
       {"truncated.QVL", std::vector<std::uint8_t>(full.begin(), full.begin() + 70000)},
       {"garbage.QVL", std::vector<std::uint8_t>(kSettingsFileSize, 0x5A)},
       {"empty.QVL", {}},
+      {"previous.QVL",
+       [&full] {
+         std::vector<std::uint8_t> previous = full;
+         previous[0] = 'V';
+         return previous;
+       }()},
   };
   for (const auto& c : cases) {
     const std::string path = folder_.File(c.name);

@@ -124,7 +124,8 @@ TEST(ScreenSummary, LargeFontOffersTheOtherSizes) {
   WriteNumber(doc->record, *font_size, 1);
   WriteNumber(doc->record, kTotalPages, 1);
   WriteNumber(doc->record, kReformatPageTo, 2, 0);
-  const SummaryNode& page = BuildSummary(*doc).back().children.at(0);
+  const std::vector<SummaryNode> summary = BuildSummary(*doc);
+  const SummaryNode& page = summary.back().children.at(0);
   EXPECT_EQ("Reformat page  1 to 15 characters * 12 lines", page.children.at(0).text);
   EXPECT_EQ(2u + 12u, page.children.size());
 }

@@ -6,13 +6,16 @@
 #include <QTcpSocket>
 #include <QtTest>
 
+#include "demo_host/demo_application.h"
 #include "demo_host/demo_host_server.h"
 #include "demo_host/demo_screens.h"
 #include "demo_host/ebcdic_text.h"
 #include "demo_host/host_codes.h"
+#include "demo_host/host_session.h"
 #include "demo_host/inbound_record.h"
 #include "demo_host/outbound_record.h"
 #include "demo_host/telnet_stream.h"
+#include "tn5250/session.h"
 
 using namespace veltrix::demo_host;
 
@@ -147,6 +150,54 @@ bool SignOn(DemoHostServer& server, Station& station) {
   return station.NextRecord().contains(Host("Veltrix Demo Main Menu"));
 }
 
+// Veltrix's own session engine wired to a host session without sockets: what one sends the
+// other receives, until both are quiet.
+class EnginePipe : public veltrix::SessionListener {
+ public:
+  EnginePipe() : host(std::make_unique<DemoApplication>()), station({0, "VELTRIX01"}, this) {
+    station.Connect();
+    Deliver(host.Start());
+  }
+
+  void OnSend(std::span<const std::uint8_t> bytes) override {
+    to_host.insert(to_host.end(), bytes.begin(), bytes.end());
+  }
+
+  void Deliver(std::vector<std::uint8_t> bytes) {
+    while (!bytes.empty()) {
+      station.Receive(bytes);
+      std::vector<std::uint8_t> sent;
+      sent.swap(to_host);
+      bytes = host.Receive(sent);
+    }
+  }
+  void Key(veltrix::HostKey key) {
+    station.KeyInput(key);
+    Flush();
+  }
+  void Type(const char* text) {
+    for (; *text != '\0'; ++text) station.TypeCharacter(static_cast<std::uint8_t>(*text));
+  }
+  void Flush() {
+    std::vector<std::uint8_t> sent;
+    sent.swap(to_host);
+    Deliver(host.Receive(sent));
+  }
+  QString Row(int row) const {
+    QString text;
+    for (int column = 0; column < 80; ++column) {
+      const auto c = station.Screen().Character(row, column);
+      text += c >= 0x20 && c < 0x7F ? QChar(c) : QChar(' ');
+    }
+    return text.trimmed();
+  }
+  const DemoApplication& app() { return static_cast<const DemoApplication&>(host.application()); }
+
+  HostSession host;
+  veltrix::Session station;
+  std::vector<std::uint8_t> to_host;
+};
+
 }  // namespace
 
 class DemoHostTest : public QObject {
@@ -170,6 +221,7 @@ class DemoHostTest : public QObject {
   void scriptSendsExpectsAndLogs();
   void scriptWithoutNegotiation();
   void executablePrintsItsEphemeralPort();
+  void veltrixEngineWorksThroughTheDemo();
 };
 
 void DemoHostTest::writerFramesAndDoublesIac() {
@@ -327,7 +379,7 @@ void DemoHostTest::signOnWithoutUserGivesErrorCode() {
   const QByteArray error = station.NextRecord();
   QCOMPARE(error.mid(kRecordHeaderSize, 5), Bytes({0x04, 0x21, 0x13, 6, 53}));
   QVERIFY(error.contains(Host("Type a user name, then press Enter.")));
-  QVERIFY(error.endsWith(Bytes({0x04, 0x52, 0x00, 0x00})));
+  QVERIFY(error.endsWith(Bytes({0x04, 0x52, 0x00, 0x40})));
 }
 
 void DemoHostTest::listPagesDownAndStopsAtTheEnds() {
@@ -508,6 +560,50 @@ void DemoHostTest::executablePrintsItsEphemeralPort() {
   QVERIFY(station.Expect(Bytes({0xFF, 0xFD, 39})));
   host.kill();
   host.waitForFinished();
+}
+
+void DemoHostTest::veltrixEngineWorksThroughTheDemo() {
+  EnginePipe pipe;
+  QVERIFY(pipe.host.running());
+  QCOMPARE(pipe.host.station().terminal_type, std::string("IBM-3179-2"));
+  QCOMPARE(pipe.host.station().environment.at("DEVNAME"), std::string("VELTRIX01"));
+  QVERIFY(pipe.Row(0).contains("Sign On"));
+  QVERIFY(pipe.Row(3).contains("VELTRIX01"));
+  QCOMPARE(pipe.station.CursorRow(), kUserField.row - 1);
+  QCOMPARE(pipe.station.CursorColumn(), kUserField.column - 1);
+  QVERIFY(pipe.host.TakeLog() == std::vector<std::string>({"terminal type IBM-3179-2",
+                                                           "query reply: device 3477 model 0FC"}));
+
+  pipe.Type("bob");
+  pipe.Key(veltrix::HostKey::kEnter);
+  QCOMPARE(pipe.app().screen(), DemoApplication::Screen::kMenu);
+  QCOMPARE(pipe.app().user(), std::string("BOB"));  // a monocase field
+  QVERIFY(pipe.Row(1).contains("Signed on as BOB"));
+
+  pipe.Type("1");
+  pipe.Key(veltrix::HostKey::kEnter);
+  QVERIFY(pipe.Row(kListFirstRow - 1).contains("ITEM0001"));
+  pipe.Key(veltrix::HostKey::kPageDown);
+  QCOMPARE(pipe.app().list_page(), 1);
+  QVERIFY(pipe.Row(kListFirstRow - 1).contains("ITEM0011"));
+
+  pipe.Key(veltrix::HostKey::kF3);
+  pipe.Type("2");
+  pipe.Key(veltrix::HostKey::kEnter);
+  QCOMPARE(pipe.app().screen(), DemoApplication::Screen::kQuantity);
+  pipe.Type("ITEM0004");  // a full field moves the cursor on to the quantity
+  pipe.Type("x1");
+  pipe.Key(veltrix::HostKey::kEnter);
+  QVERIFY(pipe.Row(23).contains("Quantity must be a number from 1 to 9999."));
+  QVERIFY(pipe.station.KeyboardLocked());
+  QCOMPARE(pipe.station.CursorRow(), kQuantityField.row - 1);
+
+  pipe.Key(veltrix::HostKey::kReset);
+  pipe.Key(veltrix::HostKey::kHome);
+  pipe.Key(veltrix::HostKey::kDown);  // onto the quantity field again
+  pipe.Type("25 ");
+  pipe.Key(veltrix::HostKey::kEnter);
+  QVERIFY2(pipe.Row(23).contains("Quantity 25 recorded for ITEM0004."), qPrintable(pipe.Row(23)));
 }
 
 QTEST_MAIN(DemoHostTest)

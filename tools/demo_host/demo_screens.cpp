@@ -122,7 +122,8 @@ std::vector<std::uint8_t> QuantityScreen(std::string_view item, std::string_view
 
 std::vector<std::uint8_t> ErrorRecord(std::string_view message, FieldPosition field) {
   OutboundRecord r;
-  r.WriteErrorCode(message, field.row, field.column).ReadMdtFields();
+  // Control character 2 bit 6 keeps the cursor where the error code put it.
+  r.WriteErrorCode(message, field.row, field.column).ReadMdtFields(0x00, kCc2NoCursorMove);
   return r.Finish();
 }
 

@@ -44,6 +44,8 @@ inline constexpr std::uint8_t kOrderStartField = 0x1D;
 
 // Write to Display control character 2: unlock the keyboard.
 inline constexpr std::uint8_t kCc2UnlockKeyboard = 0x08;
+// Control character 2: leave the cursor where the record's orders put it.
+inline constexpr std::uint8_t kCc2NoCursorMove = 0x40;
 
 // Field format word, byte 1 and byte 2.
 inline constexpr std::uint8_t kFfwBase = 0x40;

@@ -9,18 +9,102 @@
 
 namespace veltrix {
 
+// The emulation section: options of the terminal's 5250 client and its message line.
+inline constexpr FieldDef kEmulationType{
+    .name = "EmulationType",
+    .offset = 4449,
+    .max = 6,
+    .meaning = "host language; 1-4 are the double-byte languages"};
+inline constexpr FieldDef kFontSize{
+    .name = "FontSize", .offset = 4451, .max = 1, .meaning = "0 Small (6x8), 1 Large (8x16)"};
+inline constexpr FieldDef kNavigator{.name = "Navigator",
+                                     .offset = 4454,
+                                     .max = 3,
+                                     .default_value = 1,
+                                     .meaning = "0 None, 1 Icon, 2 20*15, 3 32*24"};
+// Key field indices: 0 none, 1-9 FN+1..FN+9, 10 FN+0.
+inline constexpr FieldDef kNavigatorKey{.name = "NavigatorKey",
+                                        .offset = 4455,
+                                        .max = 10,
+                                        .meaning = "0 Disable, 1-9 FN+1..FN+9, 10 FN+0"};
+inline constexpr FieldDef kHorizontalSteps{.name = "HorizontalSteps",
+                                           .offset = 4456,
+                                           .min = 1,
+                                           .max = 255,
+                                           .default_value = 19,
+                                           .meaning = "horizontal scroll step"};
+inline constexpr FieldDef kVerticalSteps{.name = "VerticalSteps",
+                                         .offset = 4457,
+                                         .min = 1,
+                                         .max = 255,
+                                         .default_value = 7,
+                                         .meaning = "vertical scroll step"};
+inline constexpr FieldDef kViewOrgX{.name = "ViewOrgX",
+                                    .offset = 4458,
+                                    .max = 79,
+                                    .meaning = "view origin column of a locked screen"};
+inline constexpr FieldDef kViewOrgY{
+    .name = "ViewOrgY", .offset = 4459, .max = 24, .meaning = "view origin row of a locked screen"};
+inline constexpr FieldDef kCursorTracking{.name = "CursorTracking",
+                                          .offset = 4460,
+                                          .max = 1,
+                                          .default_value = 1,
+                                          .meaning = "1 the view follows the cursor"};
+inline constexpr FieldDef kTrimSpaces{
+    .name = "TrimSpaces", .offset = 4461, .max = 1, .meaning = "1 Trim Spaces"};
+inline constexpr FieldDef kRemoveEmptyLine{
+    .name = "RemoveEmptyLine", .offset = 4462, .max = 1, .meaning = "1 Remove Empty Line"};
+inline constexpr FieldDef kDisableLocalEcho{
+    .name = "DisableLocalEcho", .offset = 4465, .max = 1, .meaning = "1 local echo off"};
+// Always the complement of CursorTracking.
+inline constexpr FieldDef kLockScreen{
+    .name = "LockScreen",
+    .offset = 4466,
+    .max = 1,
+    .meaning = "1 Lock Screen (the complement of CursorTracking)"};
+// Index 0-23 of the message line in the list "1".."24".
+inline constexpr FieldDef kMessageLineNumber{
+    .name = "MessageLineNumber",
+    .offset = 59660,
+    .max = 23,
+    .default_value = 23,
+    .meaning = "index 0-23 of the message line (lines 1-24)"};
+inline constexpr FieldDef kFieldLengthIfExceed{
+    .name = "FieldLengthIfExceed",
+    .offset = 59661,
+    .max = 2,
+    .meaning = "0 Reject, 1 Truncate, 2 Split To Next Field"};
+inline constexpr FieldDef kMessageFunctionKey{.name = "MessageFunctionKey",
+                                              .offset = 59662,
+                                              .max = 10,
+                                              .meaning = "0 Disable, 1-9 FN+1..FN+9, 10 FN+0"};
+inline constexpr FieldDef kMessageTimeOut{
+    .name = "MessageTimeOut", .offset = 59663, .default_value = 3, .meaning = "message time-out"};
+inline constexpr FieldDef kExcludeString{.name = "ExcludeString",
+                                         .offset = 59664,
+                                         .width = 20,
+                                         .type = FieldType::kText,
+                                         .meaning = "text of at most 19 characters"};
+
 // Every field of this section, declared once.
 std::span<const FieldDef* const> EmulationFields();
 
-// The section's default routine (run by SetDefaults in the fixed order).
+// The section's default routine (run by SetDefaults in the fixed order, and by "Reset"): releases
+// the navigator's function key, then restores every field but `FieldLengthIfExceed`.
 void SetEmulationDefaults(Document& doc);
 
-// Appends this section's summary lines below `parent`.
+// Appends this section's summary lines below `parent` (the "Emulation" item), including the
+// "Function Key Mapping" branch.
 void AppendEmulationSummary(const Document& doc, SummaryNode& parent);
 
 // Gives `MessageLineNumber`, `MessageTimeOut` and `ExcludeString` their defaults (also used when
 // a previous-layout file is converted on open).
 void SetEmulationMessageDefaults(Document& doc);
+
+// Double-byte host languages (Traditional/Simplified Chinese, Korean, Japanese).
+constexpr bool IsDoubleByteLanguage(int emulation_type) {
+  return emulation_type >= 1 && emulation_type <= 4;
+}
 
 }  // namespace veltrix
 

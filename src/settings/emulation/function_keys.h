@@ -9,19 +9,56 @@
 
 namespace veltrix {
 
+// Mapping entries: 50 entries of 3 bytes, entry n for terminal key n. Byte 0 holds the group
+// (0 nil, 1 Shift, 2 Alt) or a role (201-206), byte 1 the host key number (0-38, 0 when the key is
+// held by a role), byte 2 is always 0.
+inline constexpr std::uint32_t kKeyMappingOffset = 4565;
+inline constexpr std::uint32_t kKeyMappingStride = 3;
+inline constexpr FieldDef kKeyMappingGroup{.name = "KeyMappingGroup",
+                                           .offset = kKeyMappingOffset,
+                                           .count = kTerminalKeyCount,
+                                           .stride = kKeyMappingStride,
+                                           .max = 206,
+                                           .meaning = "0 nil, 1 Shift, 2 Alt, 201-206 a role"};
+inline constexpr FieldDef kKeyMappingHostKey{
+    .name = "KeyMappingHostKey",
+    .offset = kKeyMappingOffset + 1,
+    .count = kTerminalKeyCount,
+    .stride = kKeyMappingStride,
+    .max = 38,
+    .meaning = "host key number 0-38 (0 while a role holds the key)"};
+inline constexpr FieldDef kKeyMappingSpare{.name = "KeyMappingSpare",
+                                           .offset = kKeyMappingOffset + 2,
+                                           .count = kTerminalKeyCount,
+                                           .stride = kKeyMappingStride,
+                                           .max = 0,
+                                           .meaning = "always 0"};
+// Key codes: the byte sequence recorded for terminal key n, zero-filled.
+inline constexpr FieldDef kKeyCode{.name = "KeyCode",
+                                   .offset = 4715,
+                                   .width = kKeyCodeWidth,
+                                   .type = FieldType::kBytes,
+                                   .count = kTerminalKeyCount,
+                                   .stride = kKeyCodeWidth,
+                                   .meaning = "the bytes the terminal key sends, zero-filled"};
+
 // Every field of this section, declared once.
 std::span<const FieldDef* const> FunctionKeyFields();
 
-// The section's default routine (run by SetDefaults in the fixed order).
+// The section's default routine (run by SetDefaults in the fixed order, by the Emulation page's
+// "Reset" and by the previous-layout conversion): default mapping, built-in key code table, key
+// codes from it, then every key field that names a key claims it again for its role.
 void SetFunctionKeyDefaults(Document& doc);
 
-// Appends this section's summary lines below `parent`.
+// Appends the mapping's lines below `parent` (the "Function Key Mapping" item): one line per key
+// the product has.
 void AppendFunctionKeySummary(const Document& doc, SummaryNode& parent);
 
 // Fills doc.key_present from the product index.
 void ApplyKeyAvailability(Document& doc);
 
-// Rebuilds doc.key_codes from the mapping entries and key codes of the record (on open).
+// Rebuilds doc.key_codes from the mapping entries and key codes of the record (on open). An entry
+// whose group and host key fall outside the 60-entry table leaves the table unchanged.
 void RebuildKeyCodeTable(Document& doc);
 
 // Roles a terminal FN key can be claimed for (the first byte of a mapping entry).
@@ -34,7 +71,9 @@ enum FunctionKeyRole : int {
   kRoleSwitchKey = 206,
 };
 
-// k is a key field index 1-10 (1-9 name FN+1..FN+9, 10 names FN+0).
+// k is a key field index 1-10 (1-9 name FN+1..FN+9, 10 names FN+0); other values do nothing.
+// Claim: the key's entry becomes (role, 0, 0). Release: the entry goes back to (0, k, 0), that is
+// PF1..PF9 and PF10 for FN+0. Either way the key code becomes key code table entry k.
 void ClaimFunctionKey(Document& doc, int k, int role);
 void ReleaseFunctionKey(Document& doc, int k);
 // True when the key that field index k names is already held by a role.

@@ -1,5 +1,5 @@
-#ifndef VELTRIX_SHELL_SHEET_PAGE_H_
-#define VELTRIX_SHELL_SHEET_PAGE_H_
+#ifndef VELTRIX_SHELL_SHEET_PAGE_CONTRACT_H_
+#define VELTRIX_SHELL_SHEET_PAGE_CONTRACT_H_
 
 #include <array>
 #include <string_view>
@@ -54,4 +54,4 @@ class SheetPage {
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_SHELL_SHEET_PAGE_H_
+#endif  // VELTRIX_SHELL_SHEET_PAGE_CONTRACT_H_

@@ -1,0 +1,60 @@
+#include "settings/emulation/emulation_choices.h"
+
+#include <array>
+
+#include "settings/emulation/emulation_settings.h"
+#include "settings/field.h"
+
+namespace veltrix {
+namespace {
+
+constexpr std::array<std::string_view, 7> kLanguages = {"Single Byte Character",
+                                                        "Tranditional Chinese",
+                                                        "Simplified Chinese",
+                                                        "Korean",
+                                                        "Japanese",
+                                                        "Greek",
+                                                        "French"};
+constexpr std::array<std::string_view, 4> kNavigators = {"None", "Icon", "20*15", "32*24"};
+constexpr std::array<std::string_view, 3> kFieldLengths = {"Reject", "Truncate",
+                                                           "Split To Next Field"};
+
+struct FontSteps {
+  std::uint32_t horizontal;
+  std::uint32_t vertical;
+};
+// Scroll steps that fit the small (6x8) and large (8x16) fonts on the terminal's display.
+constexpr FontSteps kStepsOfFont[2] = {{19, 7}, {14, 3}};
+
+void StoreFontSize(Document& doc, int font_size) {
+  WriteNumber(doc.record, kFontSize, static_cast<std::uint32_t>(font_size));
+  const FontSteps& steps = kStepsOfFont[font_size == 1 ? 1 : 0];
+  WriteNumber(doc.record, kHorizontalSteps, steps.horizontal);
+  WriteNumber(doc.record, kVerticalSteps, steps.vertical);
+}
+
+}  // namespace
+
+std::span<const std::string_view> LanguageChoices() { return kLanguages; }
+std::span<const std::string_view> NavigatorChoices() { return kNavigators; }
+std::span<const std::string_view> FieldLengthChoices() { return kFieldLengths; }
+
+void ChooseLanguage(Document& doc, int language) {
+  WriteNumber(doc.record, kEmulationType, static_cast<std::uint32_t>(language));
+  StoreFontSize(doc, IsDoubleByteLanguage(language) ? 1 : 0);
+}
+
+bool ChooseFontSize(Document& doc, int font_size) {
+  if (static_cast<int>(ReadNumber(doc.record, kFontSize)) == font_size) return false;
+  StoreFontSize(doc, font_size);
+  return true;
+}
+
+void SetCursorTracking(Document& doc, bool on) {
+  WriteNumber(doc.record, kCursorTracking, on ? 1 : 0);
+  WriteNumber(doc.record, kLockScreen, on ? 0 : 1);
+}
+
+void SetLockScreen(Document& doc, bool on) { SetCursorTracking(doc, !on); }
+
+}  // namespace veltrix

@@ -1,0 +1,71 @@
+#include "settings/emulation/number_edit.h"
+
+#include <limits>
+
+namespace veltrix {
+namespace {
+
+std::string_view Trim(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
+
+bool HasLeadingZero(std::string_view text) { return text.size() >= 2 && text.front() == '0'; }
+
+// Clamps a number into [low, high]; a corrected or zero-led text is written back as the value.
+NumberEdit Clamped(std::string_view text, std::int64_t low, std::int64_t high) {
+  const std::optional<std::int64_t> number = ParseDecimal(text);
+  if (!number || *number < low) return {static_cast<std::uint32_t>(low), std::to_string(low)};
+  if (*number > high) return {static_cast<std::uint32_t>(high), std::to_string(high)};
+  const auto value = static_cast<std::uint32_t>(*number);
+  if (HasLeadingZero(text)) return {value, std::to_string(value)};
+  return {value, std::nullopt};
+}
+
+}  // namespace
+
+std::optional<std::int64_t> ParseDecimal(std::string_view text) {
+  text = Trim(text);
+  bool negative = false;
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
+    negative = text.front() == '-';
+    text.remove_prefix(1);
+  }
+  if (text.empty()) return std::nullopt;
+  std::int64_t value = 0;
+  for (char c : text) {
+    if (c < '0' || c > '9') return std::nullopt;
+    value = value * 10 + (c - '0');
+    if (value > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
+  }
+  return negative ? -value : value;
+}
+
+NumberEdit TelnetPortEdit(std::string_view text) {
+  const std::optional<std::int64_t> number = ParseDecimal(text);
+  if (!number || *number < 0) {
+    if (text.empty()) return {0, std::nullopt};
+    return {0, "0"};
+  }
+  return {static_cast<std::uint32_t>(*number) & 0xFFFFu, std::nullopt};
+}
+
+NumberEdit KeepAliveEdit(std::string_view text) { return Clamped(text, 0, 255); }
+
+NumberEdit ScrollStepEdit(std::string_view text) { return Clamped(text, 1, 255); }
+
+NumberEdit ViewOriginEdit(std::string_view text, std::uint32_t bound) {
+  const std::optional<std::int64_t> number = ParseDecimal(text);
+  const std::uint32_t value = number && *number > 0 ? static_cast<std::uint32_t>(*number) : 0;
+  if (value >= bound) return {bound - 1, std::to_string(bound - 1)};
+  return {value, std::nullopt};
+}
+
+NumberEdit MessageTimeOutEdit(std::string_view text) {
+  const std::optional<std::int64_t> number = ParseDecimal(text);
+  const std::uint32_t value = number && *number > 0 ? static_cast<std::uint32_t>(*number) : 0;
+  return {value & 0xFFu, std::nullopt};
+}
+
+}  // namespace veltrix

@@ -1,0 +1,25 @@
+#ifndef VELTRIX_SETTINGS_NETWORK_NETWORK_CHOICES_H_
+#define VELTRIX_SETTINGS_NETWORK_NETWORK_CHOICES_H_
+
+#include <span>
+#include <string_view>
+
+#include "settings/document.h"
+
+namespace veltrix {
+
+// "Share Key", "Open System" (the `Security` bit).
+std::span<const std::string_view> AuthenticationChoices();
+// "64 bits (5 bytes)", "128 bits (13 bytes)" (`WepKeyLength`).
+std::span<const std::string_view> WepKeyLengthChoices();
+
+// Text typed into the host combo: its first 49 characters go into the active host entry only.
+void StoreActiveHostText(Document& doc, std::string_view text);
+
+// Apply on the Wireless LAN page: every text field is NUL-filled behind its text to its full
+// width; of the host list only the active entry, the others keep what lies behind their NUL.
+void PadNetworkTexts(Document& doc);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SETTINGS_NETWORK_NETWORK_CHOICES_H_

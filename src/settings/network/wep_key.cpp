@@ -1,0 +1,48 @@
+#include "settings/network/wep_key.h"
+
+#include <algorithm>
+#include <array>
+
+#include "settings/field.h"
+#include "settings/network/network_settings.h"
+
+namespace veltrix {
+
+int WepKeyBytes(const Document& doc) { return ReadNumber(doc.record, kWepKeyLength) == 1 ? 13 : 5; }
+
+std::string WepKeyText(std::span<const std::uint8_t> key) {
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  std::string text;
+  for (std::uint8_t byte : key) {
+    text += kHex[byte >> 4];
+    text += kHex[byte & 0x0F];
+    text += ' ';
+  }
+  return text;
+}
+
+std::string StoredWepKeyText(const Document& doc, int index) {
+  auto key = FieldBytes(std::span<const std::uint8_t>(doc.record), kWepKey, index);
+  if (key.empty()) return {};
+  return WepKeyText(key.first(static_cast<std::size_t>(WepKeyBytes(doc))));
+}
+
+void StoreWepKey(Document& doc, int index, std::span<const std::uint8_t> key) {
+  auto stored = FieldBytes(std::span<std::uint8_t>(doc.record), kWepKey, index);
+  if (stored.empty()) return;
+  std::array<std::uint8_t, kWepKeyStoredWidth> scratch{};
+  const std::size_t n = std::min(key.size(), static_cast<std::size_t>(WepKeyBytes(doc)));
+  std::copy_n(key.begin(), n, scratch.begin());
+  std::copy(scratch.begin(), scratch.end(), stored.begin());
+}
+
+void ChangeWepKeyLength(Document& doc, int length_choice) {
+  WriteNumber(doc.record, kWepKeyLength, static_cast<std::uint32_t>(length_choice));
+  const auto length = static_cast<std::size_t>(WepKeyBytes(doc));
+  for (int i = 0; i < kWepKeyCount; ++i) {
+    auto stored = FieldBytes(std::span<std::uint8_t>(doc.record), kWepKey, i);
+    std::fill(stored.begin() + length, stored.end(), 0);
+  }
+}
+
+}  // namespace veltrix

@@ -1,0 +1,117 @@
+#include "shell/commands.h"
+
+#include <utility>
+
+#include "resources/strings.h"
+#include "settings/settings_file.h"
+#include "shell/command_table.h"
+
+namespace veltrix {
+namespace {
+
+FileFilter SettingsFilter() {
+  return FileFilter{std::string(kSettingsFilterText), std::string(kSettingsFilterPattern)};
+}
+
+std::string_view Title() { return StringResource(kWindowTitleId); }
+
+}  // namespace
+
+SettingsFileIo SettingsFileIo::Real() {
+  return SettingsFileIo{
+      [](Document& doc, const std::string& path) { return ReadSettingsFile(doc, path); },
+      [](Document& doc, const std::string& path) { return WriteSettingsFileTo(doc, path); }};
+}
+
+DocumentCommands::DocumentCommands(Document& doc, UserPrompt& prompt, FileChooser& chooser,
+                                   std::function<void()> open_settings_sheet, SettingsFileIo io)
+    : doc_(doc),
+      prompt_(prompt),
+      chooser_(chooser),
+      open_settings_sheet_(std::move(open_settings_sheet)),
+      io_(std::move(io)) {}
+
+bool DocumentCommands::CheckProduct(int command_id) {
+  if (!NeedsProduct(command_id) || doc_.product() != 0) return true;
+  prompt_.ShowMessage(Title(), kPleaseSelectProduct, PromptIcon::kExclamation);
+  return false;
+}
+
+bool DocumentCommands::OfferToSave() {
+  if (!doc_.modified) return true;
+  switch (prompt_.AskYesNoCancel(Title(), kSaveTheProgram)) {
+    case PromptAnswer::kYes:
+      SaveSettingsFile();  // a failed save does not stop the command
+      return true;
+    case PromptAnswer::kNo:
+      return true;
+    case PromptAnswer::kCancel:
+      return false;
+  }
+  return false;
+}
+
+void DocumentCommands::New() {
+  if (!OfferToSave()) return;
+  doc_.file_name.clear();
+  doc_.modified = false;
+  SetDefaults(doc_, doc_.product());
+  open_settings_sheet_();
+}
+
+bool DocumentCommands::Open() {
+  if (!OfferToSave()) return false;
+  doc_.file_name.clear();
+  doc_.modified = false;
+  if (!OpenSettingsFile()) return false;
+  open_settings_sheet_();
+  return true;
+}
+
+bool DocumentCommands::Save() {
+  if (!SaveSettingsFile()) return false;
+  doc_.modified = false;
+  return true;
+}
+
+bool DocumentCommands::SaveAs() {
+  if (!SaveSettingsFileAs()) return false;
+  doc_.modified = false;
+  return true;
+}
+
+bool DocumentCommands::ChangeProduct(int index) {
+  if (index == doc_.product() || index < 0 || index > kProductCount) return false;
+  doc_.file_name.clear();
+  doc_.modified = false;
+  SetDefaults(doc_, index);
+  return true;
+}
+
+bool DocumentCommands::QueryClose() { return OfferToSave(); }
+
+bool DocumentCommands::OpenSettingsFile() {
+  std::optional<std::string> path = chooser_.ChooseFileToOpen(SettingsFilter(), doc_.file_name);
+  if (!path || path->empty()) return false;
+  if (!io_.read(doc_, *path)) return false;
+  doc_.file_name = *path;
+  return true;
+}
+
+bool DocumentCommands::SaveSettingsFile() {
+  if (doc_.file_name.empty()) return SaveSettingsFileAs();
+  return WriteSettingsFile();
+}
+
+bool DocumentCommands::SaveSettingsFileAs() {
+  std::optional<std::string> path = chooser_.ChooseFileToSave(SettingsFilter(), kSettingsExtension);
+  if (!path || path->empty()) return false;
+  doc_.file_name = SaveAsFileName(*path);
+  return WriteSettingsFile();
+}
+
+bool DocumentCommands::WriteSettingsFile() {
+  return !doc_.file_name.empty() && io_.write(doc_, doc_.file_name);
+}
+
+}  // namespace veltrix

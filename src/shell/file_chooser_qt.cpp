@@ -1,0 +1,45 @@
+#include "shell/file_chooser_qt.h"
+
+#include <QFileDialog>
+
+namespace veltrix {
+namespace {
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+// "Settings (*.QVL)": the dialog matches the pattern without regard to case.
+QString NameFilter(const FileFilter& filter) {
+  QString description = Text(filter.description);
+  const QString pattern = Text(filter.pattern);
+  if (!description.contains(pattern)) description += " (" + pattern + ")";
+  return description;
+}
+
+std::optional<std::string> Chosen(QFileDialog& dialog) {
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return dialog.selectedFiles().front().toStdString();
+}
+
+}  // namespace
+
+std::optional<std::string> QtFileChooser::ChooseFileToOpen(const FileFilter& filter,
+                                                           std::string_view initial) {
+  QFileDialog dialog(parent_, QString(), QString(), NameFilter(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (!initial.empty()) dialog.selectFile(Text(initial));
+  return Chosen(dialog);
+}
+
+std::optional<std::string> QtFileChooser::ChooseFileToSave(const FileFilter& filter,
+                                                           std::string_view default_extension) {
+  QFileDialog dialog(parent_, QString(), QString(), NameFilter(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setDefaultSuffix(Text(default_extension));
+  return Chosen(dialog);
+}
+
+}  // namespace veltrix

@@ -1,0 +1,232 @@
+#include "tn5250/replay.h"
+
+#include <array>
+#include <cstdio>
+
+#include "tn5250/display_text.h"
+
+namespace veltrix {
+
+namespace {
+
+struct KeyName {
+  std::string_view name;
+  HostKey key;
+};
+
+constexpr std::array<KeyName, 27> kKeyNames = {{
+    {"Enter", HostKey::kEnter},
+    {"Tab", HostKey::kTab},
+    {"Home", HostKey::kHome},
+    {"End", HostKey::kEnd},
+    {"Delete", HostKey::kDelete},
+    {"Backspace", HostKey::kBackspace},
+    {"FieldPlus", HostKey::kFieldPlus},
+    {"FieldMinus", HostKey::kFieldMinus},
+    {"Reset", HostKey::kReset},
+    {"PageUp", HostKey::kPageUp},
+    {"PageDown", HostKey::kPageDown},
+    {"Up", HostKey::kUp},
+    {"Down", HostKey::kDown},
+    {"Left", HostKey::kLeft},
+    {"Right", HostKey::kRight},
+    {"F1", HostKey::kF1},
+    {"F2", HostKey::kF2},
+    {"F3", HostKey::kF3},
+    {"F4", HostKey::kF4},
+    {"F5", HostKey::kF5},
+    {"F6", HostKey::kF6},
+    {"F7", HostKey::kF7},
+    {"F8", HostKey::kF8},
+    {"F9", HostKey::kF9},
+    {"F10", HostKey::kF10},
+    {"F11", HostKey::kF11},
+    {"F12", HostKey::kF12},
+}};
+
+std::string Hex2(unsigned v) {
+  char buf[8];
+  std::snprintf(buf, sizeof buf, "%02X", v & 0xFF);
+  return buf;
+}
+
+std::string Hex4(unsigned hi, unsigned lo) { return Hex2(hi) + Hex2(lo); }
+
+void AppendJsonString(std::string& out, std::string_view text) {
+  out += '"';
+  for (unsigned char c : text) {
+    if (c == '"' || c == '\\') {
+      out += '\\';
+      out += static_cast<char>(c);
+    } else if (c < 0x20) {
+      char buf[8];
+      std::snprintf(buf, sizeof buf, "\\u%04X", c);
+      out += buf;
+    } else {
+      out += static_cast<char>(c);
+    }
+  }
+  out += '"';
+}
+
+std::string EscapedTrace(std::string_view text) {
+  std::string out;
+  for (char c : text) {
+    if (c == '\r') {
+      out += "\\r";
+    } else if (c == '\n') {
+      out += "\\n";
+    } else {
+      out += c;
+    }
+  }
+  return out;
+}
+
+}  // namespace
+
+bool ParseReplayKeys(std::string_view text, int emulation_type, std::vector<KeyStroke>& keys,
+                     std::string& error) {
+  std::size_t i = 0;
+  while (i < text.size()) {
+    if (text[i] == '<') {
+      if (i + 1 < text.size() && text[i + 1] == '<') {
+        keys.push_back({true, '<', HostKey::kEnter});
+        i += 2;
+        continue;
+      }
+      const std::size_t close = text.find('>', i);
+      if (close == std::string_view::npos) {
+        error = "unterminated key name at offset " + std::to_string(i);
+        return false;
+      }
+      const std::string_view name = text.substr(i + 1, close - i - 1);
+      bool found = false;
+      for (const KeyName& k : kKeyNames) {
+        if (k.name == name) {
+          keys.push_back({false, 0, k.key});
+          found = true;
+          break;
+        }
+      }
+      if (!found) {
+        error = "unknown key <" + std::string(name) + ">";
+        return false;
+      }
+      i = close + 1;
+      continue;
+    }
+    const std::size_t at = i;
+    const char32_t c = NextUtf8(text, i);
+    const auto display = UnicodeToDisplayByte(emulation_type, c);
+    if (!display) {
+      error = "character at offset " + std::to_string(at) + " cannot be typed in this language";
+      return false;
+    }
+    keys.push_back({true, *display, HostKey::kEnter});
+  }
+  return true;
+}
+
+ReplayRun::ReplayRun(const SessionConfig& config) : session_(config, this) {}
+
+void ReplayRun::OnSend(std::span<const std::uint8_t> bytes) {
+  sent_.insert(sent_.end(), bytes.begin(), bytes.end());
+}
+
+void ReplayRun::Run(std::span<const ReplayStep> steps, std::size_t chunk_size) {
+  for (const ReplayStep& step : steps) {
+    const std::span<const std::uint8_t> host(step.host);
+    const std::size_t size = chunk_size == 0 ? host.size() : chunk_size;
+    for (std::size_t at = 0; at < host.size(); at += size) {
+      session_.Receive(host.subspan(at, std::min(size, host.size() - at)));
+    }
+    for (const KeyStroke& k : step.keys) {
+      if (k.is_character) {
+        session_.TypeCharacter(k.character);
+      } else {
+        session_.KeyInput(k.key);
+      }
+    }
+  }
+}
+
+std::string ReplayRun::Text() const {
+  const PresentationSpace& ps = session_.Screen();
+  const int language = session_.Config().emulation_type;
+  std::string out;
+  for (int row = 0; row < ps.Rows(); ++row) {
+    std::string text = ScreenRowText(ps, language, row);
+    while (!text.empty() && text.back() == ' ') text.pop_back();  // trailing blanks say nothing
+    out += text;
+    out += '\n';
+  }
+  out +=
+      "cursor " + std::to_string(ps.CursorRow()) + " " + std::to_string(ps.CursorColumn()) + "\n";
+  for (const FieldRecord& f : session_.Fields().Records()) {
+    out += "field number=" + std::to_string(f.number) +
+           " resequence=" + std::to_string(f.resequence) + " row=" + std::to_string(f.row) +
+           " column=" + std::to_string(f.column) + " length=" + std::to_string(f.length) +
+           " ffw=" + Hex4(f.format1, f.format2) + " fcw=" + Hex4(f.control1, f.control2) +
+           " attribute=" + Hex2(f.attribute) + "\n";
+  }
+  out += "sent";
+  for (std::uint8_t b : sent_) out += " " + Hex2(b);
+  out += "\n";
+  out += session_.KeyboardLocked() ? "keyboard locked\n" : "keyboard unlocked\n";
+  out += "read mode " + std::to_string(static_cast<int>(session_.CurrentReadMode())) + "\n";
+  out += "alarms " + std::to_string(alarms_) + "\n";
+  for (const std::string& t : traces_) out += "trace " + EscapedTrace(t) + "\n";
+  return out;
+}
+
+std::string ReplayRun::Json() const {
+  const PresentationSpace& ps = session_.Screen();
+  const int language = session_.Config().emulation_type;
+  std::string out = "{\"rows\":" + std::to_string(ps.Rows()) +
+                    ",\"columns\":" + std::to_string(ps.Columns()) +
+                    ",\"cursor\":{\"row\":" + std::to_string(ps.CursorRow()) +
+                    ",\"column\":" + std::to_string(ps.CursorColumn()) + "},\"screen\":[";
+  for (int row = 0; row < ps.Rows(); ++row) {
+    if (row > 0) out += ',';
+    AppendJsonString(out, ScreenRowText(ps, language, row));
+  }
+  const auto plane_rows = [&](bool attributes) {
+    std::string rows = "[";
+    for (int row = 0; row < ps.Rows(); ++row) {
+      if (row > 0) rows += ',';
+      rows += '"';
+      for (int column = 0; column < ps.Columns(); ++column) {
+        rows += Hex2(attributes ? ps.Attribute(row, column) : ps.Character(row, column));
+      }
+      rows += '"';
+    }
+    return rows + "]";
+  };
+  out += "],\"cells\":" + plane_rows(false) + ",\"attributes\":" + plane_rows(true);
+  out += ",\"fields\":[";
+  bool first = true;
+  for (const FieldRecord& f : session_.Fields().Records()) {
+    if (!first) out += ',';
+    first = false;
+    out += "{\"number\":" + std::to_string(f.number) +
+           ",\"resequence\":" + std::to_string(f.resequence) + ",\"row\":" + std::to_string(f.row) +
+           ",\"column\":" + std::to_string(f.column) + ",\"length\":" + std::to_string(f.length) +
+           ",\"ffw\":\"" + Hex4(f.format1, f.format2) + "\",\"fcw\":\"" +
+           Hex4(f.control1, f.control2) + "\",\"attribute\":\"" + Hex2(f.attribute) + "\"}";
+  }
+  out += "],\"keyboard_locked\":";
+  out += session_.KeyboardLocked() ? "true" : "false";
+  out += ",\"read_mode\":" + std::to_string(static_cast<int>(session_.CurrentReadMode()));
+  out += ",\"sent\":\"";
+  for (std::uint8_t b : sent_) out += Hex2(b);
+  out += "\",\"trace\":[";
+  for (std::size_t i = 0; i < traces_.size(); ++i) {
+    if (i > 0) out += ',';
+    AppendJsonString(out, traces_[i]);
+  }
+  out += "]}\n";
+  return out;
+}
+
+}  // namespace veltrix

@@ -1,0 +1,67 @@
+#ifndef VELTRIX_TN5250_REPLAY_H_
+#define VELTRIX_TN5250_REPLAY_H_
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tn5250/keys.h"
+#include "tn5250/session.h"
+
+namespace veltrix {
+
+// One key stroke of a replay: a printable character (display code) or a key.
+struct KeyStroke {
+  bool is_character = false;
+  std::uint8_t character = 0;
+  HostKey key = HostKey::kEnter;
+};
+
+// Parses replay keys: text is typed as it stands (UTF-8, converted to the host language's
+// display code), key names in angle brackets (<Enter> <Tab> <Home> <End> <Delete> <Backspace>
+// <FieldPlus> <FieldMinus> <Reset> <PageUp> <PageDown> <F1>..<F12> <Up> <Down> <Left>
+// <Right>) and "<<" for a literal "<". Gives false with a message on an unknown key name or a
+// character the host language cannot type.
+bool ParseReplayKeys(std::string_view text, int emulation_type, std::vector<KeyStroke>& keys,
+                     std::string& error);
+
+// One step of a replay: host bytes (Telnet included) fed in pieces of chunk_size bytes (0 for
+// all at once), then key strokes.
+struct ReplayStep {
+  std::vector<std::uint8_t> host;
+  std::vector<KeyStroke> keys;
+};
+
+// What a replay leaves: the session and everything it reported.
+class ReplayRun : public SessionListener {
+ public:
+  explicit ReplayRun(const SessionConfig& config);
+  void Run(std::span<const ReplayStep> steps, std::size_t chunk_size = 0);
+
+  const Session& session() const { return session_; }
+  const std::vector<std::uint8_t>& sent() const { return sent_; }
+  const std::vector<std::string>& traces() const { return traces_; }
+  int alarms() const { return alarms_; }
+
+  // Text output: the screen rows, "cursor ROW COLUMN", one "field ..." line per field record,
+  // "sent HEX...", then the keyboard state, read mode, alarms and one "trace ..." line each.
+  std::string Text() const;
+  // The same as one JSON object.
+  std::string Json() const;
+
+  void OnSend(std::span<const std::uint8_t> bytes) override;
+  void OnAlarm() override { ++alarms_; }
+  void OnTrace(std::string_view text) override { traces_.emplace_back(text); }
+
+ private:
+  Session session_;
+  std::vector<std::uint8_t> sent_;
+  std::vector<std::string> traces_;
+  int alarms_ = 0;
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_REPLAY_H_

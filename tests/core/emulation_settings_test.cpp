@@ -1,0 +1,156 @@
+#include "settings/emulation/emulation_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "settings/emulation/emulation_choices.h"
+#include "settings/emulation/function_keys.h"
+#include "settings/emulation/key_mapping.h"
+#include "settings/emulation/number_edit.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument(int product) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, product);
+  return doc;
+}
+
+std::vector<std::uint8_t> Image(const Document& doc, std::size_t first, std::size_t last) {
+  return {doc.record.begin() + first, doc.record.begin() + last + 1};
+}
+
+// Bytes 4449-4466 after New, then zeros to 4564.
+std::vector<std::uint8_t> ExpectedMainImage() {
+  std::vector<std::uint8_t> image = {0, 0, 0, 0, 0, 1, 0, 19, 7, 0, 0, 1, 0, 0, 0, 20, 0, 0};
+  image.resize(4564 - 4449 + 1, 0);
+  return image;
+}
+
+// Bytes 59660-59783 after New.
+std::vector<std::uint8_t> ExpectedMessageImage() {
+  std::vector<std::uint8_t> image = {23, 0, 0, 3};
+  for (char c : std::string("COPYRIGHT")) image.push_back(static_cast<std::uint8_t>(c));
+  image.resize(59783 - 59660 + 1, 0);
+  return image;
+}
+
+class EmulationDefaults : public ::testing::TestWithParam<int> {};
+
+TEST_P(EmulationDefaults, SectionIsByteExact) {
+  auto doc = NewDocument(GetParam());
+  EXPECT_EQ(ExpectedMainImage(), Image(*doc, 4449, 4564));
+  EXPECT_EQ(ExpectedMessageImage(), Image(*doc, 59660, 59783));
+}
+
+INSTANTIATE_TEST_SUITE_P(Products, EmulationDefaults, ::testing::Values(0, 1, 2, 3));
+
+TEST(EmulationDefaults, ResetKeepsFieldLengthChoiceAndReleasesTheNavigatorKey) {
+  auto doc = NewDocument(2);
+  for (std::size_t at = 4449; at <= 4466; ++at) doc->record[at] = 0x55;
+  WriteNumber(doc->record, kNavigatorKey, 0);
+  ApplyFunctionKeyCombo(*doc, kNavigatorKey, 0, 4, kRoleNavigatorKey);
+  WriteNumber(doc->record, kFieldLengthIfExceed, 1);
+  WriteNumber(doc->record, kMessageLineNumber, 5);
+  WriteText(doc->record, kExcludeString, "X");
+
+  SetEmulationDefaults(*doc);
+  std::vector<std::uint8_t> expected = ExpectedMainImage();
+  EXPECT_EQ(expected, Image(*doc, 4449, 4564));
+  EXPECT_EQ(1u, ReadNumber(doc->record, kFieldLengthIfExceed));
+  EXPECT_EQ(23u, ReadNumber(doc->record, kMessageLineNumber));
+  EXPECT_EQ("COPYRIGHT", ReadText(doc->record, kExcludeString));
+  EXPECT_EQ("PF4", MappingLabel(*doc, 4));
+}
+
+TEST(EmulationDefaults, MessageDefaultsTouchOnlyTheirTenBytesAndTwoFields) {
+  auto doc = NewDocument(1);
+  for (std::size_t at = 59660; at < 59784; ++at) doc->record[at] = 0x77;
+  SetEmulationMessageDefaults(*doc);
+  std::vector<std::uint8_t> expected = {23, 0x77, 0x77, 3};
+  for (char c : std::string("COPYRIGHT")) expected.push_back(static_cast<std::uint8_t>(c));
+  expected.push_back(0);
+  expected.resize(59783 - 59660 + 1, 0x77);
+  EXPECT_EQ(expected, Image(*doc, 59660, 59783));
+}
+
+TEST(EmulationChoices, LanguageSetsFontAndSteps) {
+  struct Case {
+    int language;
+    std::uint32_t font, horizontal, vertical;
+  };
+  auto doc = NewDocument(1);
+  for (const Case& c : {Case{4, 1, 14, 3}, Case{6, 0, 19, 7}, Case{1, 1, 14, 3}, Case{5, 0, 19, 7},
+                        Case{3, 1, 14, 3}, Case{0, 0, 19, 7}}) {
+    ChooseLanguage(*doc, c.language);
+    EXPECT_EQ(static_cast<std::uint32_t>(c.language), ReadNumber(doc->record, kEmulationType));
+    EXPECT_EQ(c.font, ReadNumber(doc->record, kFontSize)) << c.language;
+    EXPECT_EQ(c.horizontal, ReadNumber(doc->record, kHorizontalSteps)) << c.language;
+    EXPECT_EQ(c.vertical, ReadNumber(doc->record, kVerticalSteps)) << c.language;
+  }
+}
+
+TEST(EmulationChoices, SameFontSizeKeepsHandEditedSteps) {
+  auto doc = NewDocument(1);
+  WriteNumber(doc->record, kHorizontalSteps, 50);
+  EXPECT_FALSE(ChooseFontSize(*doc, 0));
+  EXPECT_EQ(50u, ReadNumber(doc->record, kHorizontalSteps));
+  EXPECT_TRUE(ChooseFontSize(*doc, 1));
+  EXPECT_EQ(14u, ReadNumber(doc->record, kHorizontalSteps));
+  EXPECT_EQ(3u, ReadNumber(doc->record, kVerticalSteps));
+}
+
+TEST(EmulationChoices, LockScreenAndCursorTrackingAreComplements) {
+  auto doc = NewDocument(1);
+  SetLockScreen(*doc, true);
+  EXPECT_EQ(1u, ReadNumber(doc->record, kLockScreen));
+  EXPECT_EQ(0u, ReadNumber(doc->record, kCursorTracking));
+  SetCursorTracking(*doc, true);
+  EXPECT_EQ(0u, ReadNumber(doc->record, kLockScreen));
+  EXPECT_EQ(1u, ReadNumber(doc->record, kCursorTracking));
+  SetCursorTracking(*doc, false);
+  EXPECT_EQ(1u, ReadNumber(doc->record, kLockScreen));
+}
+
+TEST(EmulationChoices, ExcludeStringKeepsNineteenCharacters) {
+  auto doc = NewDocument(1);
+  WriteText(doc->record, kExcludeString, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+  EXPECT_EQ("ABCDEFGHIJKLMNOPQRS", ReadText(doc->record, kExcludeString));
+}
+
+struct EditCase {
+  std::string text;
+  std::uint32_t value;
+  std::optional<std::string> write_back;
+};
+
+TEST(NumberEdits, ScrollSteps) {
+  for (const EditCase& c : std::vector<EditCase>{{"19", 19, std::nullopt},
+                                                 {"0", 1, "1"},
+                                                 {"", 1, "1"},
+                                                 {"abc", 1, "1"},
+                                                 {"256", 255, "255"},
+                                                 {"007", 7, "7"},
+                                                 {"00", 1, "1"},
+                                                 {"255", 255, std::nullopt}}) {
+    EXPECT_EQ((NumberEdit{c.value, c.write_back}), ScrollStepEdit(c.text)) << c.text;
+  }
+}
+
+TEST(NumberEdits, ViewOriginAndTimeOut) {
+  EXPECT_EQ((NumberEdit{79, "79"}), ViewOriginEdit("90", 80));
+  EXPECT_EQ((NumberEdit{79, "79"}), ViewOriginEdit("80", 80));
+  EXPECT_EQ((NumberEdit{79, std::nullopt}), ViewOriginEdit("79", 80));
+  EXPECT_EQ((NumberEdit{24, "24"}), ViewOriginEdit("30", 25));
+  EXPECT_EQ((NumberEdit{0, std::nullopt}), ViewOriginEdit("", 25));
+  EXPECT_EQ((NumberEdit{44, std::nullopt}), MessageTimeOutEdit("300"));
+  EXPECT_EQ((NumberEdit{3, std::nullopt}), MessageTimeOutEdit("3"));
+  EXPECT_EQ((NumberEdit{0, std::nullopt}), MessageTimeOutEdit(""));
+}
+
+}  // namespace
+}  // namespace veltrix

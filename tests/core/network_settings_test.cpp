@@ -1,0 +1,172 @@
+#include "settings/network/network_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "settings/emulation/function_keys.h"
+#include "settings/emulation/key_mapping.h"
+#include "settings/emulation/number_edit.h"
+#include "settings/network/network_choices.h"
+#include "settings/network/wep_key.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument(int product) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, product);
+  return doc;
+}
+
+struct Bytes {
+  std::size_t offset;
+  std::string bytes;  // written at offset; everything else of the section is zero
+};
+
+// The section's image after New, byte by byte.
+const std::vector<Bytes> kDefaultImage = {
+    {3783, "255.255.128.0"}, {3807, "192.168.1.250"}, {3831, "0.0.0.0"}, {3855, "\x01"},
+    {3856, "192.168.1.241"}, {3900, "192.168.1.10"},  {4151, "\x17"},    {4153, "\x01"},
+    {4286, "WLAN"},          {4306, "new"},           {4327, "tulip"},   {4349, "EXIT"},
+};
+
+std::vector<std::uint8_t> ExpectedImage(std::size_t first, std::size_t last) {
+  std::vector<std::uint8_t> image(last - first + 1, 0);
+  for (const Bytes& b : kDefaultImage) {
+    if (b.offset < first || b.offset > last) continue;
+    std::memcpy(image.data() + (b.offset - first), b.bytes.data(), b.bytes.size());
+  }
+  return image;
+}
+
+std::vector<std::uint8_t> Image(const Document& doc, std::size_t first, std::size_t last) {
+  return {doc.record.begin() + first, doc.record.begin() + last + 1};
+}
+
+class NetworkDefaults : public ::testing::TestWithParam<int> {};
+
+TEST_P(NetworkDefaults, SectionIsByteExact) {
+  auto doc = NewDocument(GetParam());
+  EXPECT_EQ(ExpectedImage(3783, 4448), Image(*doc, 3783, 4448));
+  EXPECT_EQ(0, doc->record[59659]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Products, NetworkDefaults, ::testing::Values(0, 1, 2, 3));
+
+TEST(NetworkDefaults, ResetReleasesLoginKeysAndRestoresEverything) {
+  auto doc = NewDocument(1);
+  ApplyFunctionKeyCombo(*doc, kLoginNameKey, 0, 3, kRoleNameKey);
+  ApplyFunctionKeyCombo(*doc, kLoginPasswordKey, 0, 10, kRolePasswordKey);
+  ApplyFunctionKeyCombo(*doc, kLogoutKey, 0, 6, kRoleExitKey);
+  WriteNumber(doc->record, kAutoSignOn, 1);
+  WriteNumber(doc->record, kKeepAliveMinutes, 9);
+  doc->record[kSecurity.offset] = 0xFE;
+  WriteText(doc->record, kHostIpOrName, "host3", 2);
+  StoreWepKey(*doc, 1, std::vector<std::uint8_t>{1, 2, 3, 4, 5});
+
+  SetNetworkDefaults(*doc);
+  EXPECT_EQ(ExpectedImage(3783, 4448), Image(*doc, 3783, 4448));
+  EXPECT_EQ(0, doc->record[59659]);
+  EXPECT_EQ("PF3", MappingLabel(*doc, 3));
+  EXPECT_EQ("PF10", MappingLabel(*doc, 0));
+  EXPECT_EQ("PF6", MappingLabel(*doc, 6));
+}
+
+TEST(WepKeys, TextIsUpperCaseHexPairsEachFollowedByABlank) {
+  EXPECT_EQ("00 00 00 00 00 ", WepKeyText(std::vector<std::uint8_t>(5, 0)));
+  EXPECT_EQ("0A FF 3C ", WepKeyText(std::vector<std::uint8_t>{0x0A, 0xFF, 0x3C}));
+  EXPECT_EQ("", WepKeyText({}));
+}
+
+TEST(WepKeys, LengthChangesShowAndClearTheRightBytes) {
+  auto doc = NewDocument(2);
+  ChangeWepKeyLength(*doc, 1);
+  std::vector<std::uint8_t> key(16);
+  for (int i = 0; i < 16; ++i) key[i] = static_cast<std::uint8_t>(0x10 + i);
+  StoreWepKey(*doc, 2, key);
+  EXPECT_EQ("10 11 12 13 14 15 16 17 18 19 1A 1B 1C ", StoredWepKeyText(*doc, 2));
+  auto stored = FieldBytes(std::span<const std::uint8_t>(doc->record), kWepKey, 2);
+  EXPECT_EQ(0, stored[13]);  // only 13 bytes are the key
+  EXPECT_EQ(0, stored[15]);
+
+  ChangeWepKeyLength(*doc, 0);
+  EXPECT_EQ("10 11 12 13 14 ", StoredWepKeyText(*doc, 2));
+  for (int i = 5; i < 16; ++i) EXPECT_EQ(0, stored[i]) << i;
+
+  // Back to 128 bits: the cleared bytes read as zeros.
+  ChangeWepKeyLength(*doc, 1);
+  EXPECT_EQ("10 11 12 13 14 00 00 00 00 00 00 00 00 ", StoredWepKeyText(*doc, 2));
+  EXPECT_EQ("", StoredWepKeyText(*doc, 4));
+}
+
+TEST(HostList, TypingChangesOnlyTheActiveEntryAndApplyPadsOnlyIt) {
+  auto doc = NewDocument(1);
+  // Leave bytes behind the NUL of entries 2 and 3, as an older edit would.
+  WriteText(doc->record, kHostIpOrName, "longer.host.name", 1);
+  WriteText(doc->record, kHostIpOrName, "longer.host.name", 2);
+  WriteText(doc->record, kHostIpOrName, "a", 1);
+  WriteText(doc->record, kHostIpOrName, "b", 2);
+  WriteNumber(doc->record, kActiveHostIpOrName, 2);
+  StoreActiveHostText(*doc, std::string(60, 'x'));
+  EXPECT_EQ(std::string(49, 'x'), ReadText(doc->record, kHostIpOrName, 2));
+  EXPECT_EQ("a", ReadText(doc->record, kHostIpOrName, 1));
+  EXPECT_EQ("192.168.1.10", ReadText(doc->record, kHostIpOrName, 0));
+
+  StoreActiveHostText(*doc, "b");
+  PadNetworkTexts(*doc);
+  const auto entry = [&](int i) {
+    return FieldBytes(std::span<const std::uint8_t>(doc->record), kHostIpOrName, i);
+  };
+  for (std::size_t i = 1; i < 50; ++i) EXPECT_EQ(0, entry(2)[i]) << i;
+  EXPECT_EQ('n', entry(1)[2]);  // "a\0nger..." keeps what lies behind its NUL
+}
+
+TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
+  auto doc = NewDocument(1);
+  WriteNumber(doc->record, kActiveHostIpOrName, 9);
+  const SettingsRecord before = doc->record;
+  StoreActiveHostText(*doc, "x");
+  PadNetworkTexts(*doc);
+  EXPECT_EQ(before, doc->record);
+}
+
+struct EditCase {
+  std::string text;
+  std::uint32_t value;
+  std::optional<std::string> write_back;
+};
+
+void ExpectEdits(NumberEdit (*edit)(std::string_view), const std::vector<EditCase>& cases) {
+  for (const EditCase& c : cases) {
+    EXPECT_EQ((NumberEdit{c.value, c.write_back}), edit(c.text)) << '"' << c.text << '"';
+  }
+}
+
+TEST(NumberEdits, TelnetPort) {
+  ExpectEdits(TelnetPortEdit, {{"23", 23, std::nullopt},
+                               {"70000", 4464, std::nullopt},
+                               {"65535", 65535, std::nullopt},
+                               {"abc", 0, "0"},
+                               {"12x", 0, "0"},
+                               {"-5", 0, "0"},
+                               {"", 0, std::nullopt},
+                               {"99999999999", 0, "0"}});
+}
+
+TEST(NumberEdits, KeepAlive) {
+  ExpectEdits(KeepAliveEdit, {{"10", 10, std::nullopt},
+                              {"300", 255, "255"},
+                              {"007", 7, "7"},
+                              {"0", 0, std::nullopt},
+                              {"00", 0, "0"},
+                              {"-3", 0, "0"},
+                              {"x", 0, "0"},
+                              {"", 0, "0"}});
+}
+
+}  // namespace
+}  // namespace veltrix

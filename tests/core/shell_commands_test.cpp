@@ -1,0 +1,262 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "shell/command_table.h"
+#include "shell/commands.h"
+#include "shell/fake_ports.h"
+
+namespace veltrix {
+namespace {
+
+constexpr std::size_t kSomeByte = 200;
+
+// A file system in memory: path -> the record byte kSomeByte it holds.
+struct FakeFiles {
+  std::map<std::string, std::uint8_t> files;
+  bool fail_writes = false;
+  int writes = 0;
+
+  SettingsFileIo Io() {
+    return SettingsFileIo{[this](Document& doc, const std::string& path) {
+                            auto it = files.find(path);
+                            if (it == files.end()) return false;
+                            doc.record[kProductOffset] = 2;
+                            doc.record[kSomeByte] = it->second;
+                            return true;
+                          },
+                          [this](Document& doc, const std::string& path) {
+                            ++writes;
+                            if (fail_writes) return false;
+                            files[path] = doc.record[kSomeByte];
+                            return true;
+                          }};
+  }
+};
+
+class DocumentCommandsTest : public ::testing::Test {
+ protected:
+  DocumentCommandsTest()
+      : doc_(std::make_unique<Document>()),
+        commands_(
+            *doc_, prompt_, chooser_, [this] { ++sheets_; }, files_.Io()) {
+    SetDefaults(*doc_, 0);
+  }
+
+  void ChooseProduct(int index) { ASSERT_TRUE(commands_.ChangeProduct(index)); }
+  std::vector<std::string> Texts() const {
+    std::vector<std::string> texts;
+    for (const auto& shown : prompt_.shown) texts.push_back(shown.text);
+    return texts;
+  }
+
+  std::unique_ptr<Document> doc_;
+  FakeUserPrompt prompt_;
+  FakeFileChooser chooser_;
+  FakeFiles files_;
+  int sheets_ = 0;
+  DocumentCommands commands_;
+};
+
+class ProductRuleTest : public DocumentCommandsTest, public ::testing::WithParamInterface<int> {};
+
+TEST_P(ProductRuleTest, CommandsThatNeedAProductAreRefusedWithoutOne) {
+  const int id = GetParam();
+  const bool needs = id == kCmdNew || id == kCmdSave || id == kCmdSaveAs || id == kCmdConfigure ||
+                     id == kCmdDownloadSettings;
+  EXPECT_EQ(commands_.CheckProduct(id), !needs);
+  if (needs) {
+    ASSERT_EQ(prompt_.shown.size(), 1u);
+    EXPECT_EQ(prompt_.shown[0].text, "Please select product !!");
+    EXPECT_EQ(prompt_.shown[0].caption, "Veltrix - TN5250");
+    EXPECT_EQ(prompt_.shown[0].icon, PromptIcon::kExclamation);
+  } else {
+    EXPECT_TRUE(prompt_.shown.empty());
+  }
+  ChooseProduct(1);
+  EXPECT_TRUE(commands_.CheckProduct(id));
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryCommand, ProductRuleTest,
+                         ::testing::Values(kCmdNew, kCmdOpen, kCmdSave, kCmdSaveAs, kCmdExit,
+                                           kCmdConfigure, kCmdDownloadSettings, kCmdDownloadProgram,
+                                           kCmdConnect, kCmdDisconnect, kCmdStartCapture,
+                                           kCmdCapture, kCmdStopCapture, kCmdAbout));
+
+TEST_F(DocumentCommandsTest, ProductChangeReplacesTheDocumentWithoutAsking) {
+  ChooseProduct(1);
+  doc_->record[kSomeByte] = 0xEE;
+  doc_->modified = true;
+  doc_->file_name = "a.QVL";
+  ChooseProduct(2);
+  EXPECT_EQ(doc_->product(), 2);
+  EXPECT_NE(doc_->record[kSomeByte], 0xEE);
+  EXPECT_FALSE(doc_->modified);
+  EXPECT_TRUE(doc_->file_name.empty());
+  EXPECT_TRUE(prompt_.shown.empty());
+  EXPECT_FALSE(commands_.ChangeProduct(2));  // same product: nothing happens
+}
+
+TEST_F(DocumentCommandsTest, NewWhileUnmodifiedResetsAndOpensTheSheet) {
+  ChooseProduct(2);
+  doc_->record[kSomeByte] = 0xEE;
+  doc_->file_name = "x.QVL";
+  commands_.New();
+  EXPECT_TRUE(prompt_.shown.empty());
+  EXPECT_NE(doc_->record[kSomeByte], 0xEE);
+  EXPECT_EQ(doc_->product(), 2);
+  EXPECT_TRUE(doc_->file_name.empty());
+  EXPECT_EQ(sheets_, 1);
+}
+
+struct AskCase {
+  const char* name;
+  PromptAnswer answer;
+  bool saves;
+  bool goes_on;
+};
+
+class SaveQuestionTest : public DocumentCommandsTest,
+                         public ::testing::WithParamInterface<AskCase> {};
+
+TEST_P(SaveQuestionTest, NewAsksWhileModified) {
+  const AskCase& c = GetParam();
+  ChooseProduct(1);
+  doc_->file_name = "old.QVL";
+  doc_->record[kSomeByte] = 0x11;
+  doc_->modified = true;
+  prompt_.answers = {c.answer};
+  commands_.New();
+  EXPECT_EQ(Texts(), std::vector<std::string>{"Save the program ?"});
+  EXPECT_EQ(prompt_.shown[0].caption, "Veltrix - TN5250");
+  EXPECT_EQ(files_.files.count("old.QVL"), c.saves ? 1u : 0u);
+  EXPECT_EQ(sheets_, c.goes_on ? 1 : 0);
+  EXPECT_EQ(doc_->modified, !c.goes_on);
+}
+
+TEST_P(SaveQuestionTest, CloseAsksWhileModified) {
+  const AskCase& c = GetParam();
+  ChooseProduct(1);
+  doc_->file_name = "old.QVL";
+  doc_->modified = true;
+  prompt_.answers = {c.answer};
+  EXPECT_EQ(commands_.QueryClose(), c.goes_on);
+  EXPECT_EQ(files_.writes, c.saves ? 1 : 0);
+}
+
+TEST_P(SaveQuestionTest, OpenAsksWhileModified) {
+  const AskCase& c = GetParam();
+  ChooseProduct(1);
+  doc_->modified = true;
+  doc_->file_name = "old.QVL";
+  files_.files["other.QVL"] = 0x42;
+  chooser_.open_result = "other.QVL";
+  prompt_.answers = {c.answer};
+  EXPECT_EQ(commands_.Open(), c.goes_on);
+  EXPECT_EQ(files_.files.count("old.QVL"), c.saves ? 1u : 0u);
+  EXPECT_EQ(doc_->file_name, c.goes_on ? "other.QVL" : "old.QVL");
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, SaveQuestionTest,
+                         ::testing::Values(AskCase{"Yes", PromptAnswer::kYes, true, true},
+                                           AskCase{"No", PromptAnswer::kNo, false, true},
+                                           AskCase{"Cancel", PromptAnswer::kCancel, false, false}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(DocumentCommandsTest, AFailedSaveInTheCloseQuestionStillCloses) {
+  ChooseProduct(1);
+  doc_->modified = true;
+  doc_->file_name = "locked.QVL";
+  files_.fail_writes = true;
+  prompt_.answers = {PromptAnswer::kYes};
+  EXPECT_TRUE(commands_.QueryClose());
+}
+
+TEST_F(DocumentCommandsTest, CloseWithoutChangesDoesNotAsk) {
+  EXPECT_TRUE(commands_.QueryClose());
+  EXPECT_TRUE(prompt_.shown.empty());
+}
+
+TEST_F(DocumentCommandsTest, OpenWorksWithoutAProductAndReadsTheFile) {
+  files_.files["in.QVL"] = 0x42;
+  chooser_.open_result = "in.QVL";
+  EXPECT_TRUE(commands_.Open());
+  EXPECT_EQ(doc_->record[kSomeByte], 0x42);
+  EXPECT_EQ(doc_->file_name, "in.QVL");
+  EXPECT_FALSE(doc_->modified);
+  EXPECT_EQ(sheets_, 1);
+  EXPECT_EQ(chooser_.last_filter.description, "Settings (*.QVL)");
+  EXPECT_EQ(chooser_.last_filter.pattern, "*.QVL");
+}
+
+TEST_F(DocumentCommandsTest, CancelledOpenKeepsContentsButForgetsNameAndFlag) {
+  ChooseProduct(1);
+  doc_->record[kSomeByte] = 0x77;
+  doc_->file_name = "kept.QVL";
+  doc_->modified = true;
+  prompt_.answers = {PromptAnswer::kNo};
+  chooser_.open_result.reset();
+  EXPECT_FALSE(commands_.Open());
+  EXPECT_EQ(doc_->record[kSomeByte], 0x77);
+  EXPECT_TRUE(doc_->file_name.empty());
+  EXPECT_FALSE(doc_->modified);
+  EXPECT_EQ(sheets_, 0);
+  EXPECT_EQ(chooser_.last_initial, "");  // the name was cleared before the dialog
+}
+
+TEST_F(DocumentCommandsTest, UnreadableFileOpensNothingSilently) {
+  chooser_.open_result = "missing.QVL";
+  EXPECT_FALSE(commands_.Open());
+  EXPECT_TRUE(prompt_.shown.empty());
+  EXPECT_EQ(sheets_, 0);
+}
+
+TEST_F(DocumentCommandsTest, SaveWithANameWritesAndClearsTheFlag) {
+  ChooseProduct(1);
+  doc_->file_name = "doc.QVL";
+  doc_->modified = true;
+  doc_->record[kSomeByte] = 9;
+  EXPECT_TRUE(commands_.Save());
+  EXPECT_EQ(files_.files["doc.QVL"], 9);
+  EXPECT_FALSE(doc_->modified);
+  EXPECT_EQ(chooser_.save_calls, 0);
+}
+
+TEST_F(DocumentCommandsTest, SaveWithoutANameAsksForOne) {
+  ChooseProduct(1);
+  doc_->modified = true;
+  chooser_.save_result = "/tmp/new.QVL";
+  EXPECT_TRUE(commands_.Save());
+  EXPECT_EQ(doc_->file_name, "/tmp/new.QVL");
+  EXPECT_EQ(chooser_.last_extension, "QVL");
+  EXPECT_FALSE(doc_->modified);
+}
+
+TEST_F(DocumentCommandsTest, FailedOrCancelledSaveKeepsTheFlag) {
+  ChooseProduct(1);
+  doc_->modified = true;
+  chooser_.save_result.reset();
+  EXPECT_FALSE(commands_.SaveAs());
+  EXPECT_TRUE(doc_->modified);
+  EXPECT_EQ(files_.writes, 0);
+
+  files_.fail_writes = true;
+  chooser_.save_result = "b.QVL";
+  EXPECT_FALSE(commands_.SaveAs());
+  EXPECT_TRUE(doc_->modified);
+  EXPECT_EQ(doc_->file_name, "b.QVL");  // Save As makes the name current before writing
+}
+
+TEST_F(DocumentCommandsTest, SaveAsAlwaysAsksEvenWithAName) {
+  ChooseProduct(1);
+  doc_->file_name = "first.QVL";
+  chooser_.save_result = "second.QVL";
+  EXPECT_TRUE(commands_.SaveAs());
+  EXPECT_EQ(files_.files.count("second.QVL"), 1u);
+  EXPECT_EQ(files_.files.count("first.QVL"), 0u);
+}
+
+}  // namespace
+}  // namespace veltrix
