@@ -1,7 +1,7 @@
 #include "tn5250/host_connection.h"
 
 #include "settings/field_registry.h"
-#include "tn5250/host_screen_text.h"
+#include "tn5250/display_text.h"
 
 namespace veltrix {
 namespace {

@@ -49,9 +49,4 @@ PcKey PcKeyFromQt(int qt_key, Qt::KeyboardModifiers modifiers) {
   return it == kQtKeys.end() ? PcKey::kOther : it->second;
 }
 
-bool HostScreenTakesKey(int qt_key, Qt::KeyboardModifiers modifiers) {
-  (void)qt_key;
-  return !(modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-}
-
 }  // namespace veltrix

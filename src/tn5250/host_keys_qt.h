@@ -11,10 +11,6 @@ namespace veltrix {
 // "+" and "-" are told apart from the main keyboard's by the keypad modifier.
 PcKey PcKeyFromQt(int qt_key, Qt::KeyboardModifiers modifiers);
 
-// True when a key press belongs to the host screen rather than to the menu accelerators: every
-// key without Ctrl, Alt or Meta.
-bool HostScreenTakesKey(int qt_key, Qt::KeyboardModifiers modifiers);
-
 }  // namespace veltrix
 
 #endif  // VELTRIX_TN5250_HOST_KEYS_QT_H_

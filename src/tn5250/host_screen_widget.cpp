@@ -21,6 +21,10 @@ HostScreenWidget::HostScreenWidget(QWidget* parent) : QWidget(parent) {
   UpdateFont();
 }
 
+HostScreenWidget::~HostScreenWidget() {
+  if (connection_) connection_->SetView(nullptr);
+}
+
 void HostScreenWidget::SetConnection(HostConnection* connection) {
   if (connection_) connection_->SetView(nullptr);
   connection_ = connection;
@@ -49,11 +53,15 @@ QString HostScreenWidget::RowText(int row) const {
   if (row < 0 || row >= ps.Rows()) return {};
   auto chars = ps.CharacterPlane().subspan(static_cast<std::size_t>(row) * kPlaneColumns,
                                            static_cast<std::size_t>(ps.Columns()));
+  auto attrs = ps.AttributePlane().subspan(static_cast<std::size_t>(row) * kPlaneColumns,
+                                           static_cast<std::size_t>(ps.Columns()));
   QString text;
   const int language = connection_->emulation_type();
   for (const CellGlyph& g : RowGlyphs(language, chars)) {
-    char32_t c = GlyphCharacter(language, g);
+    // Cells that are not displayed read as blanks, as they look.
+    char32_t c = (attrs[g.column] & 0x07) == 0x07 ? U' ' : GlyphCharacter(language, g);
     text += QString::fromUcs4(&c, 1);
+    if (g.width == 2 && c == U' ') text += QLatin1Char(' ');
   }
   return text;
 }
@@ -90,12 +98,10 @@ void HostScreenWidget::ApplyRepaint(const KeyRepaint& result) {
 }
 
 bool HostScreenWidget::event(QEvent* event) {
+  // Every key goes to the host while the screen has the focus, shortcut keys included.
   if (event->type() == QEvent::ShortcutOverride) {
-    auto* key = static_cast<QKeyEvent*>(event);
-    if (HostScreenTakesKey(key->key(), key->modifiers())) {
-      event->accept();
-      return true;
-    }
+    event->accept();
+    return true;
   }
   return QWidget::event(event);
 }

@@ -11,13 +11,13 @@
 namespace veltrix {
 
 // Shows the host screen black on white with the caret at the cursor, and passes the keyboard to
-// the host session. While it has the focus it takes every key without Ctrl, Alt or Meta; those
-// combinations are left to the menu accelerators.
+// the host session. While it has the focus it takes every key, the menu's shortcut keys included.
 class HostScreenWidget : public QWidget, public SessionListener {
   Q_OBJECT
 
  public:
   explicit HostScreenWidget(QWidget* parent = nullptr);
+  ~HostScreenWidget() override;
 
   // The session whose screen is shown and which gets the keys (not owned; may be null).
   void SetConnection(HostConnection* connection);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace veltrix {
 namespace {
 
@@ -10,6 +12,8 @@ struct SplitCase {
   HostOctets before;
   HostOctets after;
 };
+
+void PrintTo(const SplitCase& c, std::ostream* os) { *os << '"' << c.entry << '"'; }
 
 class SplitHostAddressTest : public ::testing::TestWithParam<SplitCase> {};
 

@@ -81,33 +81,11 @@ TEST(RowGlyphs, JapaneseHalfWidthKatakanaAreSingleCells) {
   EXPECT_EQ(2, glyphs[1].width);
 }
 
-struct TextCase {
-  int emulation_type;
-  std::uint8_t display;
-  char32_t shown;
-};
-
-class DisplayTextTest : public ::testing::TestWithParam<TextCase> {};
-
-TEST_P(DisplayTextTest, ShowsAndTypesTheSameCharacter) {
-  const TextCase& t = GetParam();
-  EXPECT_EQ(t.shown, DisplayByteToUnicode(t.emulation_type, t.display));
-  if (t.shown != U' ') EXPECT_EQ(t.display, UnicodeToDisplayByte(t.emulation_type, t.shown));
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, DisplayTextTest,
-                         ::testing::Values(TextCase{0, 'A', U'A'}, TextCase{0, 0xE9, U'\u00E9'},
-                                           TextCase{6, 0xE7, U'\u00E7'},
-                                           TextCase{5, 0xC1, U'\u0391'},
-                                           TextCase{5, 0xF9, U'\u03C9'},
-                                           TextCase{4, 0xB1, U'\uFF71'}, TextCase{0, 0x1C, U' '},
-                                           TextCase{0, 0x85, U' '}, TextCase{5, 0xD2, U' '}));
-
-TEST(DisplayText, CharactersOutsideTheLanguageCannotBeTyped) {
-  EXPECT_FALSE(UnicodeToDisplayByte(0, U'\u0391').has_value());
-  EXPECT_FALSE(UnicodeToDisplayByte(5, U'\u00E9').has_value());
-  EXPECT_FALSE(UnicodeToDisplayByte(1, U'\u4E00').has_value());
-  EXPECT_FALSE(UnicodeToDisplayByte(0, U'\n').has_value());
+TEST(GlyphCharacter, SingleAndDoubleByteGlyphs) {
+  EXPECT_EQ(U'A', GlyphCharacter(0, CellGlyph{0, 1, 'A', 0}));
+  EXPECT_EQ(U'\u0391', GlyphCharacter(5, CellGlyph{0, 1, 0xC1, 0}));
+  // A pair that the language's double-byte table does not know.
+  EXPECT_EQ(U'\uFFFD', GlyphCharacter(1, CellGlyph{0, 2, 0x81, 0x30}));
 }
 
 }  // namespace

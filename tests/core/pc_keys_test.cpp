@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace veltrix {
 namespace {
 
@@ -9,6 +11,8 @@ struct KeyRow {
   PcKey key;
   int code;
 };
+
+void PrintTo(const KeyRow& row, std::ostream* os) { *os << "key code " << row.code; }
 
 class PcKeyTableTest : public ::testing::TestWithParam<KeyRow> {};
 

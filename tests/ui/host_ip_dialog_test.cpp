@@ -1,8 +1,8 @@
+#include "tn5250/host_ip_dialog.h"
+
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QtTest>
-
-#include "tn5250/host_ip_dialog.h"
 
 namespace veltrix {
 
