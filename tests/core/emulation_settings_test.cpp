@@ -10,6 +10,7 @@
 #include "settings/emulation/function_keys.h"
 #include "settings/emulation/key_mapping.h"
 #include "settings/emulation/number_edit.h"
+#include "settings/network/network_settings.h"
 
 namespace veltrix {
 namespace {
@@ -65,6 +66,22 @@ TEST(EmulationDefaults, ResetKeepsFieldLengthChoiceAndReleasesTheNavigatorKey) {
   EXPECT_EQ(23u, ReadNumber(doc->record, kMessageLineNumber));
   EXPECT_EQ("COPYRIGHT", ReadText(doc->record, kExcludeString));
   EXPECT_EQ("PF4", MappingLabel(*doc, 4));
+}
+
+TEST(EmulationDefaults, PageResetRestoresMappingAndKeepsLoginClaims) {
+  auto doc = NewDocument(2);
+  ApplyFunctionKeyCombo(*doc, kLoginPasswordKey, 0, 7, kRolePasswordKey);
+  ApplyFunctionKeyCombo(*doc, kNavigatorKey, 0, 10, kRoleNavigatorKey);
+  ApplyFunctionKeyCombo(*doc, kMessageFunctionKey, 0, 1, kRoleMessageKey);
+  ApplyKeyMappingChoice(*doc, 24, 0, 20, KeyCodeTableEntry(*doc, 0, 20));
+
+  ResetEmulationSection(*doc);
+  EXPECT_EQ("Password Key", MappingLabel(*doc, 7));
+  EXPECT_EQ("Undefined", MappingLabel(*doc, 0));  // the default mapping, not PF10
+  EXPECT_EQ("PF1", MappingLabel(*doc, 1));
+  EXPECT_EQ("Undefined", MappingLabel(*doc, 24));
+  EXPECT_EQ(0u, ReadNumber(doc->record, kNavigatorKey));
+  EXPECT_EQ(0u, ReadNumber(doc->record, kMessageFunctionKey));
 }
 
 TEST(EmulationDefaults, MessageDefaultsTouchOnlyTheirTenBytesAndTwoFields) {

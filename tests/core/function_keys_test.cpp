@@ -236,6 +236,25 @@ TEST(FunctionKeyCombo, KeyMappedToAnOrdinaryHostKeyIsTakenOver) {
   EXPECT_EQ("Message Key", MappingLabel(*doc, 6));
 }
 
+TEST(FunctionKeyCombo, KeyFieldsKnowTheirRoles) {
+  EXPECT_EQ(kRoleNameKey, RoleOfKeyField(kLoginNameKey));
+  EXPECT_EQ(kRolePasswordKey, RoleOfKeyField(kLoginPasswordKey));
+  EXPECT_EQ(kRoleExitKey, RoleOfKeyField(kLogoutKey));
+  EXPECT_EQ(kRoleNavigatorKey, RoleOfKeyField(kNavigatorKey));
+  EXPECT_EQ(kRoleMessageKey, RoleOfKeyField(kMessageFunctionKey));
+  if (const FieldDef* switch_key = FindField("ScanSwitchKeyName")) {
+    EXPECT_EQ(kRoleSwitchKey, RoleOfKeyField(*switch_key));
+  }
+  EXPECT_EQ(0, RoleOfKeyField(kTelnetPort));
+
+  auto doc = NewDocument(1);
+  ClaimFunctionKey(*doc, 4, kRoleExitKey);
+  EXPECT_TRUE(IsFunctionKeyTaken(*doc, 0, 4));
+  EXPECT_FALSE(IsFunctionKeyTaken(*doc, 4, 4));  // its own key
+  EXPECT_FALSE(IsFunctionKeyTaken(*doc, 4, 0));  // "Disable" is never refused
+  EXPECT_FALSE(IsFunctionKeyTaken(*doc, 0, 5));
+}
+
 TEST(FunctionKeyDefaultRoutine, ClaimsAgainTheKeysTheKeyFieldsName) {
   auto doc = NewDocument(2);
   struct Claim {

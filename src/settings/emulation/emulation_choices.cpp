@@ -3,6 +3,7 @@
 #include <array>
 
 #include "settings/emulation/emulation_settings.h"
+#include "settings/emulation/function_keys.h"
 #include "settings/field.h"
 
 namespace veltrix {
@@ -56,5 +57,10 @@ void SetCursorTracking(Document& doc, bool on) {
 }
 
 void SetLockScreen(Document& doc, bool on) { SetCursorTracking(doc, !on); }
+
+void ResetEmulationSection(Document& doc) {
+  SetEmulationDefaults(doc);
+  SetFunctionKeyDefaults(doc);
+}
 
 }  // namespace veltrix

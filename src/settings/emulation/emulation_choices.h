@@ -23,6 +23,10 @@ bool ChooseFontSize(Document& doc, int font_size);
 void SetCursorTracking(Document& doc, bool on);
 void SetLockScreen(Document& doc, bool on);
 
+// "Reset" on the Emulation page: the emulation defaults, then the function key defaults, which
+// mark again the keys the login, logout and switch-key fields still name.
+void ResetEmulationSection(Document& doc);
+
 }  // namespace veltrix
 
 #endif  // VELTRIX_SETTINGS_EMULATION_EMULATION_CHOICES_H_

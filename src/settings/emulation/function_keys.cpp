@@ -133,11 +133,20 @@ bool FunctionKeyHasRole(const Document& doc, int k) {
   return key_number >= 0 && IsRole(ReadKeyMapping(doc, key_number).group);
 }
 
+bool IsFunctionKeyTaken(const Document& doc, int old_k, int new_k) {
+  return new_k != 0 && new_k != old_k && FunctionKeyHasRole(doc, new_k);
+}
+
+int RoleOfKeyField(const FieldDef& field) {
+  for (const KeyField& key_field : KeyFields()) {
+    if (key_field.field != nullptr && key_field.field->name == field.name) return key_field.role;
+  }
+  return 0;
+}
+
 KeyComboResult ApplyFunctionKeyCombo(Document& doc, const FieldDef& field, int old_k, int new_k,
                                      int role) {
-  if (new_k != 0 && new_k != old_k && FunctionKeyHasRole(doc, new_k)) {
-    return KeyComboResult::kRefused;
-  }
+  if (IsFunctionKeyTaken(doc, old_k, new_k)) return KeyComboResult::kRefused;
   if (old_k != 0 && old_k != new_k) ReleaseFunctionKey(doc, old_k);
   if (new_k != 0) ClaimFunctionKey(doc, new_k, role);
   WriteNumber(doc.record, field, static_cast<std::uint32_t>(new_k));

@@ -79,6 +79,13 @@ void ReleaseFunctionKey(Document& doc, int k);
 // True when the key that field index k names is already held by a role.
 bool FunctionKeyHasRole(const Document& doc, int k);
 
+// True when a "Key :" combo holding `old_k` must refuse `new_k`: another role holds that key.
+bool IsFunctionKeyTaken(const Document& doc, int old_k, int new_k);
+
+// The role a key field claims its key for (`LoginNameKey` 201 ... `ScanSwitchKeyName` 206), or 0
+// when `field` is not a key field. Lets generic editors (the command line) follow the combo rule.
+int RoleOfKeyField(const FieldDef& field);
+
 enum class KeyComboResult { kStored, kRefused };
 // The rule every "Key :" combo follows: refuses (and changes nothing) when `new_k` is held by
 // another role; otherwise releases `old_k`, claims `new_k` for `role` and stores `new_k` in

@@ -5,20 +5,14 @@
 
 #include "settings/field.h"
 #include "settings/network/network_settings.h"
+#include "shell/summary.h"
 
 namespace veltrix {
 
 int WepKeyBytes(const Document& doc) { return ReadNumber(doc.record, kWepKeyLength) == 1 ? 13 : 5; }
 
 std::string WepKeyText(std::span<const std::uint8_t> key) {
-  static constexpr char kHex[] = "0123456789ABCDEF";
-  std::string text;
-  for (std::uint8_t byte : key) {
-    text += kHex[byte >> 4];
-    text += kHex[byte & 0x0F];
-    text += ' ';
-  }
-  return text;
+  return KeyNamesText(key, static_cast<int>(key.size()), KeyNameMode::kHex);
 }
 
 std::string StoredWepKeyText(const Document& doc, int index) {
