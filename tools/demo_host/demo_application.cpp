@@ -49,6 +49,8 @@ std::string AidName(std::uint8_t aid) {
 HostOutput DemoApplication::Begin(const StationInfo& station) {
   const auto it = station.environment.find("DEVNAME");
   device_name_ = it == station.environment.end() ? std::string() : it->second;
+  const auto codepage = station.environment.find("CODEPAGE");
+  if (codepage != station.environment.end()) welcome_ = DoubleByteWelcome(codepage->second);
   HostOutput out = Show(Screen::kSignOn);
   // Like a midrange host, ask the station what it is first.
   out.records.insert(out.records.begin(), OutboundRecord().Query().Finish());
@@ -216,7 +218,7 @@ HostOutput DemoApplication::Show(Screen screen, const std::string& message) {
   switch (screen) {
     case Screen::kSignOn:
       user_.clear();
-      out.records.push_back(SignOnScreen(device_name_, message));
+      out.records.push_back(SignOnScreen(device_name_, message, welcome_));
       break;
     case Screen::kMenu:
       out.records.push_back(MenuScreen(user_, message));

@@ -1,7 +1,9 @@
 #ifndef VELTRIX_TOOLS_DEMO_HOST_DEMO_APPLICATION_H_
 #define VELTRIX_TOOLS_DEMO_HOST_DEMO_APPLICATION_H_
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "demo_host/host_application.h"
 #include "demo_host/inbound_record.h"
@@ -33,6 +35,7 @@ class DemoApplication : public HostApplication {
 
   Screen screen_ = Screen::kSignOn;
   std::string device_name_;
+  std::vector<std::uint8_t> welcome_;  // double-byte greeting of the station's code page
   std::string user_;
   int page_ = 0;
   std::string item_;

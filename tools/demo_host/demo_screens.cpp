@@ -51,7 +51,21 @@ const std::vector<Item>& DemoItems() {
 
 int ListPageCount() { return (static_cast<int>(DemoItems().size()) + kListLines - 1) / kListLines; }
 
-std::vector<std::uint8_t> SignOnScreen(std::string_view device_name, std::string_view message) {
+std::vector<std::uint8_t> DoubleByteWelcome(std::string_view codepage) {
+  // Host pairs of the greeting in each code page's double-byte set.
+  if (codepage == "937") return {0x0E, 0x67, 0xE2, 0x51, 0xD1, 0x0F};  // Traditional Chinese
+  if (codepage == "935") return {0x0E, 0x4E, 0x56, 0x5A, 0x4D, 0x0F};  // Simplified Chinese
+  if (codepage == "930") {                                             // Japanese
+    return {0x0E, 0x44, 0xAC, 0x44, 0x83, 0x44, 0x8A, 0x44, 0x90, 0x0F};
+  }
+  if (codepage == "933") {  // Korean
+    return {0x0E, 0xD1, 0xC5, 0xB5, 0x77, 0xD0, 0x73, 0x93, 0xA1, 0x94, 0x61, 0x0F};
+  }
+  return {};
+}
+
+std::vector<std::uint8_t> SignOnScreen(std::string_view device_name, std::string_view message,
+                                       const std::vector<std::uint8_t>& welcome) {
   OutboundRecord r = NewScreen("Sign On");
   r.TextAt(2, 48, "System  . . . . . :   VELTRIX");
   r.TextAt(3, 48, "Subsystem . . . . :   DEMO");
@@ -62,6 +76,10 @@ std::vector<std::uint8_t> SignOnScreen(std::string_view device_name, std::string
   r.TextAt(7, 17, "Password  . . . . . . . . . . . .");
   Field(r, kPasswordField, kFfwBase, 0x00, kAttrNonDisplay);
   r.TextAt(10, 17, "Any user and password are accepted.", kAttrBlue);
+  if (!welcome.empty()) {
+    r.TextAt(12, 17, "", kAttrNormal);
+    r.Raw(welcome);
+  }
   r.TextAt(23, 2, "F3=Exit");
   MessageLine(r, message);
   return Finish(r, kUserField);

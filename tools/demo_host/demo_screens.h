@@ -36,7 +36,13 @@ struct Item {
 const std::vector<Item>& DemoItems();
 int ListPageCount();
 
-std::vector<std::uint8_t> SignOnScreen(std::string_view device_name, std::string_view message);
+// "Welcome" in the double-byte language of a host code page ("937", "935", "930", "933"), as
+// shift-out, host pairs, shift-in; empty for any other code page.
+std::vector<std::uint8_t> DoubleByteWelcome(std::string_view codepage);
+
+// `welcome` (host bytes, may be empty) goes on a line of its own.
+std::vector<std::uint8_t> SignOnScreen(std::string_view device_name, std::string_view message,
+                                       const std::vector<std::uint8_t>& welcome = {});
 std::vector<std::uint8_t> MenuScreen(std::string_view user, std::string_view message);
 std::vector<std::uint8_t> ItemListScreen(int page, std::string_view message);
 std::vector<std::uint8_t> QuantityScreen(std::string_view item, std::string_view quantity,

@@ -17,6 +17,9 @@ int DecodeChoice(const ChoiceControl& control, std::uint32_t value, std::uint32_
     case ChoiceCoding::kNoneThenIndex:
       position = flag == 0 ? 0 : static_cast<int>(value) + 1;
       break;
+    case ChoiceCoding::kOneOfTwoBits:
+      position = value != 0 ? 1 : (flag != 0 ? 2 : 0);
+      break;
   }
   // A loaded file may hold a value no entry stands for: select the nearest entry.
   return std::clamp(position, 0, std::max(last, 0));
@@ -37,6 +40,10 @@ void EncodeChoice(const ChoiceControl& control, int position, std::uint32_t& val
     case ChoiceCoding::kNoneThenIndex:
       value = position == 0 ? 0 : static_cast<std::uint32_t>(position - 1);
       flag = position == 0 ? 0 : 1;
+      break;
+    case ChoiceCoding::kOneOfTwoBits:
+      value = position == 1 ? 1 : 0;
+      flag = position == 2 ? 1 : 0;
       break;
   }
 }

@@ -22,6 +22,7 @@ enum class ChoiceCoding : std::uint8_t {
   kIndex,          // the field holds the entry's position
   kReversed,       // the field holds (entries - 1 - position): the first entry stores the highest
   kNoneThenIndex,  // first entry clears the field and `flag`; others store position - 1, set `flag`
+  kOneOfTwoBits,   // first entry clears both bits, the second sets `field`, the third sets `flag`
 };
 
 struct ChoiceControl {
@@ -29,7 +30,7 @@ struct ChoiceControl {
   std::span<const std::string_view> texts;
   const FieldDef* field;
   ChoiceCoding coding = ChoiceCoding::kIndex;
-  const FieldDef* flag = nullptr;  // kNoneThenIndex only
+  const FieldDef* flag = nullptr;  // kNoneThenIndex and kOneOfTwoBits only
 };
 
 // The position a stored value selects, and the value a position stores.

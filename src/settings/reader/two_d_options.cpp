@@ -1,0 +1,225 @@
+#include "settings/reader/two_d_options.h"
+
+#include <algorithm>
+#include <array>
+
+#include "settings/reader/two_d_fields.h"
+#include "settings/reader/working_block.h"
+
+namespace veltrix {
+namespace {
+
+// Bits no control shows that some dialogs clear.
+constexpr FieldDef kTwoDUpcReservedBit{.name = "",
+                                       .offset = 58659,
+                                       .type = FieldType::kBits,
+                                       .bit_lo = 0,
+                                       .bit_count = 1,
+                                       .max = 1,
+                                       .meaning = "cleared by the UPC dialogs"};
+constexpr FieldDef kTwoDCode39ReservedBits{.name = "",
+                                           .offset = 58664,
+                                           .type = FieldType::kBits,
+                                           .bit_lo = 4,
+                                           .bit_count = 2,
+                                           .max = 3,
+                                           .meaning = "cleared by the Code 39 dialog"};
+constexpr FieldDef kTwoDCodabarReservedBit{.name = "",
+                                           .offset = 58679,
+                                           .type = FieldType::kBits,
+                                           .bit_lo = 6,
+                                           .bit_count = 1,
+                                           .max = 1,
+                                           .meaning = "cleared with NOTIS editing"};
+
+constexpr std::array<std::string_view, 3> kPreambleNames{"No Preamble", "System Character",
+                                                         "System Character & Country Code"};
+constexpr std::array<std::string_view, 3> kSupplementalNames{
+    "Ignore Supplementaries", "Decode Only With Supplementaries", "Decode With Supplementaries"};
+constexpr std::array<std::string_view, 3> kVerifyCheckDigitNames{" No verify", " USS", " OPCC"};
+constexpr std::array<std::string_view, 2> kMsiAlgorithmNames{"Mod 10/Mod 11", "Mod 10/Mod 10"};
+constexpr std::array<std::string_view, 2> kMsiCheckDigitNames{"One Check Digit",
+                                                              "Two Check Digits"};
+
+constexpr std::array kUpcaChecks{
+    CheckBoxControl{301, "Transmit Checksum", &kTwoDUpcaTransmitChecksum},
+    CheckBoxControl{302, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
+constexpr std::array kUpcaLists{ChoiceControl{401, kPreambleNames, &kTwoDUpcaPreamble},
+                                ChoiceControl{402, kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kUpceChecks{
+    CheckBoxControl{301, "Transmit Checksum", &kTwoDUpceTransmitChecksum},
+    CheckBoxControl{302, "Convert UPCE to UPCA", &kTwoDConvertUpceToUpca},
+    CheckBoxControl{303, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
+constexpr std::array kUpceLists{ChoiceControl{401, kPreambleNames, &kTwoDUpcePreamble},
+                                ChoiceControl{402, kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kUpce1Checks{
+    CheckBoxControl{301, "Transmit Checksum", &kTwoDUpce1TransmitChecksum},
+    CheckBoxControl{302, "Convert UPCE-1 to UPCA", &kTwoDConvertUpce1ToUpca},
+    CheckBoxControl{303, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
+constexpr std::array kUpce1Lists{ChoiceControl{401, kPreambleNames, &kTwoDUpce1Preamble},
+                                 ChoiceControl{402, kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kEan8Checks{
+    CheckBoxControl{301, "Convert EAN8 to EAN13", &kTwoDConvertEan8ToEan13}};
+constexpr std::array kEan8Lists{ChoiceControl{401, kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kCode39Checks{
+    CheckBoxControl{303, "Verify Checksum", &kTwoDCode39VerifyChecksum},
+    CheckBoxControl{304, "Transmit Checksum", &kTwoDCode39TransmitChecksum},
+    CheckBoxControl{305, "Code 39 Full ASCII", &kTwoDCode39FullAscii}};
+constexpr std::array kCode11Checks{
+    CheckBoxControl{301, "Verify Checksum", &kTwoDCode11VerifyChecksum},
+    CheckBoxControl{302, "Transmit Checksum", &kTwoDCode11TransmitChecksum}};
+constexpr std::array kInterleave25Checks{
+    CheckBoxControl{302, "Transmit Checksum", &kTwoDInterleave25TransmitChecksum},
+    CheckBoxControl{303, "Convert Interleaved 25 to EAN13", &kTwoDConvertInterleave25ToEan13}};
+constexpr std::array kInterleave25Lists{
+    ChoiceControl{402, kVerifyCheckDigitNames, &kTwoDInterleave25VerifyCheckDigit,
+                  ChoiceCoding::kOneOfTwoBits, &kTwoDInterleave25VerifyCheckDigitOpcc}};
+constexpr std::array kCodabarChecks{
+    CheckBoxControl{302, "NOTIS Editing", &kTwoDCodabarNotisEditing}};
+constexpr std::array kMsiChecks{
+    CheckBoxControl{301, "Transmit Checksum", &kTwoDMsiTransmitChecksum}};
+constexpr std::array kMsiLists{ChoiceControl{402, kMsiAlgorithmNames, &kTwoDMsiCheckAlgorithm},
+                               ChoiceControl{403, kMsiCheckDigitNames, &kTwoDMsiCheckDigits}};
+constexpr std::array kPostalChecks{
+    CheckBoxControl{301, "US Postnet", &kTwoDUsPostnet},
+    CheckBoxControl{302, "US Planet", &kTwoDUsPlanet},
+    CheckBoxControl{303, "Transmit US Postal Checksum", &kTwoDTransmitUsPostalChecksum},
+    CheckBoxControl{304, "US Postal", &kTwoDUsPostal},
+    CheckBoxControl{305, "Transmit UK Postal Checksum", &kTwoDTransmitUkPostalChecksum},
+    CheckBoxControl{306, "Japan Postal", &kTwoDJapanPostal},
+    CheckBoxControl{307, "Australian Postal", &kTwoDAustralianPostal},
+    CheckBoxControl{308, "Dutch Postal", &kTwoDDutchPostal}};
+constexpr std::array kRss14Checks{
+    CheckBoxControl{301, "Convert RSS to UPC/EAN", &kTwoDConvertRssToUpcEan}};
+
+constexpr std::array<const FieldDef*, 1> kUpcClears{&kTwoDUpcReservedBit};
+constexpr std::array<const FieldDef*, 1> kCode39Clears{&kTwoDCode39ReservedBits};
+constexpr std::array<const FieldDef*, 1> kCodabarClears{&kTwoDCodabarReservedBit};
+constexpr std::array kMsiAlgorithmRule{
+    StoredOnlyWith{&kTwoDMsiCheckAlgorithm, &kTwoDMsiCheckDigits}};
+
+constexpr std::array kDialogs{
+    TwoDOptionDialog{.template_name = "UPCA_2D_DLG",
+                     .caption = "UPCA Parameters",
+                     .checks = kUpcaChecks,
+                     .lists = kUpcaLists,
+                     .cleared_on_ok = kUpcClears},
+    TwoDOptionDialog{.template_name = "UPCE_2D_DLG",
+                     .caption = "UPCE Parameters",
+                     .checks = kUpceChecks,
+                     .lists = kUpceLists,
+                     .cleared_on_ok = kUpcClears},
+    TwoDOptionDialog{.template_name = "UPCE1_2D_DLG",
+                     .caption = "UPCE-1 Parameters",
+                     .checks = kUpce1Checks,
+                     .lists = kUpce1Lists,
+                     .cleared_on_ok = kUpcClears},
+    TwoDOptionDialog{.template_name = "EAN8_2D_DLG",
+                     .caption = "EAN8 Parameters",
+                     .checks = kEan8Checks,
+                     .lists = kEan8Lists},
+    TwoDOptionDialog{.template_name = "CODE39_2D_DLG",
+                     .caption = "Code 39 Parameters",
+                     .checks = kCode39Checks,
+                     .length_option = &kTwoDCode39LengthOption,
+                     .length1 = &kTwoDCode39Length1,
+                     .length2 = &kTwoDCode39Length2,
+                     .cleared_on_open = kCode39Clears,
+                     .cleared_on_ok = kCode39Clears},
+    TwoDOptionDialog{.template_name = "CODE93_2D_DLG",
+                     .caption = "Code 93 Parameters",
+                     .length_option = &kTwoDCode93LengthOption,
+                     .length1 = &kTwoDCode93Length1,
+                     .length2 = &kTwoDCode93Length2},
+    TwoDOptionDialog{.template_name = "CODE11_2D_DLG",
+                     .caption = "Code 11 Parameters",
+                     .checks = kCode11Checks,
+                     .length_option = &kTwoDCode11LengthOption,
+                     .length1 = &kTwoDCode11Length1,
+                     .length2 = &kTwoDCode11Length2},
+    TwoDOptionDialog{.template_name = "INDUSTRIAL25_2D_DLG",
+                     .caption = "Industrial 25 Parameters",
+                     .length_option = &kTwoDIndustrial25LengthOption,
+                     .length1 = &kTwoDIndustrial25Length1,
+                     .length2 = &kTwoDIndustrial25Length2},
+    TwoDOptionDialog{.template_name = "INTERLEAVE25_2D_DLG",
+                     .caption = "Interleave 25 Parameters",
+                     .checks = kInterleave25Checks,
+                     .lists = kInterleave25Lists,
+                     .length_option = &kTwoDInterleave25LengthOption,
+                     .length1 = &kTwoDInterleave25Length1,
+                     .length2 = &kTwoDInterleave25Length2},
+    TwoDOptionDialog{.template_name = "CODABAR_2D_DLG",
+                     .caption = "Codabar Parameters",
+                     .checks = kCodabarChecks,
+                     .length_option = &kTwoDCodabarLengthOption,
+                     .length1 = &kTwoDCodabarLength1,
+                     .length2 = &kTwoDCodabarLength2,
+                     .cleared_on_ok = kCodabarClears},
+    TwoDOptionDialog{.template_name = "MSI_2D_DLG",
+                     .caption = "MSI Parameters",
+                     .checks = kMsiChecks,
+                     .lists = kMsiLists,
+                     .length_option = &kTwoDMsiLengthOption,
+                     .length1 = &kTwoDMsiLength1,
+                     .length2 = &kTwoDMsiLength2,
+                     .stored_only_with = kMsiAlgorithmRule},
+    TwoDOptionDialog{.template_name = "POSTAL_2D_DLG",
+                     .caption = "Postal Code Parameters",
+                     .checks = kPostalChecks},
+    TwoDOptionDialog{
+        .template_name = "RSS14_2D_DLG", .caption = "RSS14 Parameters", .checks = kRss14Checks},
+};
+
+}  // namespace
+
+std::span<const TwoDOptionDialog> TwoDOptionDialogs() { return kDialogs; }
+
+const TwoDOptionDialog* FindTwoDOptionDialog(std::string_view template_name) {
+  auto it = std::ranges::find(kDialogs, template_name, &TwoDOptionDialog::template_name);
+  return it == kDialogs.end() ? nullptr : &*it;
+}
+
+TwoDOptionState OpenTwoDOptions(Document& doc, const TwoDOptionDialog& dialog) {
+  for (const FieldDef* bits : dialog.cleared_on_open) WriteWorking(doc, *bits, 0);
+  TwoDOptionState state;
+  for (const CheckBoxControl& check : dialog.checks) {
+    state.checked.push_back(ReadWorking(doc, *check.field) != 0);
+  }
+  for (const ChoiceControl& list : dialog.lists) {
+    const std::uint32_t flag = list.flag != nullptr ? ReadWorking(doc, *list.flag) : 0;
+    state.chosen.push_back(DecodeChoice(list, ReadWorking(doc, *list.field), flag));
+  }
+  if (dialog.length_option != nullptr) {
+    state.option = static_cast<int>(ReadWorking(doc, *dialog.length_option));
+    state.lengths = {static_cast<int>(ReadWorking(doc, *dialog.length1)),
+                     static_cast<int>(ReadWorking(doc, *dialog.length2))};
+  }
+  return state;
+}
+
+void ApplyTwoDOptions(Document& doc, const TwoDOptionDialog& dialog, const TwoDOptionState& state) {
+  for (const FieldDef* bits : dialog.cleared_on_ok) WriteWorking(doc, *bits, 0);
+  for (std::size_t i = 0; i < dialog.checks.size() && i < state.checked.size(); ++i) {
+    WriteWorking(doc, *dialog.checks[i].field, state.checked[i] ? 1 : 0);
+  }
+  for (std::size_t i = 0; i < dialog.lists.size() && i < state.chosen.size(); ++i) {
+    const ChoiceControl& list = dialog.lists[i];
+    std::uint32_t value = 0;
+    std::uint32_t flag = 0;
+    EncodeChoice(list, state.chosen[i], value, flag);
+    WriteWorking(doc, *list.field, value);
+    if (list.flag != nullptr) WriteWorking(doc, *list.flag, flag);
+  }
+  for (const StoredOnlyWith& rule : dialog.stored_only_with) {
+    if (ReadWorking(doc, *rule.condition) != 1) WriteWorking(doc, *rule.field, 0);
+  }
+  if (dialog.length_option != nullptr) {
+    const StoredLengthOption stored = StoreLengthOption(state.option, state.lengths);
+    WriteWorking(doc, *dialog.length_option, static_cast<std::uint32_t>(stored.option));
+    WriteWorking(doc, *dialog.length1, static_cast<std::uint32_t>(stored.length1));
+    WriteWorking(doc, *dialog.length2, static_cast<std::uint32_t>(stored.length2));
+  }
+}
+
+}  // namespace veltrix

@@ -1,0 +1,299 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "settings/reader/length_option.h"
+#include "settings/reader/reader_settings.h"
+#include "settings/reader/two_d_fields.h"
+#include "settings/reader/two_d_options.h"
+#include "settings/reader/working_block.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument() {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  return doc;
+}
+
+std::uint8_t BlockByte(const Document& doc, std::uint32_t record_offset) {
+  return doc.reader_block1[record_offset - 58659];
+}
+
+// ---- the length option family ------------------------------------------------------------------
+
+struct StoreCase {
+  const char* name;
+  int option;
+  LengthBoxes boxes;
+  StoredLengthOption want;
+};
+
+class LengthOptionStore : public ::testing::TestWithParam<StoreCase> {};
+
+TEST_P(LengthOptionStore, AppliesTheOkRules) {
+  EXPECT_EQ(GetParam().want, StoreLengthOption(GetParam().option, GetParam().boxes));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, LengthOptionStore,
+    ::testing::Values(
+        StoreCase{"TwoLengthsPutsTheLargerFirst", kTwoLengths, {6, 10}, {kTwoLengths, 10, 6}},
+        StoreCase{"RangeKeepsMinimumThenMaximum", kLengthRange, {6, 10}, {kLengthRange, 6, 10}},
+        StoreCase{"OneLengthDropsTheSecondBox", kOneLength, {12, 99}, {kOneLength, 12, 0}},
+        StoreCase{"AnyLengthDropsBoth", kAnyLength, {5, 5}, {kAnyLength, 0, 0}},
+        StoreCase{"OneLengthOfZeroIsAny", kOneLength, {0, 40}, {kAnyLength, 0, 0}},
+        StoreCase{"TwoZerosAreAny", kTwoLengths, {0, 0}, {kAnyLength, 0, 0}},
+        StoreCase{"RangeWithZeroMinimum", kLengthRange, {0, 10}, {kLengthRange, 0, 10}},
+        StoreCase{"TwoLengthsWithOneZero", kTwoLengths, {0, 8}, {kTwoLengths, 8, 0}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(LengthOption, LabelsEnablingAndEmptiedBoxes) {
+  EXPECT_EQ("Length 1 :", LengthOptionLabels(kTwoLengths).first);
+  EXPECT_EQ("Length 2 :", LengthOptionLabels(kAnyLength).second);
+  EXPECT_EQ("Min Len :", LengthOptionLabels(kLengthRange).first);
+  EXPECT_EQ("Max Len :", LengthOptionLabels(kLengthRange).second);
+
+  const std::vector<std::pair<bool, bool>> enabling{
+      {false, false}, {true, false}, {true, true}, {true, true}};
+  for (int option = kAnyLength; option <= kLengthRange; ++option) {
+    EXPECT_EQ(enabling[option].first, LengthOptionEnabling(option).first) << option;
+    EXPECT_EQ(enabling[option].second, LengthOptionEnabling(option).second) << option;
+  }
+  EXPECT_EQ((LengthBoxes{5, 9}), BoxesAfterChoosingOption(kAnyLength, {5, 9}));
+  EXPECT_EQ((LengthBoxes{0, 9}), BoxesAfterChoosingOption(kOneLength, {5, 9}));
+  EXPECT_EQ((LengthBoxes{0, 0}), BoxesAfterChoosingOption(kLengthRange, {5, 9}));
+}
+
+// ---- the dialogs -------------------------------------------------------------------------------
+
+TEST(TwoDOptionDialogs, BindOnlyTwoDimensionalFieldsWithDistinctControls) {
+  EXPECT_EQ(13u, TwoDOptionDialogs().size());
+  for (const TwoDOptionDialog& dialog : TwoDOptionDialogs()) {
+    std::set<int> ids;
+    for (const CheckBoxControl& check : dialog.checks) {
+      EXPECT_EQ(ReaderBlock::kTwoD, BlockOf(*check.field)) << dialog.template_name;
+      EXPECT_TRUE(ids.insert(check.id).second) << dialog.template_name << " " << check.id;
+    }
+    for (const ChoiceControl& list : dialog.lists) {
+      EXPECT_EQ(ReaderBlock::kTwoD, BlockOf(*list.field)) << dialog.template_name;
+      EXPECT_TRUE(ids.insert(list.id).second) << dialog.template_name << " " << list.id;
+    }
+    if (dialog.length_option != nullptr) {
+      EXPECT_TRUE(ids.insert(401).second) << dialog.template_name;
+      EXPECT_EQ(ReaderBlock::kTwoD, BlockOf(*dialog.length2));
+    }
+    EXPECT_EQ(&dialog, FindTwoDOptionDialog(dialog.template_name));
+  }
+}
+
+TEST(TwoDOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
+  for (const TwoDOptionDialog& dialog : TwoDOptionDialogs()) {
+    auto doc = NewDocument();
+    const auto before = doc->reader_block1;
+    const TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
+    ApplyTwoDOptions(*doc, dialog, state);
+    EXPECT_EQ(before, doc->reader_block1) << dialog.template_name;
+  }
+}
+
+TEST(TwoDOptionDialogs, OpeningShowsTheDefaults) {
+  auto doc = NewDocument();
+  const TwoDOptionState code39 = OpenTwoDOptions(*doc, *FindTwoDOptionDialog("CODE39_2D_DLG"));
+  EXPECT_EQ(kLengthRange, code39.option);
+  EXPECT_EQ((LengthBoxes{2, 55}), code39.lengths);
+  const TwoDOptionState interleave =
+      OpenTwoDOptions(*doc, *FindTwoDOptionDialog("INTERLEAVE25_2D_DLG"));
+  EXPECT_EQ(kOneLength, interleave.option);
+  EXPECT_EQ((LengthBoxes{14, 0}), interleave.lengths);
+  EXPECT_EQ((std::vector<int>{0}), interleave.chosen);
+  const TwoDOptionState upca = OpenTwoDOptions(*doc, *FindTwoDOptionDialog("UPCA_2D_DLG"));
+  EXPECT_EQ((std::vector<bool>{true, false}), upca.checked);
+  EXPECT_EQ((std::vector<int>{1, 0}), upca.chosen);
+}
+
+TEST(TwoDOptionDialogs, SupplementalsAreSharedByTheUpcAndEan8Dialogs) {
+  auto doc = NewDocument();
+  const TwoDOptionDialog& upce = *FindTwoDOptionDialog("UPCE_2D_DLG");
+  TwoDOptionState state = OpenTwoDOptions(*doc, upce);
+  state.chosen[1] = 2;
+  state.checked[2] = true;  // the coupon bit is shared too
+  ApplyTwoDOptions(*doc, upce, state);
+  const TwoDOptionState upca = OpenTwoDOptions(*doc, *FindTwoDOptionDialog("UPCA_2D_DLG"));
+  EXPECT_EQ(2, upca.chosen[1]);
+  EXPECT_TRUE(upca.checked[1]);
+  EXPECT_EQ(2, OpenTwoDOptions(*doc, *FindTwoDOptionDialog("EAN8_2D_DLG")).chosen[0]);
+}
+
+TEST(TwoDOptionDialogs, Code39OpeningClearsItsSpareBitsEvenWhenCancelled) {
+  auto doc = NewDocument();
+  doc->reader_block1[58664 - 58659] |= 0x30;
+  OpenTwoDOptions(*doc, *FindTwoDOptionDialog("CODE39_2D_DLG"));
+  EXPECT_EQ(0x83, BlockByte(*doc, 58664));
+}
+
+struct TwoDApplyCase {
+  const char* name;
+  const char* dialog;
+  std::function<void(Document&)> before;  // block contents before opening
+  std::function<void(TwoDOptionState&)> change;
+  std::uint32_t offset;
+  std::vector<std::uint8_t> want;
+};
+
+class TwoDOptionApply : public ::testing::TestWithParam<TwoDApplyCase> {};
+
+TEST_P(TwoDOptionApply, PacksTheControlsIntoTheWorkingBlock) {
+  auto doc = NewDocument();
+  if (GetParam().before) GetParam().before(*doc);
+  const TwoDOptionDialog& dialog = *FindTwoDOptionDialog(GetParam().dialog);
+  TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
+  GetParam().change(state);
+  ApplyTwoDOptions(*doc, dialog, state);
+  for (std::size_t i = 0; i < GetParam().want.size(); ++i) {
+    EXPECT_EQ(GetParam().want[i], BlockByte(*doc, GetParam().offset + i))
+        << "byte " << GetParam().offset + i;
+  }
+}
+
+void SetBits(Document& doc, std::uint32_t offset, std::uint8_t bits) {
+  doc.reader_block1[offset - 58659] |= bits;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, TwoDOptionApply,
+    ::testing::Values(TwoDApplyCase{"Code39TwoLengths",
+                                    "CODE39_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.checked = {true, true, true};
+                                      s.option = kTwoLengths;
+                                      s.lengths = {6, 10};
+                                    },
+                                    58664,
+                                    {0x8E, 0x8A, 0x06}},
+                      TwoDApplyCase{"Code39OkClearsSpareBits",
+                                    "CODE39_2D_DLG",
+                                    [](Document& d) { SetBits(d, 58664, 0x30); },
+                                    [](TwoDOptionState&) {},
+                                    58664,
+                                    {0x83}},
+                      TwoDApplyCase{"Code93AnyLength",
+                                    "CODE93_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) { s.option = kAnyLength; },
+                                    58667,
+                                    {0x00, 0, 0}},
+                      TwoDApplyCase{"Code11ChecksAndRange",
+                                    "CODE11_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.checked = {true, true};
+                                      s.lengths = {6, 10};
+                                    },
+                                    58670,
+                                    {0x78, 6, 10}},
+                      TwoDApplyCase{"Industrial25RangeBothZeroIsAny",
+                                    "INDUSTRIAL25_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.option = kLengthRange;
+                                      s.lengths = {0, 0};
+                                    },
+                                    58676,
+                                    {0x00, 0, 0}},
+                      TwoDApplyCase{"Interleave25Uss",
+                                    "INTERLEAVE25_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) { s.chosen[0] = 1; },
+                                    58673,
+                                    {0xC4}},
+                      TwoDApplyCase{"Interleave25Opcc",
+                                    "INTERLEAVE25_2D_DLG",
+                                    [](Document& d) { SetBits(d, 58673, 0x40); },
+                                    [](TwoDOptionState& s) { s.chosen[0] = 2; },
+                                    58673,
+                                    {0x86}},
+                      TwoDApplyCase{"Interleave25NoVerifyAndChecks",
+                                    "INTERLEAVE25_2D_DLG",
+                                    [](Document& d) { SetBits(d, 58673, 0x42); },
+                                    [](TwoDOptionState& s) {
+                                      s.chosen[0] = 0;
+                                      s.checked = {true, true};
+                                    },
+                                    58673,
+                                    {0xB4}},
+                      TwoDApplyCase{"CodabarNotisClearsBit6",
+                                    "CODABAR_2D_DLG",
+                                    [](Document& d) { SetBits(d, 58679, 0x40); },
+                                    [](TwoDOptionState& s) { s.checked[0] = true; },
+                                    58679,
+                                    {0x38}},
+                      TwoDApplyCase{"MsiOneCheckDigitDropsTheAlgorithm",
+                                    "MSI_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.chosen = {1, 0};
+                                      s.checked[0] = true;
+                                    },
+                                    58682,
+                                    {0x2C}},
+                      TwoDApplyCase{"MsiTwoCheckDigitsKeepTheAlgorithm",
+                                    "MSI_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.chosen = {1, 1};
+                                    },
+                                    58682,
+                                    {0x5C}},
+                      TwoDApplyCase{"UpcaPreambleAndCouponClearBit0",
+                                    "UPCA_2D_DLG",
+                                    [](Document& d) { SetBits(d, 58659, 0x01); },
+                                    [](TwoDOptionState& s) {
+                                      s.chosen[0] = 2;
+                                      s.checked = {false, true};
+                                    },
+                                    58659,
+                                    {0xDA, 0x95}},
+                      TwoDApplyCase{"Upce1Options",
+                                    "UPCE1_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.chosen[0] = 0;
+                                      s.checked = {false, true, false};
+                                    },
+                                    58660,
+                                    {0x53, 0x20}},
+                      TwoDApplyCase{"Ean8Convert",
+                                    "EAN8_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.checked[0] = true;
+                                      s.chosen[0] = 1;
+                                    },
+                                    58661,
+                                    {0x92}},
+                      TwoDApplyCase{"PostalSomeOff",
+                                    "POSTAL_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) {
+                                      s.checked[0] = false;
+                                      s.checked[7] = false;
+                                    },
+                                    58685,
+                                    {0x7E}},
+                      TwoDApplyCase{"Rss14Convert",
+                                    "RSS14_2D_DLG",
+                                    nullptr,
+                                    [](TwoDOptionState& s) { s.checked[0] = true; },
+                                    58687,
+                                    {0xF0}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace veltrix
