@@ -28,11 +28,11 @@ void NegotiateEndOfRecord(TelnetReceiver& t, std::uint8_t command, std::uint8_t 
 
 void NegotiateEcho(TelnetReceiver& t, std::uint8_t command, std::uint8_t option) {
   if (command == kWill) {
-    t.echo_ = true;
+    t.set_echo(true);
     t.SendAnswer(kDo, option);
   } else if (command == kWont) {
-    if (t.echo_) {
-      t.echo_ = false;
+    if (t.echo()) {
+      t.set_echo(false);
       t.SendAnswer(kDont, option);
     }
   } else {
@@ -43,25 +43,25 @@ void NegotiateEcho(TelnetReceiver& t, std::uint8_t command, std::uint8_t option)
 void NegotiateSuppressGoAhead(TelnetReceiver& t, std::uint8_t command, std::uint8_t option) {
   switch (command) {
     case kWill:
-      t.suppress_go_ahead_ = true;
-      t.echo_ = true;
+      t.set_suppress_go_ahead(true);
+      t.set_echo(true);
       t.SendAnswer(kDo, option);
       t.SendAnswer(kWill, option);
       t.SendAnswer(kDo, kOptEcho);
       break;
     case kWont:
-      if (t.suppress_go_ahead_) {
-        t.suppress_go_ahead_ = false;
-        t.echo_ = false;
+      if (t.suppress_go_ahead()) {
+        t.set_suppress_go_ahead(false);
+        t.set_echo(false);
         t.SendAnswer(kDont, option);
         t.SendAnswer(kWont, option);
       }
       break;
     case kDo:
-      if (!t.suppress_go_ahead_) t.SendAnswer(kDo, option);
+      if (!t.suppress_go_ahead()) t.SendAnswer(kDo, option);
       break;
     case kDont:
-      if (t.suppress_go_ahead_) t.SendAnswer(kDont, option);
+      if (t.suppress_go_ahead()) t.SendAnswer(kDont, option);
       break;
     default:
       break;
