@@ -1,0 +1,387 @@
+#include "shell/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QtTest>
+#include <functional>
+#include <memory>
+
+#include "settings/settings_file.h"
+#include "shell/command_table.h"
+#include "shell/fake_ports.h"
+#include "shell/settings_page.h"
+#include "shell/settings_page_registry_qt.h"
+#include "shell/settings_sheet_dialog.h"
+#include "shell/summary_view.h"
+
+using namespace veltrix;
+
+namespace {
+
+constexpr std::size_t kProbeByte = 30;
+
+// A System page stand-in that changes one record byte when the test says so.
+class ProbePage : public SettingsPage {
+ public:
+  ProbePage(Document& doc, QWidget* parent) : SettingsPage(doc, parent) {}
+  void Initialise(Document&) override {}
+  void Poke(std::uint8_t value) { doc().record[kProbeByte] = value; }
+};
+
+// Runs `what` on the sheet as soon as it is shown modally, then closes it with OK or Cancel.
+void OnNextSheet(bool ok, std::function<void(SettingsSheetDialog&)> what = {}) {
+  QTimer::singleShot(0, [ok, what] {
+    auto* sheet = qobject_cast<SettingsSheetDialog*>(QApplication::activeModalWidget());
+    QVERIFY(sheet);
+    if (what) what(*sheet);
+    if (ok) {
+      sheet->accept();
+    } else {
+      sheet->reject();
+    }
+  });
+}
+
+// Records the keys it receives.
+class KeyProbe : public QWidget {
+ public:
+  KeyProbe() { setFocusPolicy(Qt::StrongFocus); }
+  QString keys;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Control) return;
+    keys += QKeySequence(event->key() | event->modifiers()).toString() + " ";
+  }
+};
+
+bool FileWritingWorks(const QString& folder) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  return WriteSettingsFileTo(*doc, QDir(folder).filePath("probe.QVL").toStdString());
+}
+
+}  // namespace
+
+class MainWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    prompt_ = std::make_unique<FakeUserPrompt>();
+    chooser_ = std::make_unique<FakeFileChooser>();
+    registry_ = SettingsPageRegistry();
+    registry_.Register<ProbePage>(SheetPageId::kSystem);
+    window_ =
+        std::make_unique<MainWindow>(MainWindow::Ports{prompt_.get(), chooser_.get()}, registry_);
+  }
+  void cleanup() {
+    window_->document().modified = false;
+    window_.reset();
+  }
+
+  void startUpState() {
+    QCOMPARE(window_->windowTitle(), QString("Veltrix - TN5250"));
+    QCOMPARE(window_->product_box()->currentText(), QString("Select Product"));
+    QCOMPARE(window_->product_box()->count(), 3);
+    QCOMPARE(window_->product_box()->itemText(2), QString("Dravin R"));
+    QCOMPARE(window_->summary_view()->topLevelItemCount(), 0);
+    QCOMPARE(window_->document().product(), 0);
+    QVERIFY(!window_->document().modified);
+    QVERIFY(window_->action(kCmdConnect)->isEnabled());
+    for (int id : {kCmdDisconnect, kCmdStartCapture, kCmdCapture, kCmdStopCapture}) {
+      QVERIFY2(!window_->action(id)->isEnabled(), qPrintable(QString::number(id)));
+    }
+    QVERIFY(window_->action(kCmdNew)->isEnabled());
+    QVERIFY(prompt_->shown.empty());  // the About box is main()'s, not the window's
+  }
+
+  void menusCarryTextsDescriptionsAndShortcuts() {
+    QAction* save_as = window_->action(kCmdSaveAs);
+    QCOMPARE(save_as->text(), QString("Save &As..."));
+    QCOMPARE(save_as->statusTip(), QString("Saves the active document with a new name"));
+    QCOMPARE(window_->action(kCmdNew)->shortcut(), QKeySequence("Ctrl+N"));
+    QCOMPARE(window_->action(kCmdDownloadProgram)->shortcut(), QKeySequence("Ctrl+P"));
+    QCOMPARE(window_->action(kCmdConnect)->toolTip(), QString("Connect"));
+  }
+
+  void toolbarHasTheButtonsInOrder() {
+    QStringList layout;
+    for (QAction* a : window_->tool_bar()->actions()) {
+      if (a->isSeparator()) {
+        layout << "|";
+      } else if (a->data().isValid()) {
+        layout << QString::number(a->data().toInt());
+        QVERIFY(!a->icon().isNull());
+        QVERIFY(!a->isCheckable());
+      } else {
+        layout << "box";
+      }
+    }
+    QCOMPARE(layout.join(' '),
+             QString("| 1010 1020 1030 | 1110 1210 | 1340 1350 | 1320 1310 1330 | box"));
+    QVERIFY(window_->product_box()->parentWidget() == window_->tool_bar());
+  }
+
+  void productRule_data() {
+    QTest::addColumn<int>("command");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("New") << int(kCmdNew) << true;
+    QTest::newRow("Save") << int(kCmdSave) << true;
+    QTest::newRow("Save As") << int(kCmdSaveAs) << true;
+    QTest::newRow("Configure") << int(kCmdConfigure) << true;
+    QTest::newRow("Download settings") << int(kCmdDownloadSettings) << true;
+    QTest::newRow("Open") << int(kCmdOpen) << false;
+    QTest::newRow("Download Program") << int(kCmdDownloadProgram) << false;
+  }
+  void productRule() {
+    QFETCH(int, command);
+    QFETCH(bool, refused);
+    window_->ExecuteCommand(command);
+    const bool said_select =
+        !prompt_->shown.empty() && prompt_->shown[0].text == "Please select product !!";
+    QCOMPARE(said_select, refused);
+    if (refused) QCOMPARE(prompt_->shown.size(), size_t(1));
+    QCOMPARE(window_->statusBar()->currentMessage(),
+             QString::fromUtf8(CommandDescription(command).data()));
+  }
+
+  void downloadSaysItIsNotAvailableUntilAHandlerIsSet() {
+    window_->ExecuteCommand(kCmdDownloadProgram);
+    QCOMPARE(window_->download_mode(), int(kCmdDownloadProgram));
+    QVERIFY(QString::fromStdString(prompt_->shown.back().text).contains("not available"));
+    int mode = 0;
+    window_->SetDownloadHandler([&mode](int m) { mode = m; });
+    window_->product_box()->setCurrentIndex(1);
+    emit window_->product_box()->activated(1);
+    window_->ExecuteCommand(kCmdDownloadSettings);
+    QCOMPARE(mode, int(kCmdDownloadSettings));
+  }
+
+  void productChangeReplacesTheDocumentWithoutAsking() {
+    window_->product_box()->setCurrentIndex(1);
+    emit window_->product_box()->activated(1);
+    QCOMPARE(window_->document().product(), 1);
+    window_->document().record[kProbeByte] = 0xEE;
+    window_->document().modified = true;
+    window_->document().file_name = "x.QVL";
+    window_->product_box()->setCurrentIndex(2);
+    emit window_->product_box()->activated(2);
+    QCOMPARE(window_->document().product(), 2);
+    QVERIFY(window_->document().record[kProbeByte] != 0xEE);
+    QVERIFY(!window_->document().modified);
+    QVERIFY(window_->document().file_name.empty());
+    QVERIFY(prompt_->shown.empty());
+  }
+
+  void newAsksWhileModifiedThenOpensTheSheet() {
+    emit window_->product_box()->activated(1);
+    window_->document().modified = true;
+    window_->document().file_name.clear();
+    prompt_->answers = {PromptAnswer::kNo};
+    OnNextSheet(false);
+    window_->ExecuteCommand(kCmdNew);
+    QCOMPARE(prompt_->shown.size(), size_t(1));
+    QCOMPARE(prompt_->shown[0].text, std::string("Save the program ?"));
+    QCOMPARE(prompt_->shown[0].caption, std::string("Veltrix - TN5250"));
+    QVERIFY(!window_->document().modified);
+  }
+
+  void newCancelledKeepsEverything() {
+    emit window_->product_box()->activated(1);
+    window_->document().modified = true;
+    window_->document().record[kProbeByte] = 0x5A;
+    prompt_->answers = {PromptAnswer::kCancel};
+    window_->ExecuteCommand(kCmdNew);  // no sheet: would block if it opened
+    QVERIFY(window_->document().modified);
+    QCOMPARE(int(window_->document().record[kProbeByte]), 0x5A);
+  }
+
+  void configureOkSetsModifiedAndCloseAsks() {
+    emit window_->product_box()->activated(1);
+    OnNextSheet(true);
+    window_->ExecuteCommand(kCmdConfigure);
+    QVERIFY(window_->document().modified);
+    QVERIFY(window_->summary_view()->topLevelItemCount() >= 0);  // rebuilt after the sheet
+
+    window_->show();
+    prompt_->answers = {PromptAnswer::kCancel};
+    QVERIFY(!window_->close());
+    QVERIFY(window_->isVisible());
+    prompt_->answers = {PromptAnswer::kNo};
+    QVERIFY(window_->close());
+    QCOMPARE(prompt_->shown.size(), size_t(2));
+    QCOMPARE(prompt_->shown[1].text, std::string("Save the program ?"));
+  }
+
+  void configureCancelRestoresTheSnapshot() {
+    emit window_->product_box()->activated(1);
+    window_->document().modified = true;
+    const SettingsRecord before = window_->document().record;
+    OnNextSheet(false, [](SettingsSheetDialog& sheet) {
+      static_cast<ProbePage*>(sheet.page(0))->Poke(0x99);
+    });
+    window_->ExecuteCommand(kCmdConfigure);
+    QVERIFY(window_->document().record == before);
+    QVERIFY(!window_->document().modified);
+  }
+
+  void systemChangeSurvivesCancelOnAnotherPage() {
+    emit window_->product_box()->activated(1);
+    OnNextSheet(false, [](SettingsSheetDialog& sheet) {
+      static_cast<ProbePage*>(sheet.page(0))->Poke(0x42);
+      sheet.tabs()->setCurrentIndex(4);  // the Screen page snapshots the change
+    });
+    window_->ExecuteCommand(kCmdConfigure);
+    QCOMPARE(int(window_->document().record[kProbeByte]), 0x42);
+    QVERIFY(!window_->document().modified);
+  }
+
+  void cancelledOpenForgetsTheNameAndTheFlag() {
+    emit window_->product_box()->activated(2);
+    window_->document().record[kProbeByte] = 0x77;
+    window_->document().file_name = "kept.QVL";
+    window_->document().modified = true;
+    prompt_->answers = {PromptAnswer::kNo};
+    window_->ExecuteCommand(kCmdOpen);
+    QCOMPARE(chooser_->open_calls, 1);
+    QCOMPARE(int(window_->document().record[kProbeByte]), 0x77);
+    QVERIFY(window_->document().file_name.empty());
+    QVERIFY(!window_->document().modified);
+    QCOMPARE(window_->product_box()->currentIndex(), 2);
+  }
+
+  void saveAsThenOpenRoundTrip() {
+    QTemporaryDir folder;
+    if (!FileWritingWorks(folder.path())) QSKIP("settings file writing is not in this build");
+    emit window_->product_box()->activated(2);
+    window_->document().modified = true;
+    const QString path = QDir(folder.path()).filePath("terminal.QVL");
+    chooser_->save_result = path.toStdString();
+    window_->ExecuteCommand(kCmdSaveAs);
+    QVERIFY(QFile::exists(path));
+    QVERIFY(!window_->document().modified);
+    QCOMPARE(QString::fromStdString(window_->document().file_name), path);
+
+    emit window_->product_box()->activated(1);  // forget it all
+    chooser_->open_result = path.toStdString();
+    OnNextSheet(false);
+    window_->ExecuteCommand(kCmdOpen);
+    QCOMPARE(window_->document().product(), 2);
+    QCOMPARE(window_->product_box()->currentIndex(), 2);
+    QCOMPARE(QString::fromStdString(window_->document().file_name), path);
+  }
+
+  void connectShowsTheHostScreenAndDisconnectTheTree() {
+    auto* host = new KeyProbe;
+    window_->SetHostScreenWidget(host);
+    QVERIFY(!host->isVisibleTo(window_.get()));
+    bool up = false;
+    window_->SetSessionHandlers(SessionHandlers{[&] { return up = true; }, [&] { up = false; },
+                                                [] { return true; }, [] {}, [] {}});
+    window_->ExecuteCommand(kCmdConnect);
+    QVERIFY(up);
+    QVERIFY(host->isVisibleTo(window_.get()));
+    QVERIFY(!window_->summary_view()->isVisibleTo(window_.get()));
+    QVERIFY(!window_->action(kCmdConnect)->isEnabled());
+    QVERIFY(window_->action(kCmdStartCapture)->isEnabled());
+    QVERIFY(!window_->action(kCmdCapture)->isEnabled());
+
+    window_->ExecuteCommand(kCmdStartCapture);
+    QCOMPARE(window_->statusBar()->currentMessage(), QString("Ready to capture"));
+    window_->ExecuteCommand(kCmdCapture);
+    window_->ExecuteCommand(kCmdCapture);
+    QCOMPARE(window_->statusBar()->currentMessage(), QString("Captured : 2 screens"));
+    window_->ExecuteCommand(kCmdStopCapture);
+    QCOMPARE(window_->statusBar()->currentMessage(), QString());
+
+    window_->ExecuteCommand(kCmdDisconnect);  // as the session does when the host hangs up
+    QVERIFY(!up);
+    QVERIFY(window_->summary_view()->isVisibleTo(window_.get()));
+    QVERIFY(window_->action(kCmdConnect)->isEnabled());
+    QVERIFY(!window_->action(kCmdDisconnect)->isEnabled());
+  }
+
+  void connectWithoutASessionSaysSo() {
+    window_->ExecuteCommand(kCmdConnect);
+    QCOMPARE(prompt_->shown.size(), size_t(1));
+    QVERIFY(QString::fromStdString(prompt_->shown[0].text).contains("not available"));
+    QVERIFY(window_->summary_view()->isVisibleTo(window_.get()));
+    QVERIFY(window_->action(kCmdConnect)->isEnabled());
+  }
+
+  void disabledCommandsDoNothing() {
+    window_->ExecuteCommand(kCmdCapture);
+    QVERIFY(prompt_->shown.empty());
+    QCOMPARE(window_->statusBar()->currentMessage(), QString());
+  }
+
+  void clientAreaSitsTwoPixelsBelowTheToolbar() {
+    window_->resize(800, 600);
+    window_->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+    const QRect tree = window_->summary_view()->geometry().translated(
+        window_->summary_view()->mapTo(window_.get(), QPoint(0, 0)) -
+        window_->summary_view()->pos());
+    const QRect bar = window_->tool_bar()->geometry();
+    QCOMPARE(tree.top(), bar.bottom() + 1 + 2);
+    QCOMPARE(tree.bottom() + 1, window_->statusBar()->geometry().top());
+    window_->resize(640, 480);
+    QTRY_COMPARE(window_->summary_view()->mapTo(window_.get(), QPoint(0, 0)).y(),
+                 window_->tool_bar()->geometry().bottom() + 3);
+  }
+
+  void acceleratorsAct() {
+    window_->show();
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    QTest::keyClick(window_->summary_view(), Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(prompt_->shown.size(), size_t(1));
+    QCOMPARE(prompt_->shown[0].text, std::string("Please select product !!"));
+    QTest::keyClick(window_->summary_view(), Qt::Key_O, Qt::ControlModifier);
+    QCOMPARE(chooser_->open_calls, 1);
+    QTest::keyClick(window_->summary_view(), Qt::Key_P, Qt::ControlModifier);
+    QCOMPARE(window_->download_mode(), int(kCmdDownloadProgram));
+    for (Qt::Key key : {Qt::Key_S, Qt::Key_C, Qt::Key_D}) {
+      const size_t before = prompt_->shown.size();
+      QTest::keyClick(window_->summary_view(), key, Qt::ControlModifier);
+      QCOMPARE(prompt_->shown.size(), before + 1);  // each needs a product
+    }
+  }
+
+  void focusedHostScreenTakesTheAcceleratorKeys() {
+    auto* host = new KeyProbe;
+    window_->SetHostScreenWidget(host);
+    window_->SetSessionHandlers(SessionHandlers{[] { return true; }, [] {}, {}, {}, {}});
+    window_->show();
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    window_->ExecuteCommand(kCmdConnect);
+    QTRY_VERIFY(host->hasFocus());
+    QTest::keyClick(host, Qt::Key_N, Qt::ControlModifier);
+    QTest::keyClick(host, Qt::Key_O, Qt::ControlModifier);
+    QVERIFY(prompt_->shown.empty());
+    QCOMPARE(chooser_->open_calls, 0);
+    QCOMPARE(host->keys, QString("Ctrl+N Ctrl+O "));
+  }
+
+ private:
+  std::unique_ptr<FakeUserPrompt> prompt_;
+  std::unique_ptr<FakeFileChooser> chooser_;
+  SettingsPageRegistry registry_;
+  std::unique_ptr<MainWindow> window_;
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "main_window_test.moc"
