@@ -1,0 +1,11 @@
+#include "shell/window_extensions_qt.h"
+
+#include "shell/main_window.h"
+
+namespace veltrix {
+
+void InstallHostSession(MainWindow& window) { (void)window; }
+
+void InstallDownload(MainWindow& window) { (void)window; }
+
+}  // namespace veltrix
