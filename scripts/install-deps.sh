@@ -6,7 +6,7 @@ packages=(
   cmake ninja-build g++ pkg-config
   qt6-base-dev qt6-serialport-dev libxkbcommon-dev
   libgtest-dev libgmock-dev libbenchmark-dev
-  fontconfig fonts-dejavu-core
+  fontconfig fonts-dejavu-core fonts-wqy-microhei
   xvfb xauth socat
 )
 missing=()

@@ -20,6 +20,9 @@ constexpr Command kCommands[] = {
      RunDiffCommand},
     {"summary", "FILE [--json]", "print the settings summary tree (as JSON with --json)",
      RunSummaryCommand},
+    {"replay", "[--emulation N] [--local-name NAME] [--keys KEYS] [--json] STREAM",
+     "feed host bytes (a file, - for standard input) to a TN5250 session, type KEYS, print it",
+     RunReplayCommand},
 };
 
 }  // namespace

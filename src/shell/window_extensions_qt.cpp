@@ -4,8 +4,6 @@
 
 namespace veltrix {
 
-void InstallHostSession(MainWindow& window) { (void)window; }
-
 void InstallDownload(MainWindow& window) { (void)window; }
 
 }  // namespace veltrix

@@ -5,11 +5,8 @@ namespace veltrix {
 
 class MainWindow;
 
-// Where the host session and the download plug into the program's main window at start-up
-// (main() calls both; tests build the window without them). Each body is the one place its
-// subsystem wires itself in: the host screen widget and SetSessionHandlers for the first,
-// SetDownloadHandler for the second.
-void InstallHostSession(MainWindow& window);
+// Where the download plugs into the program's main window at start-up (main() calls it; tests
+// build the window without it): the one place to call SetDownloadHandler.
 void InstallDownload(MainWindow& window);
 
 }  // namespace veltrix

@@ -62,6 +62,7 @@ class DataStreamInterpreter {
   void ExecuteOrder();
   void EndRecord();
   bool ConvertPair(std::uint8_t& first, std::uint8_t& second);
+  std::size_t FastData(const std::uint8_t* p, const std::uint8_t* end);
 
   HostContext& host_;
   InboundRecords& inbound_;
@@ -75,6 +76,9 @@ class DataStreamInterpreter {
   bool double_byte_ = false;
   bool half_ = false;
   std::uint8_t first_half_ = 0;
+  // The host language's single-byte table with 0xFF already made 0.
+  std::array<std::uint8_t, 256> display_{};
+  int display_language_ = -1;
 };
 
 }  // namespace veltrix

@@ -117,9 +117,56 @@ int PresentationSpace::AddressDistance(int column1, int row1, int column2, int r
   return std::abs((row1 - row2) * columns_ + column1 - column2);
 }
 
-void PresentationSpace::WriteAtCursor(std::uint8_t character) {
-  PutCell(cursor_column_, cursor_row_, character);
-  AdvanceAddress(cursor_column_, cursor_row_);
+std::size_t PresentationSpace::WriteRun(const std::uint8_t* p, const std::uint8_t* stop,
+                                        const std::array<bool, 256>& accept,
+                                        const std::array<std::uint8_t, 256>& map) {
+  const std::uint8_t* const start = p;
+  while (p < stop && accept[*p]) {
+    const int room = columns_ - 1 - cursor_column_;
+    if (cursor_row_ < 0 || cursor_row_ >= rows_ || cursor_column_ < 0 || room <= 0) {
+      WriteAtCursor(map[*p++]);
+      continue;
+    }
+    // Within one row: plain stores, then the attributes and marks in one go.
+    const int i = Index(cursor_row_, cursor_column_);
+    std::uint8_t* out = characters_.data() + i;
+    const std::uint8_t* const segment_end = p + std::min<std::ptrdiff_t>(room, stop - p);
+    const std::uint8_t* const segment_start = p;
+    while (p < segment_end && accept[*p]) *out++ = map[*p++];
+    const int n = static_cast<int>(p - segment_start);
+    std::fill_n(attributes_.data() + i, n, current_attribute_);
+    std::fill_n(pair_start_.data() + i, n, false);
+    cursor_column_ += n;
+  }
+  return static_cast<std::size_t>(p - start);
+}
+
+void PresentationSpace::FillLinear(int first, int last, std::uint8_t character) {
+  first = std::max(first, 0);
+  last = std::min(last, rows_ * columns_ - 1);
+  while (first <= last) {
+    const int row = first / columns_;
+    const int column = first % columns_;
+    const int n = std::min(columns_ - column, last - first + 1);
+    const int i = Index(row, column);
+    std::fill_n(characters_.data() + i, n, character);
+    std::fill_n(attributes_.data() + i, n, current_attribute_);
+    std::fill_n(pair_start_.data() + i, n, false);
+    first += n;
+  }
+}
+
+void PresentationSpace::SetAttributeLinear(int first, int count, std::uint8_t attribute) {
+  int last = first + count - 1;
+  first = std::max(first, 0);
+  last = std::min(last, rows_ * columns_ - 1);
+  while (first <= last) {
+    const int row = first / columns_;
+    const int column = first % columns_;
+    const int n = std::min(columns_ - column, last - first + 1);
+    std::fill_n(attributes_.data() + Index(row, column), n, attribute);
+    first += n;
+  }
 }
 
 void PresentationSpace::SetErrorRow(int row) {

@@ -87,8 +87,31 @@ class PresentationSpace {
     cursor_row_ = row;
     cursor_column_ = column;
   }
-  // Writes at the cursor and advances it.
-  void WriteAtCursor(std::uint8_t character);
+  // Writes the bytes from p on at the cursor, each mapped through map, for as long as accept
+  // holds for them and p is before stop; gives the number written. The same as WriteAtCursor
+  // for each byte, done a row segment at a time.
+  std::size_t WriteRun(const std::uint8_t* p, const std::uint8_t* stop,
+                       const std::array<bool, 256>& accept,
+                       const std::array<std::uint8_t, 256>& map);
+  // Stores character with the current attribute in the cells first..last (linear indexes).
+  void FillLinear(int first, int last, std::uint8_t character);
+  // Sets the attribute of count cells from the linear index first, within the screen.
+  void SetAttributeLinear(int first, int count, std::uint8_t attribute);
+
+  // Writes at the cursor and advances it. Inline: this is the interpreter's hot path.
+  void WriteAtCursor(std::uint8_t character) {
+    if (cursor_row_ >= 0 && cursor_row_ < rows_ && cursor_column_ >= 0 &&
+        cursor_column_ + 1 < columns_) {
+      const int i = Index(cursor_row_, cursor_column_);
+      characters_[i] = character;
+      attributes_[i] = current_attribute_;
+      pair_start_[i] = false;
+      ++cursor_column_;
+      return;
+    }
+    PutCell(cursor_column_, cursor_row_, character);
+    AdvanceAddress(cursor_column_, cursor_row_);
+  }
 
   std::uint8_t CurrentAttribute() const { return current_attribute_; }
   void SetCurrentAttribute(std::uint8_t a) { current_attribute_ = a; }

@@ -57,7 +57,7 @@ void RepeatToAddress(DataStreamInterpreter& s, Item item) {
   if (c == 0xFF) c = 0;
   const CellAddress end = OrderAddress(item[1], item[2]);
   const Span span = FillSpan(ps, end, true);
-  for (int i = span.first; i <= span.last; ++i) ps.PutCell(i % ps.Columns(), i / ps.Columns(), c);
+  ps.FillLinear(span.first, span.last, c);
   const CellAddress next = ps.Advance(end);
   ps.SetCursor(next.row, next.column);
   h.MarkRepaint();
@@ -157,11 +157,8 @@ void StartOfField(DataStreamInterpreter& s, Item item) {
   f.number = 1;
   if (fields.LastField()) f.number = static_cast<std::uint8_t>(fields.ReadField().number + 1);
   if (ps.InScreen(first.row, first.column)) fields.AppendField(f);
-  CellAddress cell = first;
-  for (int i = 0; i < f.length && ps.InScreen(cell.row, cell.column); ++i) {
-    ps.SetAttribute(cell.column, cell.row, f.attribute);
-    cell = ps.Advance(cell);
-  }
+  if (ps.InScreen(first.row, first.column))
+    ps.SetAttributeLinear(ps.Linear(first), f.length, f.attribute);
   if (f.attribute != 0) ps.SetCurrentAttribute(f.attribute);
   h.MarkRepaint();
 }

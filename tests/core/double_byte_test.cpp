@@ -151,7 +151,8 @@ TEST(DoubleByteTest, CodePointToUtf8) {
   for (const Case& c : {Case{U'A', "A"}, Case{0xE9, "\xC3\xA9"}, Case{0x3000, "\xE3\x80\x80"},
                         Case{0x20AC, "\xE2\x82\xAC"}, Case{0xE000, "\xEE\x80\x80"},
                         Case{0x2A6A5, "\xF0\xAA\x9A\xA5"}, Case{0xD800, ""}, Case{0x110000, ""}}) {
-    EXPECT_EQ(CodePointToUtf8(c.code_point), c.utf8) << std::hex << static_cast<unsigned>(c.code_point);
+    EXPECT_EQ(CodePointToUtf8(c.code_point), c.utf8)
+        << std::hex << static_cast<unsigned>(c.code_point);
   }
 }
 

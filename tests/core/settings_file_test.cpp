@@ -6,6 +6,7 @@
 #include <cstring>
 #include <filesystem>
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -347,6 +348,20 @@ TEST_F(SettingsFileTest, FailedSaveInAReadOnlyFolderKeepsTheFile) {
   doc_ = DefaultDocument(1);
   EXPECT_FALSE(WriteSettingsFileTo(*doc_, path));
   EXPECT_TRUE(ReadBytes(path) == old_bytes);
+}
+
+// Whatever bytes a file holds, Open leaves a current-layout document of a known product.
+TEST(ApplyOpenRules, AlwaysLeaveACurrentTagAndAKnownProduct) {
+  std::mt19937 random(99);
+  auto doc = std::make_unique<Document>();
+  for (int round = 0; round < 40; ++round) {
+    for (std::uint8_t& b : doc->record) b = static_cast<std::uint8_t>(random());
+    // Half the rounds get a plausible tag, so the conversion and acceptance paths run too.
+    if (round % 2 == 0) std::copy_n(round % 4 == 0 ? "V100" : "I100", 4, doc->record.begin());
+    ApplyOpenRules(*doc);
+    ASSERT_TRUE(HasCurrentTag(*doc));
+    ASSERT_LE(doc->product(), kProductCount);
+  }
 }
 
 TEST(WriteSettingsFile, NeedsAFileName) {

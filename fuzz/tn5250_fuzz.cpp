@@ -1,0 +1,54 @@
+// Feeds arbitrary host bytes and key presses to a TN5250 session. The first byte picks the host
+// language; the rest is cut into host chunks and key presses by marker bytes, so the fuzzer
+// explores both the Telnet/5250 parser and the keyboard on whatever screen the host built.
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "tn5250/session.h"
+
+namespace {
+
+constexpr veltrix::HostKey kKeys[] = {
+    veltrix::HostKey::kBackspace, veltrix::HostKey::kEnter,     veltrix::HostKey::kReset,
+    veltrix::HostKey::kF1,        veltrix::HostKey::kF12,       veltrix::HostKey::kUp,
+    veltrix::HostKey::kDown,      veltrix::HostKey::kLeft,      veltrix::HostKey::kRight,
+    veltrix::HostKey::kPageUp,    veltrix::HostKey::kPageDown,  veltrix::HostKey::kTab,
+    veltrix::HostKey::kHome,      veltrix::HostKey::kEnd,       veltrix::HostKey::kDelete,
+    veltrix::HostKey::kFieldPlus, veltrix::HostKey::kFieldMinus};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  veltrix::SessionConfig config;
+  config.emulation_type = data[0] % 7;
+  config.local_name = "FUZZ";
+  veltrix::Session session(config);
+  std::span<const std::uint8_t> rest(data + 1, size - 1);
+  // 0xFE 0xFE K: press key K (a key of the enum, or a printable character); anything else is
+  // host data up to the next marker.
+  std::size_t start = 0;
+  for (std::size_t i = 0; i + 2 < rest.size(); ++i) {
+    if (rest[i] != 0xFE || rest[i + 1] != 0xFE) continue;
+    session.Receive(rest.subspan(start, i - start));
+    const std::uint8_t k = rest[i + 2];
+    if (k < sizeof kKeys / sizeof kKeys[0]) {
+      session.KeyInput(kKeys[k]);
+    } else {
+      session.TypeCharacter(k);
+    }
+    i += 2;
+    start = i + 1;
+  }
+  if (start < rest.size()) session.Receive(rest.subspan(start));
+  // Reading the whole screen touches every cell the engine may have written.
+  unsigned sum = 0;
+  const auto& ps = session.Screen();
+  for (int r = 0; r < ps.Rows(); ++r) {
+    for (int c = 0; c < ps.Columns(); ++c) sum += ps.Character(r, c) + ps.Attribute(r, c);
+  }
+  for (const auto& f : session.Fields().Records()) sum += f.Serialize()[0];
+  asm volatile("" : : "r"(sum));  // keep the reads
+  return 0;
+}

@@ -1,0 +1,45 @@
+#ifndef VELTRIX_SETTINGS_READER_RFID_OPTIONS_H_
+#define VELTRIX_SETTINGS_READER_RFID_OPTIONS_H_
+
+#include <cstdint>
+
+#include "settings/document.h"
+#include "settings/emulation/function_keys.h"
+
+namespace veltrix {
+
+// The controls of the RFID reader dialog. Radio pairs hold 0 for the first radio, 1 for the second.
+struct RfidState {
+  bool read_uid = false;
+  bool read_data = false;
+  bool use_delimiter = false;
+  int start = 0;
+  int max_len = 0;
+  int delay = 0;  // tenths of a second
+  std::uint8_t delimiter = 0;
+  int working_mode = 0;  // "Toggle", "Hybrid"
+  int reading_mode = 0;  // "Trigger", "Continous"
+  int control = 0;       // "Always Enable", "By 5250 Command"
+
+  bool operator==(const RfidState&) const = default;
+};
+
+RfidState OpenRfidOptions(const Document& doc);
+
+// OK: stores every control into the record (the 16-bit values high byte first). Numbers outside
+// what the boxes accept are stored as the boxes would have corrected them.
+void ApplyRfidOptions(Document& doc, const RfidState& state);
+
+struct RfidEnabling {
+  bool start_and_max_len;  // boxes 201 and 202, while "Read Data" is checked
+  bool delimiter;          // box 203, while "Use Delimiter" is checked
+};
+RfidEnabling RfidControlsEnabled(const RfidState& state);
+
+// Choosing an entry of the "SwitchKey" list: takes effect at once (before OK, kept on Cancel).
+// Refused, with nothing changed, when another role holds that key.
+KeyComboResult ChooseScanSwitchKey(Document& doc, int key_index);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SETTINGS_READER_RFID_OPTIONS_H_

@@ -1,0 +1,140 @@
+#include "tn5250/host_connection.h"
+
+#include "settings/field_registry.h"
+#include "tn5250/display_text.h"
+
+namespace veltrix {
+namespace {
+
+std::span<const std::uint8_t> RecordOf(const Document& doc) { return doc.record; }
+
+}  // namespace
+
+HostSettings ReadHostSettings(const Document& doc) {
+  HostSettings s;
+  const FieldDef* entries = FindField("HostIpOrName");
+  const FieldDef* active = FindField("ActiveHostIpOrName");
+  const FieldDef* port = FindField("TelnetPort");
+  const FieldDef* emulation = FindField("EmulationType");
+  const FieldDef* local_name = FindField("LocalName");
+  if (entries) {
+    int index = active ? static_cast<int>(ReadNumber(RecordOf(doc), *active)) : 0;
+    if (index < 0 || index >= entries->count) index = 0;
+    s.active_entry = ReadText(RecordOf(doc), *entries, index);
+  }
+  if (port) s.port = static_cast<std::uint16_t>(ReadNumber(RecordOf(doc), *port));
+  if (emulation) s.emulation_type = static_cast<int>(ReadNumber(RecordOf(doc), *emulation));
+  if (local_name) s.local_name = ReadText(RecordOf(doc), *local_name);
+  return s;
+}
+
+void StoreConnectedAddress(Document& doc, std::string_view address) {
+  if (const FieldDef* entries = FindField("HostIpOrName")) {
+    WriteText(doc.record, *entries, address, 0);
+  }
+}
+
+HostConnection::HostConnection(HostLink& link, SessionLog& log, SessionMessages& messages)
+    : link_(link), log_(log), messages_(messages), session_(std::make_unique<Session>()) {
+  session_->SetListener(this);
+}
+
+HostConnection::~HostConnection() { Disconnect(); }
+
+bool HostConnection::Connect(Document& doc, const HostOctets& octets, bool save_log) {
+  Disconnect();
+  log_.set_save_log(save_log);
+  if (!HostAddressValue(octets)) {
+    messages_.ShowError(kInvalidHostIpMessage);
+    return false;
+  }
+  const std::string address = FormatHostAddress(octets);
+  HostSettings settings = ReadHostSettings(doc);
+  SessionConfig config{settings.emulation_type, settings.local_name};
+  // The engine keeps its field records across connections, so keep it while the language and
+  // device name stay the same.
+  if (session_->Config().emulation_type != config.emulation_type ||
+      session_->Config().local_name != config.local_name) {
+    session_ = std::make_unique<Session>(config, static_cast<SessionListener*>(this));
+  }
+  session_->Connect();
+  keyboard_.Reset();
+  if (!link_.Open(address, settings.port)) {
+    Disconnect();
+    messages_.ShowError(kCannotConnectMessage);
+    return false;
+  }
+  connected_ = true;
+  log_.LogConnect();
+  StoreConnectedAddress(doc, address);
+  if (view_) view_->OnScreenChanged(ScreenChange{});
+  return true;
+}
+
+void HostConnection::Disconnect() {
+  if (!connected_) return;
+  connected_ = false;
+  link_.Close();
+  log_.LogClose();
+}
+
+void HostConnection::Received(std::span<const std::uint8_t> bytes) {
+  if (!connected_) return;
+  log_.LogReceive(bytes);
+  session_->Receive(bytes);
+}
+
+void HostConnection::HostClosed() {
+  if (!connected_) return;
+  log_.LogReceive({});
+  messages_.ShowError(kCannotConnectMessage);
+}
+
+void HostConnection::ReceiveFailed() {
+  if (!connected_) return;
+  log_.LogReceive({});
+}
+
+KeyRepaint HostConnection::Before() const {
+  return KeyRepaint{Repaint::kNothing, session_->CursorRow(), session_->CursorColumn()};
+}
+
+std::optional<KeyRepaint> HostConnection::KeyDown(PcKey key) {
+  if (!connected_) return std::nullopt;
+  std::optional<PcKeyboard::Input> input = keyboard_.KeyDown(key);
+  if (!input) return std::nullopt;
+  KeyRepaint result = Before();
+  result.repaint = session_->KeyInput(static_cast<HostKey>(input->key_code));
+  return result;
+}
+
+std::optional<KeyRepaint> HostConnection::Character(char32_t c) {
+  if (!connected_) return std::nullopt;
+  std::optional<PcKeyboard::Input> input = keyboard_.Character(c);
+  if (!input) return std::nullopt;
+  std::optional<std::uint8_t> display = UnicodeToDisplayByte(emulation_type(), input->character);
+  if (!display) return std::nullopt;  // the host language has no single-byte code for it
+  KeyRepaint result = Before();
+  result.repaint = session_->TypeCharacter(*display);
+  return result;
+}
+
+void HostConnection::OnSend(std::span<const std::uint8_t> bytes) {
+  if (!connected_) return;
+  log_.LogSend(bytes);
+  link_.Send(bytes);
+}
+
+void HostConnection::OnScreenChanged(const ScreenChange& change) {
+  if (view_) view_->OnScreenChanged(change);
+}
+
+void HostConnection::OnAlarm() {
+  if (view_) view_->OnAlarm();
+}
+
+void HostConnection::OnKeyboardLockChanged(bool locked) {
+  if (view_) view_->OnKeyboardLockChanged(locked);
+}
+
+}  // namespace veltrix

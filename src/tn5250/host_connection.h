@@ -1,0 +1,113 @@
+#ifndef VELTRIX_TN5250_HOST_CONNECTION_H_
+#define VELTRIX_TN5250_HOST_CONNECTION_H_
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "settings/document.h"
+#include "tn5250/host_ip.h"
+#include "tn5250/keys.h"
+#include "tn5250/pc_keys.h"
+#include "tn5250/session.h"
+#include "tn5250/session_listener.h"
+#include "tn5250/session_log.h"
+
+namespace veltrix {
+
+inline constexpr std::string_view kInvalidHostIpMessage = "Invalid Host IP given.";
+inline constexpr std::string_view kCannotConnectMessage = "Can not establish connection";
+
+// The byte link to the host (a TCP socket in the program, a fake in tests).
+class HostLink {
+ public:
+  virtual ~HostLink() = default;
+  // Connects to address:port and waits for the result.
+  virtual bool Open(const std::string& address, std::uint16_t port) = 0;
+  virtual void Send(std::span<const std::uint8_t> bytes) = 0;
+  // Shuts the connection down in both directions and closes it.
+  virtual void Close() = 0;
+};
+
+// Shows the host session's error messages (caption "Error").
+class SessionMessages {
+ public:
+  virtual ~SessionMessages() = default;
+  virtual void ShowError(std::string_view text) = 0;
+};
+
+// What the host session reads from the settings record.
+struct HostSettings {
+  std::string active_entry;  // the active `HostIpOrName` entry
+  std::uint16_t port = 23;   // `TelnetPort`
+  int emulation_type = 0;    // `EmulationType`
+  std::string local_name;    // `LocalName`
+};
+HostSettings ReadHostSettings(const Document& doc);
+// After a successful connection the address goes into host entry 0, whatever entry is active.
+void StoreConnectedAddress(Document& doc, std::string_view address);
+
+// What a key press asks the host screen to repaint.
+struct KeyRepaint {
+  Repaint repaint = Repaint::kNothing;
+  int old_row = 0;  // where the cursor stood before the key (for Repaint::kCell)
+  int old_column = 0;
+};
+
+// One host session: the connection steps, the logged traffic in both directions, the keyboard and
+// the TN5250 engine. Everything runs on the caller's thread; received bytes are handed in by
+// whoever reads the link.
+class HostConnection : private SessionListener {
+ public:
+  HostConnection(HostLink& link, SessionLog& log, SessionMessages& messages);
+  ~HostConnection() override;
+
+  // Screen changes, the alarm and keyboard lock changes go on to the view.
+  void SetView(SessionListener* view) { view_ = view; }
+
+  // Connects after the connect dialog was confirmed: checks the address, resets the engine, opens
+  // the link to `TelnetPort` and stores the address in host entry 0. False (with the message
+  // shown) when the session could not be set up.
+  bool Connect(Document& doc, const HostOctets& octets, bool save_log);
+  // Closes everything that is open; safe to call when nothing is.
+  void Disconnect();
+
+  // A chunk received from the host (logged, then handed to the engine).
+  void Received(std::span<const std::uint8_t> bytes);
+  // The host closed the connection: logs the empty receive and shows "Can not establish
+  // connection". The caller then disconnects.
+  void HostClosed();
+  // A receive error: logs the empty receive; the caller then disconnects.
+  void ReceiveFailed();
+
+  // The keyboard, only while connected.
+  std::optional<KeyRepaint> KeyDown(PcKey key);
+  std::optional<KeyRepaint> Character(char32_t c);
+
+  bool connected() const { return connected_; }
+  const Session& session() const { return *session_; }
+  int emulation_type() const { return session_->Config().emulation_type; }
+
+ private:
+  void OnSend(std::span<const std::uint8_t> bytes) override;
+  void OnScreenChanged(const ScreenChange& change) override;
+  void OnAlarm() override;
+  void OnKeyboardLockChanged(bool locked) override;
+
+  KeyRepaint Before() const;
+
+  HostLink& link_;
+  SessionLog& log_;
+  SessionMessages& messages_;
+  SessionListener* view_ = nullptr;
+  std::unique_ptr<Session> session_;
+  PcKeyboard keyboard_;
+  bool connected_ = false;
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_HOST_CONNECTION_H_

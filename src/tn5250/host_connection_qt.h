@@ -1,0 +1,94 @@
+#ifndef VELTRIX_TN5250_HOST_CONNECTION_QT_H_
+#define VELTRIX_TN5250_HOST_CONNECTION_QT_H_
+
+#include <QObject>
+#include <QPointer>
+#include <QTcpSocket>
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "settings/document.h"
+#include "tn5250/host_connection.h"
+#include "tn5250/host_ip.h"
+#include "tn5250/session_log.h"
+
+class QWidget;
+
+namespace veltrix {
+
+// The host session of the program: the connect dialog, a TCP socket on the user interface
+// thread feeding the session as data arrives, and the session log in "Logs" under the working
+// directory. Received data is processed in bounded slices so that the window stays responsive
+// while a host floods it.
+class HostConnectionQt : public QObject, private HostLink, private SessionMessages {
+  Q_OBJECT
+
+ public:
+  // `message_parent` owns the host session's message boxes (the host screen window).
+  explicit HostConnectionQt(QWidget* message_parent = nullptr, QObject* parent = nullptr);
+  ~HostConnectionQt() override;
+
+  // Telnet "Connect...": shows the connect dialog and connects. True when the session is up.
+  bool ConnectToHost(Document& doc);
+  // Telnet "Disconnect": closes everything that is open; safe when nothing is.
+  void DisconnectFromHost();
+
+  HostConnection& connection() { return connection_; }
+  const HostConnection& connection() const { return connection_; }
+  bool connected() const { return connection_.connected(); }
+  const std::filesystem::path& log_directory() const { return log_sink_.directory(); }
+
+  // Runs the connect dialog on the form; true when it was confirmed. Tests replace it.
+  using DialogRunner = std::function<bool(HostIpForm& form, const std::string& active_entry)>;
+  void SetDialogRunner(DialogRunner runner) { run_dialog_ = std::move(runner); }
+  // Shows an error message; tests replace the message box.
+  using ErrorSink = std::function<void(const QString& text)>;
+  void SetErrorSink(ErrorSink sink) { show_error_ = std::move(sink); }
+  void SetLogDirectory(const std::filesystem::path& directory);
+  void SetMessageParent(QWidget* parent) { message_parent_ = parent; }
+
+  // Bytes taken from the socket per slice before the event loop gets its turn again.
+  static constexpr qint64 kSliceBytes = 32 * 1024;
+  // The most the socket buffers ahead of the session; beyond it the host is held back.
+  static constexpr qint64 kReadBufferBytes = 64 * 1024;
+  // One receive takes at most this much, as the terminal's receive buffer does.
+  static constexpr qint64 kReceiveBytes = 1024;
+
+ signals:
+  // The connection ended from the host side (closed or failed): the main window runs its
+  // Disconnect command.
+  void disconnectRequested();
+
+ private:
+  // HostLink
+  bool Open(const std::string& address, std::uint16_t port) override;
+  void Send(std::span<const std::uint8_t> bytes) override;
+  void Close() override;
+  // SessionMessages
+  void ShowError(std::string_view text) override;
+
+  void ReadSlice();
+  void ScheduleSlice();
+  void DrainAll();
+  void OnSocketDisconnected();
+  void OnSocketError(QAbstractSocket::SocketError error);
+  void EndFromHost(bool host_closed);
+
+  QPointer<QWidget> message_parent_;
+  FileLogSink log_sink_;
+  SystemLocalClock clock_;
+  SessionLog log_;
+  HostConnection connection_;
+  HostIpForm form_;
+  QTcpSocket* socket_ = nullptr;
+  DialogRunner run_dialog_;
+  ErrorSink show_error_;
+  bool slice_scheduled_ = false;
+  bool reading_ = false;
+  bool ending_ = false;
+};
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_HOST_CONNECTION_QT_H_

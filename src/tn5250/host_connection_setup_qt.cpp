@@ -1,0 +1,40 @@
+#include "tn5250/host_connection_setup_qt.h"
+
+#include "shell/command_table.h"
+#include "shell/main_window.h"
+#include "tn5250/host_connection_qt.h"
+#include "tn5250/host_ip_dialog.h"
+#include "tn5250/host_screen_widget.h"
+
+namespace veltrix {
+
+HostSessionParts InstallHostSession(MainWindow& window) {
+  HostSessionParts parts;
+  parts.screen = new HostScreenWidget(&window);
+  // The session lives as long as its screen.
+  parts.connection = new HostConnectionQt(parts.screen, parts.screen);
+  parts.screen->SetConnection(&parts.connection->connection());
+  window.SetHostScreenWidget(parts.screen);
+
+  MainWindow* w = &window;
+  auto show_error = [w](const QString& text) {
+    w->prompt().ShowMessage("Error", text.toStdString(), PromptIcon::kExclamation);
+  };
+  parts.connection->SetErrorSink(show_error);
+  parts.connection->SetDialogRunner([w, show_error](HostIpForm& form, const std::string& entry) {
+    HostIpDialog dialog(form, entry, w,
+                        [show_error](QWidget*, const QString& text) { show_error(text); });
+    return dialog.exec() == QDialog::Accepted;
+  });
+
+  HostConnectionQt* connection = parts.connection;
+  SessionHandlers handlers;
+  handlers.connect = [w, connection] { return connection->ConnectToHost(w->document()); };
+  handlers.disconnect = [connection] { connection->DisconnectFromHost(); };
+  window.SetSessionHandlers(std::move(handlers));
+  QObject::connect(connection, &HostConnectionQt::disconnectRequested, w,
+                   [w] { w->ExecuteCommand(kCmdDisconnect); });
+  return parts;
+}
+
+}  // namespace veltrix

@@ -1,0 +1,24 @@
+#ifndef VELTRIX_TN5250_HOST_CONNECTION_SETUP_QT_H_
+#define VELTRIX_TN5250_HOST_CONNECTION_SETUP_QT_H_
+
+namespace veltrix {
+
+class HostConnectionQt;
+class HostScreenWidget;
+class MainWindow;
+
+// The host session's parts inside the main window (owned by the window).
+struct HostSessionParts {
+  HostScreenWidget* screen = nullptr;
+  HostConnectionQt* connection = nullptr;
+};
+
+// Puts the host session into the main window: the host screen (hidden until connected), the
+// Telnet menu's Connect and Disconnect, the window's Disconnect command when the host ends the
+// connection, and the window's message boxes for the session's errors. Capturing is left to the
+// capture store.
+HostSessionParts InstallHostSession(MainWindow& window);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_HOST_CONNECTION_SETUP_QT_H_

@@ -1,0 +1,63 @@
+#include "tn5250/host_ip_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+namespace veltrix {
+
+void ShowErrorBox(QWidget* parent, const QString& text) {
+  QMessageBox::warning(parent, QStringLiteral("Error"), text);
+}
+
+HostIpDialog::HostIpDialog(HostIpForm& form, const std::string& active_entry, QWidget* parent,
+                           ErrorReporter report_error)
+    : QDialog(parent), form_(form), report_error_(std::move(report_error)) {
+  if (!report_error_) report_error_ = ShowErrorBox;
+  setObjectName(QStringLiteral("HostIPDlg"));
+  setWindowTitle(QStringLiteral("Host IP"));
+  form_.Open(active_entry);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(new QLabel(QStringLiteral("Please input Host IP address :"), this));
+  auto* row = new QHBoxLayout;
+  for (int i = 0; i < 4; ++i) {
+    if (i > 0) row->addWidget(new QLabel(QStringLiteral("."), this));
+    auto* edit = new QLineEdit(QString::number(form_.octets()[i]), this);
+    edit->setObjectName(QStringLiteral("octet%1").arg(201 + i));
+    edit->setMaxLength(3);
+    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 12);
+    edit->setAlignment(Qt::AlignRight);
+    connect(edit, &QLineEdit::textChanged, this,
+            [this, i](const QString& text) { form_.EditChanged(i, text.toStdString()); });
+    row->addWidget(edit);
+    edits_[i] = edit;
+  }
+  row->addStretch();
+  layout->addLayout(row);
+  save_log_ = new QCheckBox(QStringLiteral("Save Log"), this);
+  save_log_->setObjectName(QStringLiteral("saveLog301"));
+  save_log_->setChecked(form_.save_log());
+  layout->addWidget(save_log_);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  connect(buttons, &QDialogButtonBox::accepted, this, &HostIpDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &HostIpDialog::reject);
+  layout->addWidget(buttons);
+  edits_[0]->setFocus();
+  edits_[0]->selectAll();
+}
+
+void HostIpDialog::accept() {
+  std::array<std::string, 4> texts;
+  for (int i = 0; i < 4; ++i) texts[i] = edits_[i]->text().toStdString();
+  if (!form_.Confirm(texts, save_log_->isChecked())) {
+    report_error_(this, QString::fromUtf8(kInvalidIpAddressMessage.data(),
+                                          static_cast<int>(kInvalidIpAddressMessage.size())));
+    return;
+  }
+  QDialog::accept();
+}
+
+}  // namespace veltrix

@@ -1,0 +1,44 @@
+#ifndef VELTRIX_TN5250_HOST_IP_DIALOG_H_
+#define VELTRIX_TN5250_HOST_IP_DIALOG_H_
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <array>
+#include <functional>
+#include <string>
+
+#include "tn5250/host_ip.h"
+
+namespace veltrix {
+
+// "Host IP": asks for the host address as four octets and whether to save the session log.
+// The form keeps the octets between openings; the dialog only wires the widgets to it.
+class HostIpDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  // Shows an error message; the default is a message box captioned "Error".
+  using ErrorReporter = std::function<void(QWidget* parent, const QString& text)>;
+
+  HostIpDialog(HostIpForm& form, const std::string& active_entry, QWidget* parent = nullptr,
+               ErrorReporter report_error = {});
+
+  QLineEdit* octet_edit(int index) const { return edits_[index]; }
+  QCheckBox* save_log_box() const { return save_log_; }
+
+  void accept() override;
+
+ private:
+  HostIpForm& form_;
+  ErrorReporter report_error_;
+  std::array<QLineEdit*, 4> edits_{};
+  QCheckBox* save_log_ = nullptr;
+};
+
+// Shows "text" in a modal message box captioned "Error" with the exclamation icon.
+void ShowErrorBox(QWidget* parent, const QString& text);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_TN5250_HOST_IP_DIALOG_H_

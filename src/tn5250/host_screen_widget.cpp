@@ -1,0 +1,218 @@
+#include "tn5250/host_screen_widget.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "tn5250/host_keys_qt.h"
+#include "tn5250/host_screen_text.h"
+
+namespace veltrix {
+
+HostScreenWidget::HostScreenWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("Client"));
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_InputMethodEnabled, false);
+  setAutoFillBackground(false);
+  metrics_ = ComputeCellMetrics(width(), height(), Rows(), Columns());
+  UpdateFont();
+}
+
+HostScreenWidget::~HostScreenWidget() {
+  if (connection_) connection_->SetView(nullptr);
+}
+
+void HostScreenWidget::SetConnection(HostConnection* connection) {
+  if (connection_) connection_->SetView(nullptr);
+  connection_ = connection;
+  if (connection_) connection_->SetView(this);
+  metrics_ = ComputeCellMetrics(width(), height(), Rows(), Columns());
+  UpdateFont();
+  update();
+}
+
+int HostScreenWidget::Rows() const {
+  return connection_ ? connection_->session().Screen().Rows() : kScreenRows;
+}
+
+int HostScreenWidget::Columns() const {
+  return connection_ ? connection_->session().Screen().Columns() : kScreenColumns;
+}
+
+QRect HostScreenWidget::CellRectangle(int row, int column) const {
+  PixelRect r = CellRect(metrics_, row, column);
+  return QRect(r.x, r.y, r.width, r.height);
+}
+
+QString HostScreenWidget::RowText(int row) const {
+  if (!connection_) return {};
+  const PresentationSpace& ps = connection_->session().Screen();
+  if (row < 0 || row >= ps.Rows()) return {};
+  auto chars = ps.CharacterPlane().subspan(static_cast<std::size_t>(row) * kPlaneColumns,
+                                           static_cast<std::size_t>(ps.Columns()));
+  auto attrs = ps.AttributePlane().subspan(static_cast<std::size_t>(row) * kPlaneColumns,
+                                           static_cast<std::size_t>(ps.Columns()));
+  QString text;
+  const int language = connection_->emulation_type();
+  for (const CellGlyph& g : RowGlyphs(language, chars)) {
+    // Cells that are not displayed read as blanks, as they look.
+    char32_t c = (attrs[g.column] & 0x07) == 0x07 ? U' ' : GlyphCharacter(language, g);
+    text += QString::fromUcs4(&c, 1);
+    if (g.width == 2 && c == U' ') text += QLatin1Char(' ');
+  }
+  return text;
+}
+
+void HostScreenWidget::OnScreenChanged(const ScreenChange& change) {
+  if (change.kind == ScreenChange::Kind::kCell) {
+    update(CellRectangle(change.row, change.column));
+    update(CellRectangle(Rows() > 0 ? connection_->session().CursorRow() : 0,
+                         connection_->session().CursorColumn()));
+  } else {
+    // Qt merges these requests: a host flooding the screen costs one paint per event-loop turn.
+    update();
+  }
+}
+
+void HostScreenWidget::OnAlarm() { QApplication::beep(); }
+
+void HostScreenWidget::ApplyRepaint(const KeyRepaint& result) {
+  switch (result.repaint) {
+    case Repaint::kNothing:
+      return;
+    case Repaint::kCaret:
+      break;
+    case Repaint::kCell:
+      update(CellRectangle(result.old_row, result.old_column));
+      break;
+    case Repaint::kWindow:
+      update();
+      return;
+  }
+  // The caret leaves the old cell and appears in the new one.
+  update(CellRectangle(result.old_row, result.old_column));
+  update(CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
+}
+
+bool HostScreenWidget::event(QEvent* event) {
+  // Every key goes to the host while the screen has the focus, shortcut keys included.
+  if (event->type() == QEvent::ShortcutOverride) {
+    event->accept();
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+void HostScreenWidget::keyPressEvent(QKeyEvent* event) {
+  if (!connection_) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  PcKey key = PcKeyFromQt(event->key(), event->modifiers());
+  if (auto result = connection_->KeyDown(key)) ApplyRepaint(*result);
+  // The character of the same key press comes after the key itself, as the terminal expects.
+  const QList<uint> characters = event->text().toUcs4();
+  for (uint c : characters) {
+    if (auto result = connection_->Character(static_cast<char32_t>(c))) ApplyRepaint(*result);
+  }
+  event->accept();
+}
+
+bool HostScreenWidget::focusNextPrevChild(bool) { return false; }  // Tab is a host key
+
+void HostScreenWidget::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  update();
+}
+
+void HostScreenWidget::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  update();
+}
+
+void HostScreenWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  metrics_ = ComputeCellMetrics(width(), height(), Rows(), Columns());
+  UpdateFont();
+  update();
+}
+
+void HostScreenWidget::UpdateFont() {
+  // A fixed-pitch face with wide coverage; characters it lacks (ideographs, Hangul, kana) come
+  // from the system's fallback fonts.
+  font_ = QFont(QStringLiteral("DejaVu Sans Mono"));
+  font_.setStyleHint(QFont::TypeWriter);
+  font_.setFixedPitch(true);
+  font_.setPixelSize(std::max(metrics_.character_height - 2, 8));
+  QFontMetrics fm(font_);
+  int advance = fm.horizontalAdvance(QLatin1Char('M'));
+  if (advance > metrics_.cell_width && advance > 0) {
+    font_.setStretch(std::max(50, metrics_.cell_width * 100 / advance));
+    fm = QFontMetrics(font_);
+  }
+  ascent_ = fm.ascent();
+}
+
+void HostScreenWidget::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.fillRect(event->rect(), Qt::white);
+  if (!connection_) return;
+  painter.setFont(font_);
+  const PresentationSpace& ps = connection_->session().Screen();
+  const int language = connection_->emulation_type();
+  const int rows = ps.Rows();
+  const int columns = ps.Columns();
+  const int cw = metrics_.cell_width;
+  const int rh = metrics_.row_height();
+  const int ch = metrics_.character_height;
+  QFontMetrics fm(font_);
+  const QRect dirty = event->rect();
+
+  for (int r = 0; r < rows; ++r) {
+    const int y = rh * r;
+    if (y > dirty.bottom() || y + rh < dirty.top()) continue;
+    const std::size_t base = static_cast<std::size_t>(r) * kPlaneColumns;
+    auto attrs = ps.AttributePlane().subspan(base, static_cast<std::size_t>(columns));
+    auto chars = ps.CharacterPlane().subspan(base, static_cast<std::size_t>(columns));
+    std::vector<CellGlyph> glyphs = RowGlyphs(language, chars);
+    std::size_t g = 0;
+    for (const PaintRun& run : RowRuns(attrs)) {
+      const int x = cw * run.first_column;
+      const int end_column = run.first_column + run.length;
+      while (g < glyphs.size() && glyphs[g].column < run.first_column) ++g;
+      if (run.hidden()) continue;
+      const QRect run_rect(x, y, run.length * cw, ch + 2);
+      if (!run_rect.intersects(dirty)) continue;
+      if (run.reverse()) painter.fillRect(QRect(x, y, run.length * cw, ch), Qt::black);
+      painter.setPen(run.reverse() ? Qt::white : Qt::black);
+      for (; g < glyphs.size() && glyphs[g].column < end_column; ++g) {
+        const CellGlyph& glyph = glyphs[g];
+        if (glyph.width == 1 && glyph.lead == ' ') continue;
+        char32_t c = GlyphCharacter(language, glyph);
+        QString text = QString::fromUcs4(&c, 1);
+        const int gx = cw * glyph.column;
+        const int span = cw * glyph.width;
+        const int advance = fm.horizontalAdvance(text);
+        painter.drawText(QPointF(gx + (span - advance) / 2.0, y + ascent_ + 1), text);
+      }
+      if (run.underline()) {
+        painter.setPen(Qt::black);
+        painter.drawLine(x, y + ch + 1, x + run.length * cw, y + ch + 1);
+      }
+    }
+  }
+
+  // The caret: a solid block at the cursor, only while the window has the focus.
+  if (hasFocus() && connection_->connected()) {
+    QRect caret(cw * connection_->session().CursorColumn(), rh * connection_->session().CursorRow(),
+                cw, ch);
+    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+    painter.fillRect(caret, Qt::white);
+  }
+  emit painted();
+}
+
+}  // namespace veltrix

@@ -1,0 +1,159 @@
+#include "tn5250/host_connection.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "settings/field_registry.h"
+
+namespace veltrix {
+namespace {
+
+class FakeLink : public HostLink {
+ public:
+  bool Open(const std::string& a, std::uint16_t p) override {
+    ++opens;
+    address = a;
+    port = p;
+    open = can_open;
+    return can_open;
+  }
+  void Send(std::span<const std::uint8_t> bytes) override {
+    sent.insert(sent.end(), bytes.begin(), bytes.end());
+  }
+  void Close() override {
+    ++closes;
+    open = false;
+  }
+
+  bool can_open = true;
+  bool open = false;
+  int opens = 0;
+  int closes = 0;
+  std::string address;
+  std::uint16_t port = 0;
+  std::vector<std::uint8_t> sent;
+};
+
+class FakeMessages : public SessionMessages {
+ public:
+  void ShowError(std::string_view text) override { shown.emplace_back(text); }
+  std::vector<std::string> shown;
+};
+
+class FixedClock : public LocalClock {
+ public:
+  LocalTime Now() const override { return {2026, 11, 23, 1, 2, 3}; }
+};
+
+class TextSink : public LogSink {
+ public:
+  bool Create() override {
+    text.clear();
+    return true;
+  }
+  void Write(std::string_view t) override { text += t; }
+  void Close() override {}
+  std::string text;
+};
+
+class HostConnectionTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    doc = std::make_unique<Document>();
+    SetDefaults(*doc, 1);
+    const FieldDef* entries = FindField("HostIpOrName");
+    const FieldDef* port = FindField("TelnetPort");
+    const FieldDef* active = FindField("ActiveHostIpOrName");
+    if (!entries || !port || !active) GTEST_SKIP() << "host fields not declared";
+    WriteText(doc->record, *entries, "old.host", 0);
+    WriteText(doc->record, *entries, "10.1.2.3", 2);
+    WriteNumber(doc->record, *active, 2);
+    WriteNumber(doc->record, *port, 2323);
+  }
+  std::string Entry(int i) const { return ReadText(doc->record, *FindField("HostIpOrName"), i); }
+
+  std::unique_ptr<Document> doc;
+  FakeLink link;
+  FakeMessages messages;
+  FixedClock clock;
+  TextSink sink;
+  SessionLog log{sink, clock};
+  HostConnection connection{link, log, messages};
+};
+
+TEST_F(HostConnectionTest, ReadsTheActiveEntryAndPort) {
+  HostSettings s = ReadHostSettings(*doc);
+  EXPECT_EQ("10.1.2.3", s.active_entry);
+  EXPECT_EQ(2323, s.port);
+}
+
+TEST_F(HostConnectionTest, ConnectOpensThePortAndStoresTheAddressInEntryZero) {
+  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  EXPECT_TRUE(connection.connected());
+  EXPECT_EQ("127.0.0.1", link.address);
+  EXPECT_EQ(2323, link.port);
+  EXPECT_EQ("127.0.0.1", Entry(0));
+  EXPECT_EQ("10.1.2.3", Entry(2));
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ("Connect:20261123123\r\n", sink.text);
+}
+
+TEST_F(HostConnectionTest, TheNoAddressValueIsRefusedBeforeAnyConnection) {
+  EXPECT_FALSE(connection.Connect(*doc, {255, 255, 255, 255}, true));
+  EXPECT_EQ(0, link.opens);
+  EXPECT_EQ(std::vector<std::string>{"Invalid Host IP given."}, messages.shown);
+  EXPECT_EQ("old.host", Entry(0));
+}
+
+TEST_F(HostConnectionTest, AFailedConnectionShowsItsMessageAndLogsNothing) {
+  link.can_open = false;
+  EXPECT_FALSE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  EXPECT_FALSE(connection.connected());
+  EXPECT_EQ(std::vector<std::string>{"Can not establish connection"}, messages.shown);
+  EXPECT_EQ("", sink.text);
+  EXPECT_EQ("old.host", Entry(0));
+}
+
+TEST_F(HostConnectionTest, TrafficIsLoggedAndAnsweredThroughTheLink) {
+  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  const std::uint8_t do_terminal_type[] = {0xFF, 0xFD, 0x18};
+  connection.Received(do_terminal_type);
+  EXPECT_EQ((std::vector<std::uint8_t>{0xFF, 0xFB, 0x18}), link.sent);
+  connection.HostClosed();
+  EXPECT_EQ(std::vector<std::string>{"Can not establish connection"}, messages.shown);
+  connection.Disconnect();
+  EXPECT_EQ(1, link.closes);
+  EXPECT_EQ(
+      "Connect:20261123123\r\n"
+      "Recv:20261123123\r\n"
+      "FF FD 18 \r\n"
+      "Send:20261123123\r\n"
+      "FF FB 18 \r\n"
+      "Recv:20261123123\r\n"
+      "\r\n"
+      "Close:20261123123\r\n",
+      sink.text);
+  // A second Disconnect finds nothing open.
+  connection.Disconnect();
+  EXPECT_EQ(1, link.closes);
+}
+
+TEST_F(HostConnectionTest, KeysDoNothingWhileNotConnected) {
+  EXPECT_FALSE(connection.KeyDown(PcKey::kEnter).has_value());
+  EXPECT_FALSE(connection.Character(U'a').has_value());
+  EXPECT_TRUE(link.sent.empty());
+}
+
+TEST_F(HostConnectionTest, WithoutSaveLogNothingIsWritten) {
+  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, false));
+  const std::uint8_t bytes[] = {0xFF, 0xFD, 0x18};
+  connection.Received(bytes);
+  connection.Disconnect();
+  EXPECT_EQ("", sink.text);
+}
+
+}  // namespace
+}  // namespace veltrix

@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+#include "settings/emulation/function_keys.h"
+#include "settings/reader/advanced_options.h"
+#include "settings/reader/reader_record_fields.h"
+#include "settings/reader/reader_settings.h"
+#include "settings/reader/rfid_options.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument(int product = 1) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, product);
+  return doc;
+}
+
+// ---- RFID reader -------------------------------------------------------------------------------
+
+TEST(RfidOptions, OpenShowsTheDefaults) {
+  auto doc = NewDocument();
+  const RfidState state = OpenRfidOptions(*doc);
+  EXPECT_TRUE(state.read_uid);
+  EXPECT_FALSE(state.read_data);
+  EXPECT_EQ(0, state.start);
+  EXPECT_EQ(128, state.max_len);
+  EXPECT_EQ(4, state.delay);
+  EXPECT_EQ(',', state.delimiter);
+  EXPECT_EQ(1, state.working_mode);
+  EXPECT_EQ(1, state.reading_mode);
+  EXPECT_FALSE(RfidControlsEnabled(state).start_and_max_len);
+  EXPECT_FALSE(RfidControlsEnabled(state).delimiter);
+}
+
+TEST(RfidOptions, OkStoresSixteenBitValuesHighByteFirstAsCorrected) {
+  auto doc = NewDocument();
+  RfidState state = OpenRfidOptions(*doc);
+  state.read_data = true;
+  state.use_delimiter = true;
+  state.start = 300;
+  state.max_len = 70000;  // outside 1-65279: 0
+  state.delay = 0;        // becomes 1
+  state.delimiter = 13;
+  state.working_mode = 0;
+  state.reading_mode = 0;
+  state.control = 1;
+  ApplyRfidOptions(*doc, state);
+  const std::vector<std::uint8_t> want{0x01, 0x01, 0x01, 0x01, 0x2C, 0x00, 0x00,
+                                       0x0D, 0x00, 0x01, 0x00, 0x00, 0x01};
+  EXPECT_EQ(want,
+            std::vector<std::uint8_t>(doc->record.begin() + 58759, doc->record.begin() + 58772));
+  EXPECT_TRUE(RfidControlsEnabled(state).start_and_max_len);
+  EXPECT_TRUE(RfidControlsEnabled(state).delimiter);
+  EXPECT_EQ(state.start, OpenRfidOptions(*doc).start);
+}
+
+TEST(RfidOptions, SwitchKeyIsRefusedWhileAnotherRoleHoldsIt) {
+  auto doc = NewDocument();
+  WriteNumber(doc->record, kScanSwitchKeyName, 0);
+  ClaimFunctionKey(*doc, 3, kRoleNameKey);
+
+  EXPECT_EQ(KeyComboResult::kRefused, ChooseScanSwitchKey(*doc, 3));
+  EXPECT_EQ(0u, ReadNumber(doc->record, kScanSwitchKeyName));
+
+  EXPECT_EQ(KeyComboResult::kStored, ChooseScanSwitchKey(*doc, 4));
+  EXPECT_EQ(4u, ReadNumber(doc->record, kScanSwitchKeyName));
+  EXPECT_TRUE(FunctionKeyHasRole(*doc, 4));
+
+  EXPECT_EQ(KeyComboResult::kStored, ChooseScanSwitchKey(*doc, 4));  // the same key again
+
+  EXPECT_EQ(KeyComboResult::kStored, ChooseScanSwitchKey(*doc, 0));  // "Disable" releases it
+  EXPECT_EQ(0u, ReadNumber(doc->record, kScanSwitchKeyName));
+  EXPECT_FALSE(FunctionKeyHasRole(*doc, 4));
+  EXPECT_TRUE(FunctionKeyHasRole(*doc, 3));
+
+  EXPECT_EQ(KeyComboResult::kRefused, ChooseScanSwitchKey(*doc, 11));
+}
+
+// ---- advanced barcode settings -----------------------------------------------------------------
+
+TEST(AdvancedSettings, OkWithoutChangesKeepsTheRecord) {
+  for (int product : {1, 2, 3}) {
+    auto doc = NewDocument(product);
+    const auto before = doc->record;
+    ApplyAdvancedSettings(*doc, OpenAdvancedSettings(*doc));
+    EXPECT_EQ(before, doc->record) << product;
+  }
+}
+
+TEST(AdvancedSettings, OpeningCorrectsStartAndMaximum) {
+  auto doc = NewDocument();
+  struct Case {
+    int start, maximum, shown_start, shown_maximum;
+  };
+  for (const Case& c : {Case{0, 0, 1, 50}, Case{7, 51, 7, 50}, Case{3, 20, 3, 20}}) {
+    WriteNumber(doc->record, kStartPosition, c.start);
+    WriteNumber(doc->record, kMaximumLength, c.maximum);
+    const AdvancedState state = OpenAdvancedSettings(*doc);
+    EXPECT_EQ(c.shown_start, state.start_position) << c.start;
+    EXPECT_EQ(c.shown_maximum, state.maximum_length) << c.maximum;
+  }
+}
+
+TEST(AdvancedSettings, OkLimitsTheStartToTheMaximum) {
+  struct Case {
+    int start, maximum, stored_start, stored_maximum;
+  };
+  for (const Case& c :
+       {Case{5, 3, 3, 3}, Case{0, 0, 1, 1}, Case{9, 60, 9, 50}, Case{4, 20, 4, 20}}) {
+    auto doc = NewDocument();
+    AdvancedState state = OpenAdvancedSettings(*doc);
+    state.start_position = c.start;
+    state.maximum_length = c.maximum;
+    ApplyAdvancedSettings(*doc, state);
+    EXPECT_EQ(c.stored_start, doc->record[kStartPosition.offset]) << c.start << "/" << c.maximum;
+    EXPECT_EQ(c.stored_maximum, doc->record[kMaximumLength.offset]) << c.start << "/" << c.maximum;
+  }
+}
+
+TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
+  auto doc = NewDocument();
+  std::fill_n(doc->record.begin() + kLeadingCode.offset, 10, 0xEE);
+  AdvancedState state = OpenAdvancedSettings(*doc);
+  state.check_leading_code = true;
+  state.leading_code = "ABCDEFGHIJKL";
+  state.add_prefix_code = true;
+  state.prefix_code = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+  state.suffix_code = {13, 0, 65};
+  state.scan_control = 1;
+  ApplyAdvancedSettings(*doc, state);
+
+  const std::vector<std::uint8_t> leading(doc->record.begin() + 3737, doc->record.begin() + 3747);
+  EXPECT_EQ((std::vector<std::uint8_t>{'A', 'B', 'C', 'D', 'E', 'F', 'G', 'H', 'I', 0}), leading);
+  const std::vector<std::uint8_t> prefix(doc->record.begin() + 3714, doc->record.begin() + 3724);
+  EXPECT_EQ((std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8, 9, 0}), prefix);
+  const std::vector<std::uint8_t> suffix(doc->record.begin() + 3725, doc->record.begin() + 3735);
+  EXPECT_EQ((std::vector<std::uint8_t>{13, 0, 0, 0, 0, 0, 0, 0, 0, 0}), suffix);
+  EXPECT_EQ(1, doc->record[kScanControl.offset]);
+
+  const AdvancedState reopened = OpenAdvancedSettings(*doc);
+  EXPECT_EQ("ABCDEFGHI", reopened.leading_code);
+  EXPECT_EQ((std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8, 9}), reopened.prefix_code);
+  EXPECT_EQ((std::vector<std::uint8_t>{13}), reopened.suffix_code);
+}
+
+TEST(AdvancedSettings, Box214AndVibratorAreStoredOnlyForProduct3) {
+  for (int product : {1, 2, 3}) {
+    auto doc = NewDocument(product);
+    doc->record[kDataBox214.offset] = 7;
+    doc->record[kVibratorTime.offset] = 8;
+    AdvancedState state = OpenAdvancedSettings(*doc);
+    state.data_box214 = 20;
+    state.vibrator_time = 255;  // outside 0-254: 0
+    state.alarm_beeper_sequence[9] = 0x11;
+    ApplyAdvancedSettings(*doc, state);
+    EXPECT_EQ(product == 3 ? 20 : 7, doc->record[kDataBox214.offset]) << product;
+    EXPECT_EQ(product == 3 ? 0 : 8, doc->record[kVibratorTime.offset]) << product;
+    EXPECT_EQ(0x11, doc->record[kAlarmBeeperSequence.offset + 9]) << product;
+    EXPECT_EQ(product == 3, AdvancedControlsEnabled(state, product).box214_and_vibrator);
+  }
+}
+
+TEST(AdvancedSettings, EnablingFollowsTheCheckBoxes) {
+  AdvancedState state;
+  AdvancedEnabling enabled = AdvancedControlsEnabled(state, 1);
+  EXPECT_FALSE(enabled.leading_code || enabled.lengths || enabled.prefix_code ||
+               enabled.suffix_code);
+  state.check_leading_code = state.read_partial_code = true;
+  state.add_prefix_code = state.add_suffix_code = true;
+  enabled = AdvancedControlsEnabled(state, 1);
+  EXPECT_TRUE(enabled.leading_code && enabled.lengths && enabled.prefix_code &&
+              enabled.suffix_code);
+}
+
+}  // namespace
+}  // namespace veltrix

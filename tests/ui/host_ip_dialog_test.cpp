@@ -1,0 +1,82 @@
+#include "tn5250/host_ip_dialog.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QtTest>
+
+namespace veltrix {
+
+class HostIpDialogTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void opensFromTheActiveEntryUnchecked();
+  void editsUpdateTheOctetsAsTyped();
+  void badOctetShowsTheMessageAndStaysOpen_data();
+  void badOctetShowsTheMessageAndStaysOpen();
+  void okTakesTheSaveLogBox();
+};
+
+void HostIpDialogTest::opensFromTheActiveEntryUnchecked() {
+  HostIpForm form;
+  form.Open("1.1.1.1");
+  form.Confirm({"1", "1", "1", "1"}, true);
+  HostIpDialog dialog(form, "192.168.7");
+  QCOMPARE(dialog.windowTitle(), QStringLiteral("Host IP"));
+  QCOMPARE(dialog.octet_edit(0)->text(), QStringLiteral("192"));
+  QCOMPARE(dialog.octet_edit(1)->text(), QStringLiteral("168"));
+  QCOMPARE(dialog.octet_edit(2)->text(), QStringLiteral("7"));
+  // The fourth octet keeps its value from the last time.
+  QCOMPARE(dialog.octet_edit(3)->text(), QStringLiteral("1"));
+  QVERIFY(!dialog.save_log_box()->isChecked());
+  QCOMPARE(dialog.save_log_box()->text(), QStringLiteral("Save Log"));
+}
+
+void HostIpDialogTest::editsUpdateTheOctetsAsTyped() {
+  HostIpForm form;
+  HostIpDialog dialog(form, "10.0.0.1");
+  dialog.octet_edit(3)->clear();
+  QTest::keyClicks(dialog.octet_edit(3), "42");
+  QCOMPARE(form.octets()[3], 42u);
+  dialog.octet_edit(2)->setText("999");
+  QCOMPARE(form.octets()[2], 0u);
+}
+
+void HostIpDialogTest::badOctetShowsTheMessageAndStaysOpen_data() {
+  QTest::addColumn<int>("index");
+  QTest::addColumn<QString>("text");
+  QTest::newRow("above 255") << 0 << "256";
+  QTest::newRow("empty") << 1 << "";
+  QTest::newRow("letters") << 3 << "ab";
+}
+
+void HostIpDialogTest::badOctetShowsTheMessageAndStaysOpen() {
+  QFETCH(int, index);
+  QFETCH(QString, text);
+  HostIpForm form;
+  QStringList shown;
+  HostIpDialog dialog(form, "127.0.0.1", nullptr,
+                      [&shown](QWidget*, const QString& message) { shown << message; });
+  dialog.show();
+  dialog.octet_edit(index)->setText(text);
+  dialog.accept();
+  QCOMPARE(shown, QStringList{QStringLiteral("Invalid IP Address!")});
+  QVERIFY(dialog.isVisible());
+  QCOMPARE(dialog.result(), 0);
+}
+
+void HostIpDialogTest::okTakesTheSaveLogBox() {
+  HostIpForm form;
+  HostIpDialog dialog(form, "127.0.0.1");
+  dialog.show();
+  dialog.save_log_box()->setChecked(true);
+  dialog.accept();
+  QCOMPARE(dialog.result(), int(QDialog::Accepted));
+  QVERIFY(form.save_log());
+  QCOMPARE(form.octets(), (HostOctets{127, 0, 0, 1}));
+}
+
+}  // namespace veltrix
+
+QTEST_MAIN(veltrix::HostIpDialogTest)
+#include "host_ip_dialog_test.moc"

@@ -1,0 +1,108 @@
+#include <QAction>
+#include <QtTest>
+#include <memory>
+
+#include "demo_host/demo_host_server.h"
+#include "settings/field_registry.h"
+#include "shell/command_table.h"
+#include "shell/fake_ports.h"
+#include "shell/main_window.h"
+#include "tn5250/host_connection_qt.h"
+#include "tn5250/host_connection_setup_qt.h"
+#include "tn5250/host_screen_widget.h"
+
+namespace veltrix {
+
+// The host session inside the main window: the Telnet commands, the host screen taking the tree's
+// place, and the host ending the connection.
+class HostMainWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup();
+  void connectShowsTheHostScreenAndDisconnectTheTree();
+  void hostClosingRunsTheDisconnectCommand();
+  void cancelledDialogChangesNothing();
+
+ private:
+  bool Enabled(int command) const { return window_->action(command)->isEnabled(); }
+  void PrepareDialog(bool confirm) {
+    parts_.connection->SetDialogRunner([confirm](HostIpForm& form, const std::string& entry) {
+      form.Open(entry);
+      return confirm && form.Confirm({"127", "0", "0", "1"}, false);
+    });
+  }
+
+  FakeUserPrompt prompt_;
+  FakeFileChooser chooser_;
+  std::unique_ptr<demo_host::DemoHostServer> server_;
+  std::unique_ptr<MainWindow> window_;
+  HostSessionParts parts_;
+};
+
+void HostMainWindowTest::init() {
+  prompt_.shown.clear();
+  server_ = std::make_unique<demo_host::DemoHostServer>();
+  QVERIFY(server_->Listen(0));
+  window_ = std::make_unique<MainWindow>(MainWindow::Ports{&prompt_, &chooser_},
+                                         SettingsPageRegistry::Installed());
+  parts_ = InstallHostSession(*window_);
+  WriteNumber(window_->document().record, *FindField("TelnetPort"), server_->port());
+  window_->show();
+}
+
+void HostMainWindowTest::cleanup() {
+  window_.reset();
+  server_.reset();
+}
+
+void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
+  QVERIFY(Enabled(kCmdConnect));
+  QVERIFY(!Enabled(kCmdDisconnect));
+  PrepareDialog(true);
+  window_->ExecuteCommand(kCmdConnect);
+  QVERIFY(parts_.connection->connected());
+  QVERIFY(parts_.screen->isVisible());
+  QVERIFY(!Enabled(kCmdConnect));
+  QVERIFY(Enabled(kCmdDisconnect));
+  QVERIFY(Enabled(kCmdStartCapture));
+  QVERIFY(!Enabled(kCmdCapture));
+  QTRY_VERIFY(parts_.screen->RowText(0).contains(QStringLiteral("Sign On")));
+
+  window_->ExecuteCommand(kCmdDisconnect);
+  QVERIFY(!parts_.connection->connected());
+  QVERIFY(!parts_.screen->isVisible());
+  QVERIFY(Enabled(kCmdConnect));
+  QVERIFY(!Enabled(kCmdDisconnect));
+  QVERIFY(!Enabled(kCmdStartCapture));
+}
+
+void HostMainWindowTest::hostClosingRunsTheDisconnectCommand() {
+  PrepareDialog(true);
+  window_->ExecuteCommand(kCmdConnect);
+  QTRY_VERIFY(parts_.screen->RowText(0).contains(QStringLiteral("Sign On")));
+  QTRY_VERIFY(!parts_.connection->connection().session().KeyboardLocked());
+  QTest::keyClick(parts_.screen, Qt::Key_F3);
+  QTRY_VERIFY(Enabled(kCmdConnect));
+  QVERIFY(!parts_.screen->isVisible());
+  QVERIFY(!prompt_.shown.empty());
+  QCOMPARE(QString::fromStdString(prompt_.shown.front().caption), QStringLiteral("Error"));
+  QCOMPARE(QString::fromStdString(prompt_.shown.front().text),
+           QStringLiteral("Can not establish connection"));
+}
+
+void HostMainWindowTest::cancelledDialogChangesNothing() {
+  PrepareDialog(false);
+  window_->ExecuteCommand(kCmdConnect);
+  QVERIFY(!parts_.connection->connected());
+  QVERIFY(Enabled(kCmdConnect));
+  QVERIFY(!parts_.screen->isVisible());
+  QCOMPARE(server_->connectionCount(), 0);
+  QVERIFY(prompt_.shown.empty());
+}
+
+}  // namespace veltrix
+
+QTEST_MAIN(veltrix::HostMainWindowTest)
+#include "host_main_window_test.moc"

@@ -1,0 +1,344 @@
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <memory>
+
+#include "demo_host/demo_host_server.h"
+#include "demo_host/outbound_record.h"
+#include "settings/document.h"
+#include "settings/field_registry.h"
+#include "tn5250/host_connection_qt.h"
+#include "tn5250/host_screen_widget.h"
+
+namespace veltrix {
+
+namespace {
+
+// Resident memory of this process in KB.
+long ResidentKb() {
+  QFile statm(QStringLiteral("/proc/self/statm"));
+  if (!statm.open(QIODevice::ReadOnly)) return 0;
+  const QList<QByteArray> parts = statm.readAll().split(' ');
+  return parts.size() > 1 ? parts[1].toLong() * 4 : 0;
+}
+
+// The host as the log saw it: the data lines after each "Send:" joined.
+QByteArray SentBytesInLog(const QStringList& lines) {
+  QByteArray bytes;
+  for (int i = 0; i + 1 < lines.size(); ++i) {
+    if (!lines[i].startsWith(QStringLiteral("Send:"))) continue;
+    bytes += QByteArray::fromHex(lines[i + 1].toLatin1());
+  }
+  return bytes;
+}
+
+}  // namespace
+
+class HostSessionTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup();
+  void signOnAndMoveBetweenScreens();
+  void errorLineIsResetWithEscape();
+  void hostClosingEndsTheSession();
+  void userDisconnectClosesTheHostSide();
+  void sessionLogRecordsTheTrafficLineByLine();
+  void noLogWithoutSaveLog();
+  void refusedConnectionShowsItsMessage();
+  void floodKeepsTheWindowResponsive();
+
+ private:
+  bool Connect(bool save_log, quint16 port = 0);
+  QString Row(int row) const { return screen_->RowText(row); }
+  bool ScreenShows(const QString& text) const {
+    for (int r = 0; r < 24; ++r) {
+      if (Row(r).contains(text)) return true;
+    }
+    return false;
+  }
+  void Type(const QString& text) { QTest::keyClicks(screen_.get(), text); }
+  void Press(Qt::Key key, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+    QTest::keyClick(screen_.get(), key, mods);
+  }
+  QStringList LogLines() const;
+
+  std::unique_ptr<demo_host::DemoHostServer> server_;
+  std::unique_ptr<Document> doc_;
+  std::unique_ptr<HostScreenWidget> screen_;
+  std::unique_ptr<HostConnectionQt> host_;
+  std::unique_ptr<QTemporaryDir> dir_;
+  QStringList errors_;
+  int disconnect_requests_ = 0;
+};
+
+void HostSessionTest::init() {
+  server_ = std::make_unique<demo_host::DemoHostServer>();
+  QVERIFY2(server_->Listen(0), qPrintable(server_->error()));
+  doc_ = std::make_unique<Document>();
+  SetDefaults(*doc_, 1);
+  dir_ = std::make_unique<QTemporaryDir>();
+  screen_ = std::make_unique<HostScreenWidget>();
+  screen_->resize(800, 600);
+  host_ = std::make_unique<HostConnectionQt>(screen_.get());
+  host_->SetLogDirectory(std::filesystem::path(dir_->path().toStdString()) / "Logs");
+  host_->SetErrorSink([this](const QString& text) { errors_ << text; });
+  screen_->SetConnection(&host_->connection());
+  errors_.clear();
+  disconnect_requests_ = 0;
+  // What the main window does on its Disconnect command.
+  connect(host_.get(), &HostConnectionQt::disconnectRequested, this, [this] {
+    ++disconnect_requests_;
+    host_->DisconnectFromHost();
+  });
+}
+
+void HostSessionTest::cleanup() {
+  host_->DisconnectFromHost();
+  screen_->SetConnection(nullptr);
+  host_.reset();
+  screen_.reset();
+  server_.reset();
+}
+
+bool HostSessionTest::Connect(bool save_log, quint16 port) {
+  const FieldDef* telnet_port = FindField("TelnetPort");
+  if (!telnet_port) return false;
+  WriteNumber(doc_->record, *telnet_port, port ? port : server_->port());
+  host_->SetDialogRunner([save_log](HostIpForm& form, const std::string& entry) {
+    form.Open(entry);
+    return form.Confirm({"127", "0", "0", "1"}, save_log);
+  });
+  return host_->ConnectToHost(*doc_);
+}
+
+QStringList HostSessionTest::LogLines() const {
+  QFile file(dir_->filePath(QStringLiteral("Logs/Quarvel-TN.log")));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QString text = QString::fromLatin1(file.readAll());
+  if (!text.endsWith(QStringLiteral("\r\n"))) return {QStringLiteral("<no final CR LF>")};
+  text.chop(2);
+  return text.split(QStringLiteral("\r\n"));
+}
+
+void HostSessionTest::signOnAndMoveBetweenScreens() {
+  QVERIFY(Connect(false));
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  QCOMPARE(QString::fromStdString(ReadText(doc_->record, *FindField("HostIpOrName"), 0)),
+           QStringLiteral("127.0.0.1"));
+  // The cursor waits in the user field (row 6, column 53 counted from 1).
+  QTRY_COMPARE(host_->connection().session().CursorRow(), 5);
+  QCOMPARE(host_->connection().session().CursorColumn(), 52);
+
+  Type(QStringLiteral("alice"));
+  Press(Qt::Key_Tab);
+  Type(QStringLiteral("secret"));
+  // The password field does not show what is typed.
+  QVERIFY(!ScreenShows(QStringLiteral("secret")));
+  Press(Qt::Key_Return);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Main Menu")));
+  QVERIFY(ScreenShows(QStringLiteral("Signed on as ALICE")));
+  // The host got the user field in upper case (EBCDIC "ALICE") with the Enter AID.
+  QVERIFY(!server_->receivedRecords().isEmpty());
+  QVERIFY(server_->receivedRecords().last().contains(QByteArray("\xC1\xD3\xC9\xC3\xC5")));
+  QVERIFY(server_->receivedRecords().last().contains('\xF1'));
+
+  Type(QStringLiteral("1"));
+  Press(Qt::Key_Enter);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("ITEM0001")));
+  Press(Qt::Key_PageDown);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("ITEM0011")));
+  QVERIFY(!ScreenShows(QStringLiteral("ITEM0001 ")));
+  Press(Qt::Key_PageUp);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("ITEM0001")));
+  Press(Qt::Key_F3);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Main Menu")));
+  QVERIFY(errors_.isEmpty());
+}
+
+void HostSessionTest::errorLineIsResetWithEscape() {
+  QVERIFY(Connect(false));
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  QTRY_VERIFY(!host_->connection().session().KeyboardLocked());
+  const QString last_row = Row(23);
+  // Enter without a user name: the host answers with an error on the last row.
+  Press(Qt::Key_Return);
+  QTRY_VERIFY(Row(23).contains(QStringLiteral("Type a user name")));
+  QVERIFY(host_->connection().session().KeyboardLocked());
+  const int records = server_->receivedRecords().size();
+  // Typing while locked does nothing.
+  Type(QStringLiteral("x"));
+  QCOMPARE(Row(5).mid(52, 1), QStringLiteral(" "));
+  Press(Qt::Key_Escape);
+  QVERIFY(!host_->connection().session().KeyboardLocked());
+  QCOMPARE(Row(23), last_row);
+  Type(QStringLiteral("bob"));
+  QVERIFY(Row(5).contains(QStringLiteral("BOB")));
+  Press(Qt::Key_Return);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Signed on as BOB")));
+  QCOMPARE(server_->receivedRecords().size(), records + 1);
+}
+
+void HostSessionTest::hostClosingEndsTheSession() {
+  QVERIFY(Connect(false));
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  QTRY_VERIFY(!host_->connection().session().KeyboardLocked());
+  // F3 on the sign-on screen makes the host close the connection.
+  Press(Qt::Key_F3);
+  QTRY_COMPARE(disconnect_requests_, 1);
+  QCOMPARE(errors_, QStringList{QStringLiteral("Can not establish connection")});
+  QVERIFY(!host_->connected());
+  // Keys after the end go nowhere.
+  Press(Qt::Key_Return);
+  QCOMPARE(disconnect_requests_, 1);
+}
+
+void HostSessionTest::userDisconnectClosesTheHostSide() {
+  QSignalSpy gone(server_.get(), &demo_host::DemoHostServer::stationDisconnected);
+  QVERIFY(Connect(false));
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  host_->DisconnectFromHost();
+  QVERIFY(!host_->connected());
+  QVERIFY(gone.wait(5000) || gone.count() == 1);
+  QCOMPARE(disconnect_requests_, 0);
+  QVERIFY(errors_.isEmpty());
+  // Disconnecting again is harmless, and a new connection works.
+  host_->DisconnectFromHost();
+  QVERIFY(Connect(false));
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  QCOMPARE(server_->connectionCount(), 2);
+}
+
+void HostSessionTest::sessionLogRecordsTheTrafficLineByLine() {
+  QVERIFY(Connect(true));
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  QTRY_VERIFY(!host_->connection().session().KeyboardLocked());
+  Type(QStringLiteral("carol"));
+  Press(Qt::Key_Return);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Main Menu")));
+  Press(Qt::Key_F3);
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  QTRY_VERIFY(!host_->connection().session().KeyboardLocked());
+  Press(Qt::Key_F3);
+  QTRY_COMPARE(disconnect_requests_, 1);
+
+  const QStringList lines = LogLines();
+  QVERIFY2(lines.size() > 6, qPrintable(lines.join('|')));
+  const QRegularExpression stamp(QStringLiteral("^(Connect|Send|Recv|Close):\\d{9,14}$"));
+  const QRegularExpression data(QStringLiteral("^([0-9A-F]{2} )*$"));
+  QVERIFY(lines.first().startsWith(QStringLiteral("Connect:")));
+  QVERIFY(stamp.match(lines.first()).hasMatch());
+  // Then pairs of a header and a data line, and the close line.
+  for (int i = 1; i + 1 < lines.size(); i += 2) {
+    QVERIFY2(stamp.match(lines[i]).hasMatch(), qPrintable(lines[i]));
+    QVERIFY2(lines[i].startsWith(QStringLiteral("Send:")) ||
+                 lines[i].startsWith(QStringLiteral("Recv:")),
+             qPrintable(lines[i]));
+    QVERIFY2(data.match(lines[i + 1]).hasMatch(), qPrintable(lines[i + 1]));
+  }
+  // The host opens with DO NEW-ENVIRON; the first answer is WILL NEW-ENVIRON.
+  QCOMPARE(lines[1].left(5), QStringLiteral("Recv:"));
+  QVERIFY(lines[2].startsWith(QStringLiteral("FF FD 27 ")));
+  QCOMPARE(lines[3].left(5), QStringLiteral("Send:"));
+  QCOMPARE(lines[4], QStringLiteral("FF FB 27 "));
+  // The host's close: a receive header with an empty line, then the close line.
+  QCOMPARE(lines.size() % 2, 0);
+  QVERIFY(lines[lines.size() - 3].startsWith(QStringLiteral("Recv:")));
+  QCOMPARE(lines[lines.size() - 2], QString());
+  QVERIFY(lines.last().startsWith(QStringLiteral("Close:")));
+  // Everything the host received is in the log's send lines.
+  QCOMPARE(SentBytesInLog(lines), server_->receivedBytes());
+}
+
+void HostSessionTest::noLogWithoutSaveLog() {
+  QVERIFY(Connect(false));
+  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
+  host_->DisconnectFromHost();
+  QVERIFY(!QFile::exists(dir_->filePath(QStringLiteral("Logs/Quarvel-TN.log"))));
+}
+
+void HostSessionTest::refusedConnectionShowsItsMessage() {
+  // A port that nobody listens on: take one and close it again.
+  QTcpServer probe;
+  QVERIFY(probe.listen(QHostAddress::LocalHost, 0));
+  const quint16 port = probe.serverPort();
+  probe.close();
+  QVERIFY(!Connect(true, port));
+  QCOMPARE(errors_, QStringList{QStringLiteral("Can not establish connection")});
+  QVERIFY(!host_->connected());
+  QVERIFY(!QFile::exists(dir_->filePath(QStringLiteral("Logs/Quarvel-TN.log"))));
+}
+
+void HostSessionTest::floodKeepsTheWindowResponsive() {
+  // A host of its own that writes screen after screen as fast as loopback takes them.
+  QTcpServer flood_host;
+  QVERIFY(flood_host.listen(QHostAddress::LocalHost, 0));
+  const qint64 total = qEnvironmentVariableIntValue("VELTRIX_FLOOD_MB") > 0
+                           ? qint64(qEnvironmentVariableIntValue("VELTRIX_FLOOD_MB")) << 20
+                           : qint64(8) << 20;
+  QByteArray screen_bytes;
+  for (int i = 0; i < 20; ++i) {
+    demo_host::OutboundRecord r;
+    r.ClearUnit().WriteToDisplay(0x00, 0x08);
+    for (int row = 1; row <= 24; ++row) {
+      r.TextAt(row, 1, "Flooding the host screen, line " + std::to_string(row) + " of 24.",
+               row % 3 == 0 ? 0x24 : 0x20);
+    }
+    const std::vector<std::uint8_t> framed = demo_host::FrameRecord(r.Finish());
+    screen_bytes.append(reinterpret_cast<const char*>(framed.data()), qsizetype(framed.size()));
+  }
+  qint64 written = 0;
+  QTcpSocket* peer = nullptr;
+  auto feed = [&] {
+    while (peer && written < total && peer->bytesToWrite() < (1 << 20)) {
+      peer->write(screen_bytes);
+      written += screen_bytes.size();
+    }
+  };
+  connect(&flood_host, &QTcpServer::newConnection, this, [&] {
+    peer = flood_host.nextPendingConnection();
+    connect(peer, &QTcpSocket::bytesWritten, this, feed);
+    feed();
+  });
+
+  screen_->show();
+  QVERIFY(Connect(false, flood_host.serverPort()));
+  const long memory_before = ResidentKb();
+  QElapsedTimer clock;
+  clock.start();
+  qint64 last_tick = 0;
+  qint64 max_gap = 0;
+  QTimer ticker;
+  ticker.setInterval(5);
+  connect(&ticker, &QTimer::timeout, this, [&] {
+    const qint64 now = clock.elapsed();
+    max_gap = std::max(max_gap, now - last_tick);
+    last_tick = now;
+  });
+  int paints = 0;
+  connect(screen_.get(), &HostScreenWidget::painted, this, [&] { ++paints; });
+  ticker.start();
+  QTRY_VERIFY_WITH_TIMEOUT(written >= total && peer && peer->bytesToWrite() == 0 &&
+                               ScreenShows(QStringLiteral("line 24 of 24")),
+                           120000);
+  ticker.stop();
+  const long growth = ResidentKb() - memory_before;
+  qInfo("flood: %lld MB in %lld ms, longest event-loop gap %lld ms, %d paints, memory %+ld KB",
+        total >> 20, clock.elapsed(), max_gap, paints, growth);
+  QVERIFY(host_->connected());
+  QVERIFY2(max_gap < 1000, qPrintable(QString::number(max_gap)));
+  QVERIFY(paints > 1);
+  QVERIFY2(growth < 64 * 1024, qPrintable(QString::number(growth)));
+  delete peer;
+}
+
+}  // namespace veltrix
+
+QTEST_MAIN(veltrix::HostSessionTest)
+#include "host_session_test.moc"
