@@ -85,28 +85,38 @@ void DataStreamInterpreter::ProcessHostBytes(std::span<const std::uint8_t> bytes
 // the input. Gives the number of bytes taken (0: leave the byte to ProcessHostByte). The
 // effect is the same as feeding the bytes one at a time.
 std::size_t DataStreamInterpreter::FastData(const std::uint8_t* p, const std::uint8_t* end) {
-  const std::size_t left = static_cast<std::size_t>(record_length_ - consumed_);
-  const std::size_t available = std::min(left, static_cast<std::size_t>(end - p));
-  std::size_t taken = host_.ps.WriteRun(p, p + available, kIsPlain, display_);
-  if (taken > 0) {
-    host_.MarkRepaint();
-  } else {
+  PresentationSpace& ps = host_.ps;
+  const std::uint8_t* const start = p;
+  const std::uint8_t* const stop =
+      p + std::min(static_cast<std::size_t>(record_length_ - consumed_),
+                   static_cast<std::size_t>(end - p));
+  bool wrote = false;
+  while (p < stop) {
     const std::uint8_t b = *p;
-    if (b >= 0x20 && b <= 0x3F) {
-      DisplayDataByte(b);
-      taken = 1;
+    if (kIsPlain[b]) {
+      p += ps.WriteRun(p, stop, kIsPlain, display_);
+      wrote = true;
+    } else if (b >= 0x20 && b <= 0x3F) {
+      // An attribute byte: an attribute cell, then the new current attribute.
+      ps.SetCurrentAttribute(0);
+      ps.WriteAtCursor(0);
+      ps.SetCurrentAttribute(AttributeToDisplay(b));
+      wrote = true;
+      ++p;
     } else {
       const StreamItem* entry = FindOrder(b);
-      if (entry == nullptr || entry->length <= 0 ||
-          static_cast<std::size_t>(entry->length) > available) {
-        return 0;
+      if (entry == nullptr || entry->length <= 0 || entry->length > stop - p) break;
+      if (entry->handler != nullptr) {
+        entry->handler(*this, {p, static_cast<std::size_t>(entry->length)});
       }
-      taken = static_cast<std::size_t>(entry->length);
-      if (entry->handler != nullptr) entry->handler(*this, {p, taken});
+      p += entry->length;
+      if (state_ != State::kData) break;  // an order never leaves the data state, but be safe
     }
   }
+  const std::size_t taken = static_cast<std::size_t>(p - start);
+  if (wrote) host_.MarkRepaint();
   consumed_ += static_cast<int>(taken);
-  if (consumed_ == record_length_) EndRecord();
+  if (taken > 0 && consumed_ == record_length_) EndRecord();
   return taken;
 }
 

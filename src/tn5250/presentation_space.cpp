@@ -19,15 +19,19 @@ void PresentationSpace::Reset() {
   current_attribute_ = 0;
 }
 
+// Rows below the screen are never written (every store checks the screen), so clearing the
+// screen's rows clears the planes.
 void PresentationSpace::ClearPlanes() {
-  characters_.fill(0);
-  attributes_.fill(0);
-  pair_start_.fill(false);
+  const int used = rows_ * kPlaneColumns;
+  std::fill_n(characters_.begin(), used, std::uint8_t{0});
+  std::fill_n(attributes_.begin(), used, std::uint8_t{0});
+  std::fill_n(pair_start_.begin(), used, false);
 }
 
 void PresentationSpace::ClearCharacterPlane() {
-  characters_.fill(0);
-  pair_start_.fill(false);
+  const int used = rows_ * kPlaneColumns;
+  std::fill_n(characters_.begin(), used, std::uint8_t{0});
+  std::fill_n(pair_start_.begin(), used, false);
 }
 
 bool PresentationSpace::IsPairStart(int row, int column) const {
