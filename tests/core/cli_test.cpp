@@ -144,6 +144,13 @@ TEST_F(CliTest, SetChangesFieldsAndKeepsTheRest) {
       get.out);
 }
 
+TEST_F(CliTest, SetReachesFieldsEditedThroughTheReaderWorkingBlocks) {
+  const std::string file = NewFile("w.QVL", 1);
+  ASSERT_EQ("Code39=1\nTwoDUpcA=1\n", Cli({"get", file, "Code39", "TwoDUpcA"}).out);
+  ASSERT_EQ(0, Cli({"set", file, "Code39=0", "TwoDUpcA=0"}).status);
+  EXPECT_EQ("Code39=0\nTwoDUpcA=0\n", Cli({"get", file, "Code39", "TwoDUpcA"}).out);
+}
+
 TEST_F(CliTest, RefusedSetWritesNothing) {
   const std::string file = NewFile("r.QVL", 1);
   const std::vector<std::uint8_t> before = ReadBytes(file);

@@ -1,0 +1,183 @@
+#include "settings/reader/reader_page_rules.h"
+
+#include <algorithm>
+
+#include "settings/reader/linear_fields.h"
+#include "settings/reader/reader_record_fields.h"
+#include "settings/reader/two_d_fields.h"
+#include "settings/reader/working_block.h"
+
+namespace veltrix {
+namespace {
+
+constexpr std::uint8_t kReaderBits = 0x05;
+constexpr std::uint8_t kReaderChangedBit = 0x08;
+constexpr int kEan128CheckBox = 325;
+constexpr int kNegativeBarcodeCheckBox = 326;
+
+constexpr std::array<PageCheckBox, 26> kLinearCheckBoxes{{
+    {301, "Code 39", &kCode39, "Code39Dlg"},
+    {302, "Italian Pharmacode", &kItalianPharmacode, "ItalyPharmaDlg"},
+    {303, "French Pharmacode", &kFrenchPharmacode, "FrenchPharmaDlg"},
+    {304, "Industrial 25", &kIndustrial25, "Industrial25Dlg"},
+    {305, "Interleave 25", &kInterleave25, "Interleave25Dlg"},
+    {306, "Matrix 25", &kMatrix25, "Matrix25Dlg"},
+    {307, "Codabar", &kCodabar, "CodabarDlg"},
+    {308, "MSI", &kMsi, "MSIDlg"},
+    {309, "Plessey", &kPlessey, "PlesseyDlg"},
+    {310, "UPCE", &kUpce, "UPCEDlg"},
+    {311, "UPCE Addon 2", &kUpceAddon2, ""},
+    {312, "UPCE Addon 5", &kUpceAddon5, ""},
+    {313, "EAN 8", &kEan8, "EAN8Dlg"},
+    {314, "EAN 8 Addon 2", &kEan8Addon2, ""},
+    {315, "EAN 8 Addon 5", &kEan8Addon5, ""},
+    {316, "EAN 13 && UPCA", &kEan13Upca, "EAN13Dlg"},
+    {317, "EAN 13 Addon 2", &kEan13Addon2, ""},
+    {318, "EAN 13 Addon 5", &kEan13Addon5, ""},
+    {319, "Telepen", &kTelepen, "TelepenDlg"},
+    {320, "RSS 14", &kRss14, "RSS14Dlg"},
+    {321, "RSS 14 Limited", &kRss14Limited, "RSS14LimitedDlg"},
+    {322, "RSS 14 Expanded", &kRss14Expanded, "RSS14ExpandedDlg"},
+    {323, "Code 93", &kCode93, ""},
+    {324, "Code 128", &kCode128, ""},
+    {kEan128CheckBox, "EAN128", nullptr, "EAN128Dlg"},
+    {kNegativeBarcodeCheckBox, "Negative Barcode", &kNegativeBarcode, ""},
+}};
+
+constexpr std::array<PageCheckBox, 27> kTwoDCheckBoxes{{
+    {301, "UPC-A", &kTwoDUpcA, "UPCA_2D_DLG"},
+    {302, "UPC-E", &kTwoDUpcE, "UPCE_2D_DLG"},
+    {303, "UPC-E1", &kTwoDUpcE1, "UPCE1_2D_DLG"},
+    {304, "EAN8", &kTwoDEan8, "EAN8_2D_DLG"},
+    {305, "EAN13", &kTwoDEan13, ""},
+    {306, "Bookland EAN", &kTwoDBooklandEan, ""},
+    {307, "Code 128", &kTwoDCode128, ""},
+    {308, "EAN 128", &kTwoDEan128, ""},
+    {309, "ISBT 128", &kTwoDIsbt128, ""},
+    {310, "Code 39", &kTwoDCode39, "CODE39_2D_DLG"},
+    {311, "Trioptic 39", &kTwoDTrioptic39, ""},
+    {312, "Code 93", &kTwoDCode93, "CODE93_2D_DLG"},
+    {313, "Code 11", &kTwoDCode11, "CODE11_2D_DLG"},
+    {314, "Industrial 25", &kTwoDIndustrial25, "INDUSTRIAL25_2D_DLG"},
+    {315, "Interleave 25", &kTwoDInterleave25, "INTERLEAVE25_2D_DLG"},
+    {316, "Codabar", &kTwoDCodabar, "CODABAR_2D_DLG"},
+    {317, "MSI", &kTwoDMsi, "MSI_2D_DLG"},
+    {318, "Postal Codes", &kTwoDPostalCodes, "POSTAL_2D_DLG"},
+    {319, "RSS14", &kTwoDRss14, "RSS14_2D_DLG"},
+    {320, "RSS14 Limited", &kTwoDRss14Limited, ""},
+    {321, "RSS14 Expanded", &kTwoDRss14Expanded, ""},
+    {322, "PDF417", &kTwoDPdf417, ""},
+    {323, "MicroPDF417", &kTwoDMicroPdf417, ""},
+    {324, "Code 128 Emulation", &kTwoDCode128Emulation, ""},
+    {325, "Data Matrix", &kTwoDDataMatrix, ""},
+    {326, "Maxicode", &kTwoDMaxicode, ""},
+    {327, "QR Code", &kTwoDQrCode, ""},
+}};
+
+// Check boxes only "2D Reader" has: "Code 11", "Postal Codes" and "PDF417" to "QR Code".
+bool OnlyForTwoDReader(int id) { return id == 313 || id == 318 || id >= 322; }
+
+bool& Checked(ReaderPageState& state, int id) { return state.checked[id - kFirstCheckBoxId]; }
+bool Checked(const ReaderPageState& state, int id) { return state.checked[id - kFirstCheckBoxId]; }
+
+void StoreEnableBits(Document& doc, const ReaderPageState& state, bool long_range) {
+  for (const PageCheckBox& box : kTwoDCheckBoxes) {
+    const bool value = long_range && OnlyForTwoDReader(box.id) ? false : Checked(state, box.id);
+    WriteWorking(doc, *box.field, value ? 1 : 0);
+  }
+}
+
+}  // namespace
+
+int ReaderPositionOf(std::uint8_t reader_type) {
+  if ((reader_type & 0x04) != 0) return kLongRangeLaser;
+  if ((reader_type & 0x01) != 0) return kTwoDReader;
+  return kLaserCcdReader;
+}
+
+std::uint8_t WithReaderPosition(std::uint8_t reader_type, int position) {
+  const std::uint8_t reader =
+      position == kTwoDReader ? 0x01 : (position == kLongRangeLaser ? 0x04 : 0);
+  return static_cast<std::uint8_t>((reader_type & ~(kReaderBits | kReaderChangedBit)) | reader);
+}
+
+bool UsesTwoDSet(std::uint8_t reader_type) { return (reader_type & kReaderBits) != 0; }
+
+void ChooseReader(Document& doc, int position) {
+  doc.record[kReaderType.offset] = WithReaderPosition(doc.record[kReaderType.offset], position);
+}
+
+std::span<const PageCheckBox> ReaderPageCheckBoxes(bool two_d) {
+  if (two_d) return kTwoDCheckBoxes;
+  return kLinearCheckBoxes;
+}
+
+ReaderPageState FillReaderPageState(const Document& doc) {
+  ReaderPageState state;
+  const std::uint8_t reader_type = doc.record[kReaderType.offset];
+  state.reader = ReaderPositionOf(reader_type);
+  state.rfid = ReadNumber(doc.record, kRfidReader) != 0;
+  state.box202 = static_cast<int>(ReadWorking(doc, kAimDuration));
+  const auto read = [&doc](const FieldDef& f) { return static_cast<int>(ReadWorking(doc, f)); };
+  if (UsesTwoDSet(reader_type)) {
+    state.list401 = read(kTwoDList401);
+    state.list402 = read(kTwoDList402);
+    state.box201 = read(kTwoDBox201);
+    for (const PageCheckBox& box : kTwoDCheckBoxes) Checked(state, box.id) = read(*box.field) != 0;
+    return state;
+  }
+  state.list401 = read(kScanMode);
+  state.list402 = read(kReadRedundancy);
+  state.box201 = read(kTimeOut);
+  for (const PageCheckBox& box : kLinearCheckBoxes) {
+    if (box.field != nullptr) Checked(state, box.id) = read(*box.field) != 0;
+  }
+  Checked(state, kEan128CheckBox) = read(kEan128) < 2;
+  return state;
+}
+
+bool PageCheckBoxEnabled(const ReaderPageState& state, int id) {
+  if (state.reader == kLaserCcdReader) return id < 327;
+  if (id == 306 && !Checked(state, 305)) return false;
+  return state.reader == kTwoDReader || !OnlyForTwoDReader(id);
+}
+
+bool MoreButtonEnabled(const ReaderPageState& state, int id) {
+  const auto boxes = ReaderPageCheckBoxes(state.reader != kLaserCcdReader);
+  auto it = std::ranges::find(boxes, id, &PageCheckBox::id);
+  if (it == boxes.end() || it->more_dialog.empty()) return false;
+  return state.reader != kLongRangeLaser || !OnlyForTwoDReader(id);
+}
+
+void ApplyReaderPage(Document& doc, const ReaderPageState& state) {
+  ChooseReader(doc, state.reader);
+  WriteNumber(doc.record, kRfidReader, state.rfid ? 1 : 0);
+  const auto write = [&doc](const FieldDef& f, int value) {
+    WriteWorking(doc, f, static_cast<std::uint32_t>(std::clamp<std::int64_t>(value, f.min, f.max)));
+  };
+  switch (state.reader) {
+    case kTwoDReader:
+      write(kTwoDList401, state.list401);
+      write(kTwoDList402, state.list402);
+      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.box201) & 0x0F);
+      StoreEnableBits(doc, state, false);
+      break;
+    case kLongRangeLaser:
+      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.box201) & 0x0F);
+      write(kAimDuration, state.box202);
+      StoreEnableBits(doc, state, true);
+      break;
+    default:
+      write(kScanMode, state.list401);
+      write(kReadRedundancy, state.list402);
+      write(kTimeOut, state.box201);
+      for (const PageCheckBox& box : kLinearCheckBoxes) {
+        if (box.field != nullptr) write(*box.field, Checked(state, box.id) ? 1 : 0);
+      }
+      write(kEan128, Checked(state, kEan128CheckBox) ? 1 : 2);
+      break;
+  }
+  CopyReaderBlocksToRecord(doc);
+}
+
+}  // namespace veltrix

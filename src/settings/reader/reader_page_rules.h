@@ -1,0 +1,77 @@
+#ifndef VELTRIX_SETTINGS_READER_READER_PAGE_RULES_H_
+#define VELTRIX_SETTINGS_READER_READER_PAGE_RULES_H_
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "settings/document.h"
+#include "settings/field.h"
+
+namespace veltrix {
+
+// Positions of the reader list; the reader type byte stores them as 0, 1 and 4.
+enum ReaderPosition : int {
+  kLaserCcdReader = 0,  // "1D Laser/CCD Reader": the linear set
+  kTwoDReader = 1,      // "2D Reader"
+  kLongRangeLaser = 2,  // "1D Long Range Laser"
+};
+
+// The reader list position a reader type byte selects (bit 2 wins over bit 0).
+int ReaderPositionOf(std::uint8_t reader_type);
+// The byte with the reader of `position` in bits 0 and 2, bit 3 cleared, the other bits kept.
+std::uint8_t WithReaderPosition(std::uint8_t reader_type, int position);
+// The two-dimensional set is in force while bit 0 or bit 2 is set.
+bool UsesTwoDSet(std::uint8_t reader_type);
+
+// Choosing another reader in the list stores it in the record at once.
+void ChooseReader(Document& doc, int position);
+
+inline constexpr std::array<std::string_view, 4> kTwoDList401Names{"Turn off", "Internal",
+                                                                   "External", "Both"};
+inline constexpr std::array<std::string_view, 2> kTwoDList402Names{"Turn off", "Turn on"};
+
+// A symbology check box of the page (ids 301-327) and the dialog its "more..." button opens
+// (empty when that button is hidden).
+struct PageCheckBox {
+  int id;
+  std::string_view text;
+  const FieldDef* field;  // nullptr for the linear set's "EAN128" and 327, handled apart
+  std::string_view more_dialog;
+};
+
+inline constexpr int kFirstCheckBoxId = 301;
+inline constexpr int kPageCheckBoxCount = 27;
+
+// The check boxes of the linear set (301-326) or of the two-dimensional set (301-327).
+std::span<const PageCheckBox> ReaderPageCheckBoxes(bool two_d);
+
+// The page's controls: lists 403, 401, 402, boxes 201 and 202, "RFID Reader" and boxes 301-327.
+struct ReaderPageState {
+  int reader = kLaserCcdReader;
+  bool rfid = false;
+  int list401 = 0;  // scan mode, or the first two-dimensional list
+  int list402 = 0;  // read redundancy, or the second two-dimensional list
+  int box201 = 0;   // time out, or the one-digit two-dimensional box
+  int box202 = 0;   // "AIM Duration :"
+  std::array<bool, kPageCheckBoxCount> checked{};  // index = id - 301
+
+  bool operator==(const ReaderPageState&) const = default;
+};
+
+// The controls as the record (reader type) and the working blocks set them.
+ReaderPageState FillReaderPageState(const Document& doc);
+
+// Which check boxes and "more..." buttons the reader in `state` enables: "Code 11", "Postal Codes"
+// and "PDF417" to "QR Code" only for "2D Reader"; "Bookland EAN" only while "EAN13" is checked.
+bool PageCheckBoxEnabled(const ReaderPageState& state, int id);
+bool MoreButtonEnabled(const ReaderPageState& state, int id);
+
+// The sheet's apply: stores the controls for the chosen reader, then copies both working blocks
+// into the record.
+void ApplyReaderPage(Document& doc, const ReaderPageState& state);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_SETTINGS_READER_READER_PAGE_RULES_H_

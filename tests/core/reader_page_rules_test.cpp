@@ -1,0 +1,206 @@
+#include "settings/reader/reader_page_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "settings/reader/linear_fields.h"
+#include "settings/reader/reader_record_fields.h"
+#include "settings/reader/reader_settings.h"
+#include "settings/reader/two_d_fields.h"
+#include "settings/reader/working_block.h"
+
+namespace veltrix {
+namespace {
+
+std::unique_ptr<Document> NewDocument() {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  return doc;
+}
+
+struct ReaderTypeCase {
+  std::uint8_t byte;
+  int position;
+  bool two_d;
+};
+
+TEST(ReaderType, PositionsAndSets) {
+  for (const ReaderTypeCase& c :
+       {ReaderTypeCase{0x00, kLaserCcdReader, false}, ReaderTypeCase{0x01, kTwoDReader, true},
+        ReaderTypeCase{0x04, kLongRangeLaser, true}, ReaderTypeCase{0x05, kLongRangeLaser, true},
+        ReaderTypeCase{0x0A, kLaserCcdReader, false}, ReaderTypeCase{0xF3, kTwoDReader, true}}) {
+    EXPECT_EQ(c.position, ReaderPositionOf(c.byte)) << int{c.byte};
+    EXPECT_EQ(c.two_d, UsesTwoDSet(c.byte)) << int{c.byte};
+  }
+}
+
+TEST(ReaderType, StoringAReaderKeepsTheOtherBitsAndClearsBit3) {
+  EXPECT_EQ(0xF3, WithReaderPosition(0xFA, kTwoDReader));
+  EXPECT_EQ(0x06, WithReaderPosition(0x0F, kLongRangeLaser));
+  EXPECT_EQ(0x02, WithReaderPosition(0x0F, kLaserCcdReader));
+  auto doc = NewDocument();
+  doc->record[kReaderType.offset] = 0x0A;
+  ChooseReader(*doc, kLongRangeLaser);
+  EXPECT_EQ(0x06, doc->record[kReaderType.offset]);
+}
+
+std::set<int> MoreButtons(bool two_d) {
+  std::set<int> ids;
+  for (const PageCheckBox& box : ReaderPageCheckBoxes(two_d)) {
+    if (!box.more_dialog.empty()) ids.insert(box.id);
+  }
+  return ids;
+}
+
+TEST(ReaderPageCheckBoxes, BindTheRightBlockAndShowTheRightMoreButtons) {
+  for (bool two_d : {false, true}) {
+    std::set<int> ids;
+    for (const PageCheckBox& box : ReaderPageCheckBoxes(two_d)) {
+      EXPECT_TRUE(ids.insert(box.id).second) << box.id;
+      if (box.field != nullptr) {
+        EXPECT_EQ(two_d ? ReaderBlock::kTwoD : ReaderBlock::kLinear, BlockOf(*box.field))
+            << box.text;
+        EXPECT_EQ(1, box.field->bit_count) << box.text;
+      }
+    }
+    EXPECT_EQ(two_d ? 27u : 26u, ids.size());
+    EXPECT_EQ(301, *ids.begin());
+  }
+  EXPECT_EQ((std::set<int>{301, 302, 303, 304, 305, 306, 307, 308, 309, 310, 313, 316, 319, 320,
+                           321, 322, 325}),
+            MoreButtons(false));
+  EXPECT_EQ((std::set<int>{301, 302, 303, 304, 310, 312, 313, 314, 315, 316, 317, 318, 319}),
+            MoreButtons(true));
+}
+
+TEST(ReaderPageState, LinearDefaults) {
+  auto doc = NewDocument();
+  const ReaderPageState state = FillReaderPageState(*doc);
+  EXPECT_EQ(kLaserCcdReader, state.reader);
+  EXPECT_EQ(6, state.list401);
+  EXPECT_EQ(0, state.list402);
+  EXPECT_EQ(3, state.box201);
+  // 9B C9: Code 39, Industrial, Interleave, Codabar, MSI off ... ; EAN128 checked while below 2.
+  const std::vector<int> on{301, 304, 305, 307, 310, 313, 316, 323, 324, 325};
+  for (int id = 301; id <= 327; ++id) {
+    const bool want = std::find(on.begin(), on.end(), id) != on.end();
+    EXPECT_EQ(want, state.checked[id - 301]) << id;
+  }
+}
+
+TEST(ReaderPageState, TwoDimensionalDefaults) {
+  auto doc = NewDocument();
+  doc->record[kReaderType.offset] = 0x03;  // "2D Reader" with the RFID reader
+  const ReaderPageState state = FillReaderPageState(*doc);
+  EXPECT_EQ(kTwoDReader, state.reader);
+  EXPECT_TRUE(state.rfid);
+  EXPECT_EQ(1, state.list401);
+  EXPECT_EQ(1, state.list402);
+  EXPECT_EQ(9, state.box201);
+  const std::vector<int> on{301, 302, 304, 305, 307, 308, 309, 310, 315,
+                            318, 319, 320, 321, 322, 325, 326, 327};
+  for (int id = 301; id <= 327; ++id) {
+    const bool want = std::find(on.begin(), on.end(), id) != on.end();
+    EXPECT_EQ(want, state.checked[id - 301]) << id;
+  }
+}
+
+TEST(ReaderPageState, EnablingFollowsTheReader) {
+  ReaderPageState state;
+  state.reader = kLaserCcdReader;
+  EXPECT_TRUE(PageCheckBoxEnabled(state, 313));
+  EXPECT_TRUE(PageCheckBoxEnabled(state, 326));
+
+  state.reader = kTwoDReader;
+  state.checked[305 - 301] = false;
+  EXPECT_FALSE(PageCheckBoxEnabled(state, 306));  // Bookland EAN needs EAN13
+  state.checked[305 - 301] = true;
+  EXPECT_TRUE(PageCheckBoxEnabled(state, 306));
+  for (int id : {313, 318, 322, 327}) EXPECT_TRUE(PageCheckBoxEnabled(state, id)) << id;
+  EXPECT_TRUE(MoreButtonEnabled(state, 313));
+
+  state.reader = kLongRangeLaser;
+  for (int id : {313, 318, 322, 323, 324, 325, 326, 327}) {
+    EXPECT_FALSE(PageCheckBoxEnabled(state, id)) << id;
+  }
+  EXPECT_TRUE(PageCheckBoxEnabled(state, 321));
+  EXPECT_FALSE(MoreButtonEnabled(state, 313));
+  EXPECT_FALSE(MoreButtonEnabled(state, 318));
+  EXPECT_TRUE(MoreButtonEnabled(state, 319));
+  EXPECT_FALSE(MoreButtonEnabled(state, 320));  // no dialog behind it
+}
+
+TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
+  auto doc = NewDocument();
+  ReaderPageState state = FillReaderPageState(*doc);
+  state.checked[325 - 301] = false;
+  state.checked[326 - 301] = true;
+  state.list401 = 1;
+  state.list402 = 2;
+  state.box201 = 10;
+  state.checked[301 - 301] = false;
+  state.checked[324 - 301] = false;
+  ApplyReaderPage(*doc, state);
+  EXPECT_EQ(0x83, doc->record[3712]);  // bits 7-6 = 2
+  EXPECT_EQ(0x16, doc->record[3710]);
+  EXPECT_EQ(10, doc->record[3711]);
+  EXPECT_EQ(0x18, doc->record[3701]);  // negative bars, two times redundancy
+  EXPECT_EQ(0x1B, doc->record[3690]);
+  EXPECT_EQ(0x49, doc->record[3691]);
+  EXPECT_FALSE(doc->modified);
+
+  state.checked[325 - 301] = true;
+  ApplyReaderPage(*doc, state);
+  EXPECT_EQ(0x43, doc->record[3712]);
+}
+
+TEST(ReaderPageApply, LongRangeLaserClearsTheTwoDReaderOnlySymbologies) {
+  auto doc = NewDocument();
+  ChooseReader(*doc, kTwoDReader);
+  ReaderPageState state = FillReaderPageState(*doc);
+  state.reader = kLongRangeLaser;
+  state.checked.fill(true);
+  state.box201 = 0x1F;  // low four bits only
+  state.box202 = 200;
+  state.list401 = 0;  // not stored for this reader
+  ApplyReaderPage(*doc, state);
+  EXPECT_EQ(0x04, doc->record[kReaderType.offset]);
+  EXPECT_EQ(0xFC, doc->record[58659]);
+  EXPECT_EQ(0x18, doc->record[58670]);  // Code 11 off
+  EXPECT_EQ(0x00, doc->record[58686]);  // Postal Codes off
+  EXPECT_EQ(0x00, doc->record[58688]);  // PDF417 to QR Code off
+  EXPECT_EQ(0x3F, doc->record[58689]);  // lists kept, box 201 = 15
+  EXPECT_EQ(200, doc->record[58690]);
+  EXPECT_EQ(0, std::memcmp(doc->record.data() + 58659, doc->reader_block1.data(), 45));
+}
+
+TEST(ReaderPageApply, TwoDReaderStoresListsBoxAndAllEnableBits) {
+  auto doc = NewDocument();
+  ReaderPageState state = FillReaderPageState(*doc);
+  state.reader = kTwoDReader;
+  state.rfid = true;
+  state.checked.fill(true);
+  state.list401 = 3;
+  state.list402 = 0;
+  state.box201 = 4;
+  state.box202 = 99;  // not stored for this reader
+  ApplyReaderPage(*doc, state);
+  EXPECT_EQ(0x03, doc->record[kReaderType.offset]);
+  EXPECT_EQ(0xFC, doc->record[58659]);
+  EXPECT_EQ(0x98, doc->record[58670]);
+  EXPECT_EQ(0x80, doc->record[58686]);
+  EXPECT_EQ(0xFC, doc->record[58688]);
+  EXPECT_EQ(0x64, doc->record[58689]);
+  EXPECT_EQ(0, doc->record[58690]);
+  // The linear set is left as it was.
+  EXPECT_EQ(0x9B, doc->record[3690]);
+}
+
+}  // namespace
+}  // namespace veltrix
