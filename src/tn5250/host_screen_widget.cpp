@@ -200,7 +200,8 @@ void HostScreenWidget::paintEvent(QPaintEvent* event) {
       }
       if (run.underline()) {
         painter.setPen(Qt::black);
-        painter.drawLine(x, y + ch + 1, x + run.length * cw, y + ch + 1);
+        // As a line to the run's end, which itself stays clear.
+        painter.drawLine(x, y + ch + 1, x + run.length * cw - 1, y + ch + 1);
       }
     }
   }
