@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "shell/about_text.h"
+#include "shell/tool_icons_qt.h"
 
 namespace veltrix {
 namespace {
@@ -34,7 +35,7 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
   setModal(true);
 
   auto* icon = new QLabel(this);
-  icon->setPixmap(style()->standardIcon(QStyle::SP_ComputerIcon).pixmap(32, 32));
+  icon->setPixmap(ProgramIcon().pixmap(32, 32));
   icon->setAlignment(Qt::AlignTop);
 
   product_line_ = new QLabel(QString::fromStdString(AboutProductLine()), this);

@@ -51,6 +51,7 @@ MainWindow::MainWindow(Ports ports, const SettingsPageRegistry& pages, QWidget* 
   session_ = std::make_unique<SessionCommands>(*prompt_);
 
   setWindowTitle(Text(StringResource(kWindowTitleId)));
+  setWindowIcon(ProgramIcon());
   setObjectName(Text(StringResource(kApplicationNameId)));
   CreateActions();
   CreateMenus();
@@ -180,7 +181,7 @@ void MainWindow::SetHostScreenWidget(QWidget* host_screen) {
     client_->removeWidget(host_screen_);
   }
   host_screen_ = host_screen;
-  QWidget* shown = host_screen_ != nullptr ? host_screen_ : host_placeholder_;
+  QWidget* shown = host_screen_ != nullptr ? host_screen_.data() : host_placeholder_;
   if (host_screen_ != nullptr) {
     client_->addWidget(host_screen_);
     host_screen_->installEventFilter(this);
@@ -189,7 +190,7 @@ void MainWindow::SetHostScreenWidget(QWidget* host_screen) {
 }
 
 void MainWindow::ShowHostScreen(bool show) {
-  QWidget* host = host_screen_ != nullptr ? host_screen_ : host_placeholder_;
+  QWidget* host = host_screen_ != nullptr ? host_screen_.data() : host_placeholder_;
   client_->setCurrentWidget(show ? host : static_cast<QWidget*>(summary_));
   if (show) host->setFocus();
 }

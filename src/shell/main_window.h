@@ -2,6 +2,7 @@
 #define VELTRIX_SHELL_MAIN_WINDOW_H_
 
 #include <QMainWindow>
+#include <QPointer>
 #include <functional>
 #include <map>
 #include <memory>
@@ -109,7 +110,7 @@ class MainWindow : public QMainWindow {
   QStackedWidget* client_ = nullptr;
   SummaryView* summary_ = nullptr;
   QWidget* host_placeholder_ = nullptr;
-  QWidget* host_screen_ = nullptr;
+  QPointer<QWidget> host_screen_;
 };
 
 }  // namespace veltrix

@@ -5,6 +5,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "shell/tool_icons_qt.h"
+
 namespace veltrix {
 namespace {
 
@@ -27,6 +29,7 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
       registry_(registry),
       lifecycle_(doc, [this](int index) { return CreatePage(index); }) {
   setWindowTitle(Text(kSheetCaption));
+  setWindowIcon(ProgramIcon());
   setModal(true);
 
   tabs_ = new QTabWidget(this);

@@ -54,6 +54,26 @@ QPixmap Camera(const std::function<void(QPainter&)>& mark) {
 
 }  // namespace
 
+QIcon ProgramIcon() {
+  QPixmap pixmap(32, 32);
+  pixmap.fill(Qt::transparent);
+  QPainter p(&pixmap);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(QPen(kInk, 1.5));
+  p.setBrush(kSteel);
+  p.drawRoundedRect(QRectF(8.5, 1.5, 15, 29), 3, 3);  // body
+  p.setBrush(QColor(190, 230, 190));
+  p.drawRect(QRectF(10.5, 4.5, 11, 9));  // screen
+  p.setPen(Qt::NoPen);
+  p.setBrush(Qt::white);
+  for (int row = 0; row < 4; ++row) {  // keypad
+    for (int col = 0; col < 3; ++col) p.drawRect(11 + col * 4, 16 + row * 3, 2, 2);
+  }
+  p.setBrush(kRed);
+  p.drawRect(14, 0, 4, 2);  // reader window
+  return QIcon(pixmap);
+}
+
 QIcon ToolIcon(ToolImage image, const QStyle* style) {
   switch (image) {
     case ToolImage::kStandardNew:

@@ -13,6 +13,9 @@ namespace veltrix {
 // 16 x 15 drawings for the connection and capture commands.
 QIcon ToolIcon(ToolImage image, const QStyle* style);
 
+// The program's icon: a handheld terminal with its small screen and keypad.
+QIcon ProgramIcon();
+
 }  // namespace veltrix
 
 #endif  // VELTRIX_SHELL_TOOL_ICONS_QT_H_

@@ -40,11 +40,13 @@ DataStreamInterpreter::DataStreamInterpreter(HostContext& host, InboundRecords& 
     : host_(host), inbound_(inbound) {}
 
 void DataStreamInterpreter::Reset() {
-  for (int b = 0; b < 256 && display_language_ != host_.emulation_type; ++b) {
-    const std::uint8_t d = HostToDisplay(host_.emulation_type, static_cast<std::uint8_t>(b));
-    display_[b] = d == 0xFF ? 0 : d;
+  if (display_language_ != host_.emulation_type) {
+    for (int b = 0; b < 256; ++b) {
+      const std::uint8_t d = HostToDisplay(host_.emulation_type, static_cast<std::uint8_t>(b));
+      display_[b] = d == 0xFF ? 0 : d;
+    }
+    display_language_ = host_.emulation_type;
   }
-  display_language_ = host_.emulation_type;
   state_ = State::kHeader;
   record_length_ = 0;
   consumed_ = 0;
@@ -110,7 +112,6 @@ std::size_t DataStreamInterpreter::FastData(const std::uint8_t* p, const std::ui
         entry->handler(*this, {p, static_cast<std::size_t>(entry->length)});
       }
       p += entry->length;
-      if (state_ != State::kData) break;  // an order never leaves the data state, but be safe
     }
   }
   const std::size_t taken = static_cast<std::size_t>(p - start);

@@ -2,41 +2,31 @@
 
 namespace veltrix {
 
+namespace {
+
+struct KeyFunctionEntry {
+  HostKey key;
+  int function;
+};
+
+// Keys and their function numbers; F1..F9 are computed from their codes.
+constexpr KeyFunctionEntry kKeyFunctions[] = {
+    {HostKey::kF10, 10},    {HostKey::kF11, 11},       {HostKey::kF12, 12},
+    {HostKey::kEnter, 45},  {HostKey::kPageUp, 36},    {HostKey::kPageDown, 35},
+    {HostKey::kDelete, 27}, {HostKey::kFieldPlus, 30}, {HostKey::kFieldMinus, 31},
+    {HostKey::kTab, 34},    {HostKey::kHome, 38},      {HostKey::kEnd, 33},
+    {HostKey::kReset, 44},  {HostKey::kBackspace, 47},
+};
+
+}  // namespace
+
 int KeyFunction(HostKey key) {
   const int code = static_cast<int>(key);
-  if (code >= 128 && code <= 136) return code - 127;  // F1..F9
-  switch (key) {
-    case HostKey::kF10:
-      return 10;
-    case HostKey::kF11:
-      return 11;
-    case HostKey::kF12:
-      return 12;
-    case HostKey::kEnter:
-      return 45;
-    case HostKey::kPageUp:
-      return 36;
-    case HostKey::kPageDown:
-      return 35;
-    case HostKey::kDelete:
-      return 27;
-    case HostKey::kFieldPlus:
-      return 30;
-    case HostKey::kFieldMinus:
-      return 31;
-    case HostKey::kTab:
-      return 34;
-    case HostKey::kHome:
-      return 38;
-    case HostKey::kEnd:
-      return 33;
-    case HostKey::kReset:
-      return 44;
-    case HostKey::kBackspace:
-      return 47;
-    default:
-      return 0;
+  if (code >= 128 && code <= 137) return code - 127;  // F1..F9, and 137 as F10
+  for (const KeyFunctionEntry& e : kKeyFunctions) {
+    if (e.key == key) return e.function;
   }
+  return 0;
 }
 
 std::uint8_t FunctionToAid(int function) {

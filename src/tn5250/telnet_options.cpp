@@ -1,8 +1,9 @@
 #include "tn5250/telnet_options.h"
 
 #include <array>
+#include <initializer_list>
+#include <span>
 #include <string_view>
-#include <vector>
 
 #include "tn5250/code_tables.h"
 #include "tn5250/telnet_receiver.h"
@@ -28,11 +29,11 @@ void NegotiateEndOfRecord(TelnetReceiver& t, std::uint8_t command, std::uint8_t 
 
 void NegotiateEcho(TelnetReceiver& t, std::uint8_t command, std::uint8_t option) {
   if (command == kWill) {
-    t.echo_ = true;
+    t.set_echo(true);
     t.SendAnswer(kDo, option);
   } else if (command == kWont) {
-    if (t.echo_) {
-      t.echo_ = false;
+    if (t.echo()) {
+      t.set_echo(false);
       t.SendAnswer(kDont, option);
     }
   } else {
@@ -43,25 +44,25 @@ void NegotiateEcho(TelnetReceiver& t, std::uint8_t command, std::uint8_t option)
 void NegotiateSuppressGoAhead(TelnetReceiver& t, std::uint8_t command, std::uint8_t option) {
   switch (command) {
     case kWill:
-      t.suppress_go_ahead_ = true;
-      t.echo_ = true;
+      t.set_suppress_go_ahead(true);
+      t.set_echo(true);
       t.SendAnswer(kDo, option);
       t.SendAnswer(kWill, option);
       t.SendAnswer(kDo, kOptEcho);
       break;
     case kWont:
-      if (t.suppress_go_ahead_) {
-        t.suppress_go_ahead_ = false;
-        t.echo_ = false;
+      if (t.suppress_go_ahead()) {
+        t.set_suppress_go_ahead(false);
+        t.set_echo(false);
         t.SendAnswer(kDont, option);
         t.SendAnswer(kWont, option);
       }
       break;
     case kDo:
-      if (!t.suppress_go_ahead_) t.SendAnswer(kDo, option);
+      if (!t.suppress_go_ahead()) t.SendAnswer(kDo, option);
       break;
     case kDont:
-      if (t.suppress_go_ahead_) t.SendAnswer(kDont, option);
+      if (t.suppress_go_ahead()) t.SendAnswer(kDont, option);
       break;
     default:
       break;
@@ -86,21 +87,37 @@ void NegotiateOther(TelnetReceiver& t, std::uint8_t command, std::uint8_t option
   t.Refuse(command, option);
 }
 
-void Append(std::vector<std::uint8_t>& out, std::string_view text) {
-  out.insert(out.end(), text.begin(), text.end());
+// An answer under construction; answers are short and built without the heap.
+class Answer {
+ public:
+  Answer(std::initializer_list<std::uint8_t> start) {
+    for (std::uint8_t b : start) push_back(b);
+  }
+  void push_back(std::uint8_t b) {
+    if (size_ < bytes_.size()) bytes_[size_++] = b;
+  }
+  operator std::span<const std::uint8_t>() const { return {bytes_.data(), size_}; }
+
+ private:
+  std::array<std::uint8_t, 128> bytes_{};
+  std::size_t size_ = 0;
+};
+
+void Append(Answer& out, std::string_view text) {
+  for (char c : text) out.push_back(static_cast<std::uint8_t>(c));
 }
 
 void SubnegotiateTerminalType(TelnetReceiver& t) {
   const auto sub = t.Subnegotiation();
   if (sub.size() < 2 || sub[1] != kSubSend) return;
-  std::vector<std::uint8_t> out = {kIac, kSb, kOptTerminalType, kSubIs};
+  Answer out = {kIac, kSb, kOptTerminalType, kSubIs};
   Append(out, IsDoubleByteLanguage(t.config().emulation_type) ? "IBM-5555-B01" : "IBM-3179-2");
   out.push_back(kIac);
   out.push_back(kSe);
   t.Send(out);
 }
 
-void AppendUserVar(std::vector<std::uint8_t>& out, std::string_view name, std::string_view value) {
+void AppendUserVar(Answer& out, std::string_view name, std::string_view value) {
   out.push_back(kEnvUserVar);
   Append(out, name);
   out.push_back(kEnvValue);
@@ -122,7 +139,7 @@ constexpr std::array<LanguageVariables, 4> kLanguageVariables = {{
 void SubnegotiateNewEnviron(TelnetReceiver& t) {
   const auto sub = t.Subnegotiation();
   if (sub.size() < 2 || sub[1] != kSubSend) return;
-  std::vector<std::uint8_t> out = {kIac, kSb, kOptNewEnviron, kSubIs};
+  Answer out = {kIac, kSb, kOptNewEnviron, kSubIs};
   // The password seed goes out without a value: no seed and no encrypted password.
   out.push_back(kEnvUserVar);
   Append(out, "IBMRSEED");

@@ -60,8 +60,8 @@ class TelnetReceiver {
     return {subnegotiation_.data(), std::size_t(subnegotiation_count_)};
   }
   const SessionConfig& config() const { return config_; }
-  bool echo_ = false;
-  bool suppress_go_ahead_ = true;
+  void set_echo(bool on) { echo_ = on; }
+  void set_suppress_go_ahead(bool on) { suppress_go_ahead_ = on; }
 
  private:
   enum class State { kData, kIac, kOption };
@@ -75,6 +75,8 @@ class TelnetReceiver {
   std::uint8_t saved_command_ = 0;
   std::array<std::uint8_t, kSubnegotiationCapacity> subnegotiation_{};
   int subnegotiation_count_ = 0;
+  bool echo_ = false;
+  bool suppress_go_ahead_ = true;
 };
 
 }  // namespace veltrix

@@ -134,6 +134,19 @@ TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
   EXPECT_EQ(before, doc->record);
 }
 
+TEST(NetworkControls, EnablingFollowsDhcpEapAndWep) {
+  auto doc = NewDocument(1);
+  EXPECT_EQ((NetworkControlStates{false, false, false}), NetworkControlStatesOf(*doc));
+  WriteNumber(doc->record, kDhcpServer, 0);
+  WriteNumber(doc->record, kWepKeyEnabled, 1);
+  EXPECT_EQ((NetworkControlStates{true, false, true}), NetworkControlStatesOf(*doc));
+  WriteNumber(doc->record, kEapEnabled, 1);
+  WriteNumber(doc->record, kDhcpServer, 1);
+  EXPECT_EQ((NetworkControlStates{false, true, true}), NetworkControlStatesOf(*doc));
+  // Ticking DHCP only disables the edits: the addresses stay stored.
+  EXPECT_EQ("192.168.1.241", ReadText(doc->record, kTerminalIp));
+}
+
 struct EditCase {
   std::string text;
   std::uint32_t value;

@@ -229,6 +229,17 @@ struct BeeperCase {
 
 class BeeperLength : public ::testing::TestWithParam<BeeperCase> {};
 
+TEST(BeeperText, ShowsTheUsedLengthInHexadecimal) {
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  EXPECT_EQ("1E 07 00 05 1E 07 ",
+            BeeperSequenceText(
+                FieldBytes(std::span<const std::uint8_t>(doc->record), kAlarmBeeperSequence)));
+  EXPECT_EQ("0E 05 ", BeeperSequenceText(FieldBytes(std::span<const std::uint8_t>(doc->record),
+                                                    kDataBeeperSequence)));
+  EXPECT_EQ("", BeeperSequenceText(std::vector<std::uint8_t>(10, 0)));
+}
+
 TEST_P(BeeperLength, CountsPairsUpToTheLastNonZeroPair) {
   std::vector<std::uint8_t> bytes;
   for (int b : Hex(GetParam().bytes)) bytes.push_back(static_cast<std::uint8_t>(b));

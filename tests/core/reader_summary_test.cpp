@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
 #include <memory>
+#include <random>
 #include <sstream>
 #include <string>
 
@@ -182,6 +184,30 @@ TEST(BardodeSummary, UnknownStartStopSelectionShowsTheNumber) {
   SummaryNode bardode{"Bardode", {}};
   AppendReaderSummary(*doc, bardode);
   EXPECT_EQ("Start / Stop Selection : 3", bardode.children[1].children[3].children[0].text);
+}
+
+TEST(BardodeSummary, ControlBytesOfTheLeadingCodeShowAsQuestionMarks) {
+  auto doc = NewDocument(1);
+  WriteText(doc->record, kLeadingCode, "A\nB\x7F");
+  SummaryNode bardode{"Bardode", {}};
+  AppendReaderSummary(*doc, bardode);
+  EXPECT_EQ("Leading Code: A?B?", bardode.children[2].children[1].text);
+}
+
+// Whatever a loaded file holds, the branch has the same lines (only their values change).
+TEST(BardodeSummary, AnyRecordGivesTheSameShape) {
+  const auto lines = [](const std::string& text) {
+    return std::count(text.begin(), text.end(), '\n');
+  };
+  const auto want = lines(RenderBardode(*NewDocument(1)));
+  std::mt19937 random(3);
+  for (int round = 0; round < 50; ++round) {
+    auto doc = std::make_unique<Document>();
+    for (std::size_t at = 3690; at < 3783; ++at) doc->record[at] = random() & 0xFF;
+    for (auto& b : doc->reader_block2) b = random() & 0xFF;
+    const std::string text = RenderBardode(*doc);
+    EXPECT_EQ(want, lines(text));
+  }
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "tn5250/display_text.h"
+#include "tn5250/replay.h"
 #include "tn5250/session.h"
 
 namespace veltrix {
@@ -117,6 +118,21 @@ TEST_P(RecordedSessionTest, ScreensMatchThePeerAfterEveryRecord) {
     ++record;
   }
   EXPECT_EQ(record, peer.size());
+}
+
+TEST_P(RecordedSessionTest, EveryChunkSizeGivesTheSameResult) {
+  const fs::path bin = TraceDir() / (GetParam() + ".bin");
+  if (!fs::exists(bin)) GTEST_SKIP() << "no recorded sessions";
+  const ReplayStep step{ReadBytes(bin), {}};
+  ReplayRun whole({});
+  whole.Run({&step, 1});
+  const std::string want = whole.Text();
+  // Every size up to 64, then a spread of larger ones up to the whole session.
+  for (std::size_t size = 1; size < step.host.size(); size += size < 64 ? 1 : size / 4) {
+    ReplayRun chunked({});
+    chunked.Run({&step, 1}, size);
+    ASSERT_EQ(chunked.Text(), want) << "chunk size " << size;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Traces, RecordedSessionTest,

@@ -540,14 +540,20 @@ void DemoHostTest::scriptSendsExpectsAndLogs() {
 void DemoHostTest::scriptWithoutNegotiation() {
   DemoHostServer server;
   const auto record = OutboundRecord().ClearUnit().Finish();
-  server.SetScript({ScriptStep::Send(record), ScriptStep::ExpectAny()}, false);
+  server.SetScript({ScriptStep::Send(record), ScriptStep::ExpectAny(),
+                    ScriptStep::ExpectAid(kAidEnter), ScriptStep::ExpectAid(kAidF3)},
+                   false);
   QVERIFY(server.Listen(0));
   Station station;
   QVERIFY(station.Connect(server.port()));
   QVERIFY(station.Expect(Bytes(FrameRecord(record))));
   station.SendRecord(AidRecord(1, 1, kAidEnter));
+  station.SendRecord(AidRecord(4, 9, kAidEnter, {{4, 9, "X"}}));
+  station.SendRecord(AidRecord(1, 1, kAidEnter));
   QTRY_VERIFY(server.scriptFinished());
-  QVERIFY(server.scriptMismatches().isEmpty());
+  QCOMPARE(
+      server.scriptMismatches(),
+      QStringList{"record 3: expected AID 33, received 00 0D 12 A0 00 00 04 00 00 03 01 01 F1"});
 }
 
 void DemoHostTest::executablePrintsItsEphemeralPort() {

@@ -124,6 +124,7 @@ class MainWindowTest : public QObject {
       } else if (a->data().isValid()) {
         layout << QString::number(a->data().toInt());
         QVERIFY(!a->icon().isNull());
+        QVERIFY(!a->icon().pixmap(QSize(16, 15)).isNull());
         QVERIFY(!a->isCheckable());
       } else {
         layout << "box";

@@ -154,7 +154,7 @@ HostOutput DemoApplication::OnList(const InboundRecord& in) {
   for (int line = 0; line < kListLines; ++line) {
     const FieldPosition field = {kListFirstRow + line, kListOptionColumn, 1};
     const std::string* option = FieldAt(in, field);
-    const std::size_t index = static_cast<std::size_t>(page_ * kListLines + line);
+    const std::size_t index = static_cast<std::size_t>(page_) * kListLines + line;
     if (option == nullptr || Trimmed(*option).empty() || index >= items.size()) continue;
     if (Trimmed(*option) != "5") {
       return Error("Option " + Trimmed(*option) + " is not valid. Type 5 to display an item.",

@@ -110,7 +110,7 @@ std::vector<std::uint8_t> ItemListScreen(int page, std::string_view message) {
   r.TextAt(6, 2, "Opt  Item      Description            Quantity", kAttrHigh);
   const auto& items = DemoItems();
   for (int line = 0; line < kListLines; ++line) {
-    const std::size_t index = static_cast<std::size_t>(page * kListLines + line);
+    const std::size_t index = static_cast<std::size_t>(page) * kListLines + line;
     if (index >= items.size()) break;
     const int row = kListFirstRow + line;
     Field(r, {row, kListOptionColumn, 1}, kFfwBase, 0x00, kAttrUnderline);

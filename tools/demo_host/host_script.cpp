@@ -1,22 +1,25 @@
 #include "demo_host/host_script.h"
 
 #include <algorithm>
+#include <cstdio>
 
 #include "demo_host/inbound_record.h"
 
 namespace veltrix::demo_host {
 
 ScriptStep ScriptStep::Send(std::vector<std::uint8_t> record) {
-  return {Kind::kSend, std::move(record), false};
+  return {Kind::kSend, std::move(record), false, -1};
 }
 
 ScriptStep ScriptStep::Expect(std::vector<std::uint8_t> record) {
-  return {Kind::kExpect, std::move(record), false};
+  return {Kind::kExpect, std::move(record), false, -1};
 }
 
-ScriptStep ScriptStep::ExpectAny() { return {Kind::kExpect, {}, true}; }
+ScriptStep ScriptStep::ExpectAny() { return {Kind::kExpect, {}, true, -1}; }
 
-ScriptStep ScriptStep::Close() { return {Kind::kClose, {}, false}; }
+ScriptStep ScriptStep::ExpectAid(std::uint8_t aid) { return {Kind::kExpect, {}, false, aid}; }
+
+ScriptStep ScriptStep::Close() { return {Kind::kClose, {}, false, -1}; }
 
 ScriptedApplication::ScriptedApplication(std::vector<ScriptStep> steps)
     : steps_(std::move(steps)) {}
@@ -32,9 +35,16 @@ HostOutput ScriptedApplication::OnRecord(std::span<const std::uint8_t> record) {
     return {};
   }
   const ScriptStep& step = steps_[next_++];
-  const bool same =
-      step.any || std::equal(record.begin(), record.end(), step.record.begin(), step.record.end());
-  if (!same) {
+  if (step.aid >= 0) {
+    const InboundRecord in = ParseAidRecord(record);
+    if (!in.ok || !in.has_aid || in.aid != step.aid) {
+      char expected[8];
+      std::snprintf(expected, sizeof expected, "%02X", step.aid);
+      mismatches_.push_back("record " + std::to_string(index) + ": expected AID " + expected +
+                            ", received " + HexBytes(record));
+    }
+  } else if (!step.any &&
+             !std::equal(record.begin(), record.end(), step.record.begin(), step.record.end())) {
     mismatches_.push_back("record " + std::to_string(index) + ": expected " +
                           HexBytes(step.record) + ", received " + HexBytes(record));
   }

@@ -10,16 +10,19 @@
 namespace veltrix::demo_host {
 
 // One step of a scripted host: send a record, wait for a record from the station (compared
-// byte for byte unless `any`), or close the connection.
+// byte for byte, by its AID only, or not at all), or close the connection.
 struct ScriptStep {
   enum class Kind { kSend, kExpect, kClose };
   Kind kind = Kind::kSend;
   std::vector<std::uint8_t> record;  // unframed 5250 record
   bool any = false;                  // kExpect: accept whatever record comes
+  int aid = -1;                      // kExpect: 0..255 compares only the AID byte
 
   static ScriptStep Send(std::vector<std::uint8_t> record);
   static ScriptStep Expect(std::vector<std::uint8_t> record);
   static ScriptStep ExpectAny();
+  // An AID record with this AID, whatever its cursor address and field data.
+  static ScriptStep ExpectAid(std::uint8_t aid);
   static ScriptStep Close();
 };
 

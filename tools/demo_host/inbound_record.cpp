@@ -60,7 +60,7 @@ InboundRecord ParseAidRecord(std::span<const std::uint8_t> record) {
     out.ok = true;  // no read command was in force: the header alone
     return out;
   }
-  if (record.size() < static_cast<std::size_t>(kRecordHeaderSize + 3)) {
+  if (record.size() < std::size_t{kRecordHeaderSize} + 3) {
     out.error = "record ends inside the cursor address and AID at offset 10";
     return out;
   }

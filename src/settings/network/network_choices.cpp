@@ -24,6 +24,12 @@ void PadText(Document& doc, const FieldDef& f, int index) {
 std::span<const std::string_view> AuthenticationChoices() { return kAuthentication; }
 std::span<const std::string_view> WepKeyLengthChoices() { return kKeyLengths; }
 
+NetworkControlStates NetworkControlStatesOf(const Document& doc) {
+  return {.address_edits = ReadNumber(doc.record, kDhcpServer) == 0,
+          .eap_edits = ReadNumber(doc.record, kEapEnabled) != 0,
+          .wep_controls = ReadNumber(doc.record, kWepKeyEnabled) != 0};
+}
+
 void StoreActiveHostText(Document& doc, std::string_view text) {
   const int active = static_cast<int>(ReadNumber(doc.record, kActiveHostIpOrName));
   WriteText(doc.record, kHostIpOrName, text, active);

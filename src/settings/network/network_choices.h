@@ -13,6 +13,17 @@ std::span<const std::string_view> AuthenticationChoices();
 // "64 bits (5 bytes)", "128 bits (13 bytes)" (`WepKeyLength`).
 std::span<const std::string_view> WepKeyLengthChoices();
 
+// Which groups of Wireless LAN controls are enabled: the four address edits only without DHCP,
+// the EAP edits only with EAP on, the WEP length, keys and "Active" buttons only with WEP on.
+struct NetworkControlStates {
+  bool address_edits = false;
+  bool eap_edits = false;
+  bool wep_controls = false;
+
+  friend bool operator==(const NetworkControlStates&, const NetworkControlStates&) = default;
+};
+NetworkControlStates NetworkControlStatesOf(const Document& doc);
+
 // Text typed into the host combo: its first 49 characters go into the active host entry only.
 void StoreActiveHostText(Document& doc, std::string_view text);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "settings/reader/reader_record_fields.h"
+#include "shell/summary.h"
 
 namespace veltrix {
 
@@ -10,6 +11,11 @@ std::size_t BeeperSequenceLength(std::span<const std::uint8_t> sequence) {
   std::size_t length = std::min(sequence.size(), kBeeperSequenceWidth) / 2 * 2;
   while (length >= 2 && sequence[length - 2] == 0 && sequence[length - 1] == 0) length -= 2;
   return length;
+}
+
+std::string BeeperSequenceText(std::span<const std::uint8_t> sequence) {
+  return KeyNamesText(sequence, static_cast<int>(BeeperSequenceLength(sequence)),
+                      KeyNameMode::kHex);
 }
 
 void SetDefaultBeeperSequences(Document& doc) {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "settings/document.h"
 
@@ -19,6 +20,9 @@ inline constexpr std::array<std::uint8_t, kBeeperSequenceWidth> kDefaultDataBeep
 
 // The used length in bytes: up to the last pair whose two bytes are not both zero (0-10, even).
 std::size_t BeeperSequenceLength(std::span<const std::uint8_t> sequence);
+
+// The sequence as the advanced settings show it: its used length as hexadecimal pairs.
+std::string BeeperSequenceText(std::span<const std::uint8_t> sequence);
 
 // Writes both default sequences into the record.
 void SetDefaultBeeperSequences(Document& doc);

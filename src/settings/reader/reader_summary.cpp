@@ -171,13 +171,23 @@ void AppendReaderSettings(const Document& doc, SummaryNode& item) {
   item.Add(Labelled("Negative Barcode", Value(doc, kNegativeBarcode)));
 }
 
+// A leading code from a loaded file may hold control bytes that no edit box lets the user type:
+// they show as '?' so that the line stays one line.
+std::string Printable(std::string text) {
+  for (char& c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x20 || byte == 0x7F) c = '?';
+  }
+  return text;
+}
+
 std::string KeyNames(const Document& doc, const FieldDef& f) {
   return KeyNamesText(WorkingBytes(doc, f), f.width, KeyNameMode::kNames);
 }
 
 void AppendAdvanced(const Document& doc, SummaryNode& item) {
   item.Add("Check Leading Code: " + Value(doc, kCheckLeadingCode));
-  item.Add("Leading Code: " + ReadText(doc.record, kLeadingCode));
+  item.Add("Leading Code: " + Printable(ReadText(doc.record, kLeadingCode)));
   item.Add(Labelled("Read Partial Code", Value(doc, kReadPartialCode)));
   item.Add(Labelled("Start Position", std::to_string(ReadWorking(doc, kStartPosition))));
   item.Add(Labelled("Maximum Length", std::to_string(ReadWorking(doc, kMaximumLength))));

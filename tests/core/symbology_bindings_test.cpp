@@ -1,0 +1,118 @@
+// Every option dialog writes only the bits of the fields its controls are bound to (plus the spare
+// bits its rules clear) and nothing outside its own working block, whatever the blocks held before.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "settings/reader/symbology_options.h"
+#include "settings/reader/two_d_options.h"
+#include "settings/reader/working_block.h"
+
+namespace veltrix {
+namespace {
+
+using BitSet = std::set<std::pair<std::uint32_t, int>>;
+
+void AddBits(const FieldDef& f, BitSet& bits) {
+  if (f.type == FieldType::kBits) {
+    for (int b = f.bit_lo; b < f.bit_lo + f.bit_count; ++b) bits.emplace(f.offset, b);
+    return;
+  }
+  for (std::uint32_t at = f.offset; at <= f.LastByte(); ++at) {
+    for (int b = 0; b < 8; ++b) bits.emplace(at, b);
+  }
+}
+
+// Bits that differ between two images of a block starting at record offset `base`.
+BitSet Changed(std::span<const std::uint8_t> before, std::span<const std::uint8_t> after,
+               std::uint32_t base) {
+  BitSet bits;
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    for (int b = 0; b < 8; ++b) {
+      if (((before[i] ^ after[i]) >> b) & 1) bits.emplace(base + i, b);
+    }
+  }
+  return bits;
+}
+
+void Randomise(Document& doc, std::mt19937& random) {
+  for (auto& b : doc.reader_block1) b = static_cast<std::uint8_t>(random());
+  for (auto& b : doc.reader_block2) b = static_cast<std::uint8_t>(random());
+  doc.record.fill(0x5A);
+}
+
+TEST(SymbologyBindings, LinearDialogsWriteOnlyTheirOwnBits) {
+  std::mt19937 random(7);
+  for (const LinearOptionDialog& dialog : LinearOptionDialogs()) {
+    BitSet own;
+    for (const CheckBoxControl& check : dialog.checks) AddBits(*check.field, own);
+    for (const ChoiceControl& group : dialog.radios) {
+      AddBits(*group.field, own);
+      if (group.flag != nullptr) AddBits(*group.flag, own);
+    }
+    if (dialog.length != nullptr) AddBits(*dialog.length, own);
+    for (int round = 0; round < 20; ++round) {
+      auto doc = std::make_unique<Document>();
+      Randomise(*doc, random);
+      const auto block1 = doc->reader_block1;
+      const auto block2 = doc->reader_block2;
+      const auto record = doc->record;
+      LinearOptionState state = OpenLinearOptions(*doc, dialog);
+      for (std::size_t i = 0; i < state.checked.size(); ++i) state.checked[i] = random() & 1;
+      for (int& chosen : state.chosen) chosen = static_cast<int>(random() % 6);
+      state.length = {(random() & 1) != 0, static_cast<int>(random() % 130),
+                      static_cast<int>(random() % 130)};
+      ApplyLinearOptions(*doc, dialog, state);
+      for (const auto& bit : Changed(block2, doc->reader_block2, kReaderBlock2Offset)) {
+        EXPECT_TRUE(own.count(bit))
+            << dialog.template_name << " wrote byte " << bit.first << " bit " << bit.second;
+      }
+      EXPECT_EQ(block1, doc->reader_block1) << dialog.template_name;
+      EXPECT_EQ(record, doc->record) << dialog.template_name;
+    }
+  }
+}
+
+TEST(SymbologyBindings, TwoDimensionalDialogsWriteOnlyTheirOwnBits) {
+  std::mt19937 random(11);
+  for (const TwoDOptionDialog& dialog : TwoDOptionDialogs()) {
+    BitSet own;
+    for (const CheckBoxControl& check : dialog.checks) AddBits(*check.field, own);
+    for (const ChoiceControl& list : dialog.lists) {
+      AddBits(*list.field, own);
+      if (list.flag != nullptr) AddBits(*list.flag, own);
+    }
+    for (const FieldDef* f : {dialog.length_option, dialog.length1, dialog.length2}) {
+      if (f != nullptr) AddBits(*f, own);
+    }
+    for (const FieldDef* f : dialog.cleared_on_open) AddBits(*f, own);
+    for (const FieldDef* f : dialog.cleared_on_ok) AddBits(*f, own);
+    for (int round = 0; round < 20; ++round) {
+      auto doc = std::make_unique<Document>();
+      Randomise(*doc, random);
+      const auto block1 = doc->reader_block1;
+      const auto block2 = doc->reader_block2;
+      const auto record = doc->record;
+      TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
+      for (std::size_t i = 0; i < state.checked.size(); ++i) state.checked[i] = random() & 1;
+      for (int& chosen : state.chosen) chosen = static_cast<int>(random() % 4);
+      state.option = static_cast<int>(random() % 4);
+      state.lengths = {static_cast<int>(random() % 130), static_cast<int>(random() % 130)};
+      ApplyTwoDOptions(*doc, dialog, state);
+      for (const auto& bit : Changed(block1, doc->reader_block1, kReaderBlock1Offset)) {
+        EXPECT_TRUE(own.count(bit))
+            << dialog.template_name << " wrote byte " << bit.first << " bit " << bit.second;
+      }
+      EXPECT_EQ(block2, doc->reader_block2) << dialog.template_name;
+      EXPECT_EQ(record, doc->record) << dialog.template_name;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace veltrix
