@@ -116,6 +116,11 @@ class MainWindowTest : public QObject {
     QCOMPARE(window_->action(kCmdConnect)->toolTip(), QString("Connect"));
   }
 
+  void menuHelpShowsTheDescription() {
+    window_->action(kCmdStopCapture)->showStatusText(window_.get());
+    QCOMPARE(window_->statusBar()->currentMessage(), QString("Stop capture screen"));
+  }
+
   void toolbarHasTheButtonsInOrder() {
     QStringList layout;
     for (QAction* a : window_->tool_bar()->actions()) {
@@ -350,6 +355,7 @@ class MainWindowTest : public QObject {
     QTest::keyClick(window_->summary_view(), Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(prompt_->shown.size(), size_t(1));
     QCOMPARE(prompt_->shown[0].text, std::string("Please select product !!"));
+    QTRY_VERIFY(window_->product_box()->hasFocus());  // the refusal points at the box
     QTest::keyClick(window_->summary_view(), Qt::Key_O, Qt::ControlModifier);
     QCOMPARE(chooser_->open_calls, 1);
     QTest::keyClick(window_->summary_view(), Qt::Key_P, Qt::ControlModifier);
