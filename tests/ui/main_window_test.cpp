@@ -319,6 +319,22 @@ class MainWindowTest : public QObject {
     QVERIFY(!window_->action(kCmdDisconnect)->isEnabled());
   }
 
+  void aSessionReportingDisconnectWhileTheWindowGoesIsHarmless() {
+    struct DyingHost : QWidget {
+      std::function<void()> on_death;
+      ~DyingHost() override { on_death(); }
+    };
+    auto* host = new DyingHost;
+    MainWindow* window = window_.get();
+    host->on_death = [window] { window->ExecuteCommand(kCmdDisconnect); };
+    window_->SetHostScreenWidget(host);
+    window_->SetSessionHandlers(SessionHandlers{[] { return true; }, [] {}, {}, {}, {}});
+    window_->ExecuteCommand(kCmdConnect);
+    window_.reset();  // must not crash
+    window_ =
+        std::make_unique<MainWindow>(MainWindow::Ports{prompt_.get(), chooser_.get()}, registry_);
+  }
+
   void connectWithoutASessionSaysSo() {
     window_->ExecuteCommand(kCmdConnect);
     QCOMPARE(prompt_->shown.size(), size_t(1));
