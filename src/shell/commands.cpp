@@ -41,8 +41,8 @@ bool DocumentCommands::OfferToSave() {
   if (!doc_.modified) return true;
   switch (prompt_.AskYesNoCancel(Title(), kSaveTheProgram)) {
     case PromptAnswer::kYes:
-      SaveSettingsFile();  // a failed save does not stop the command
-      return true;
+      // A save that fails or is cancelled stops the command: the changes stay in the window.
+      return SaveSettingsFile();
     case PromptAnswer::kNo:
       return true;
     case PromptAnswer::kCancel:
@@ -93,7 +93,11 @@ bool DocumentCommands::QueryClose() { return OfferToSave(); }
 bool DocumentCommands::OpenSettingsFile() {
   std::optional<std::string> path = chooser_.ChooseFileToOpen(SettingsFilter(), doc_.file_name);
   if (!path || path->empty()) return false;
-  if (!io_.read(doc_, *path)) return false;
+  if (!io_.read(doc_, *path)) {
+    prompt_.ShowMessage(kErrorCaption, "Could not open the settings file \"" + *path + "\".",
+                        PromptIcon::kExclamation);
+    return false;
+  }
   doc_.file_name = *path;
   return true;
 }
@@ -111,7 +115,11 @@ bool DocumentCommands::SaveSettingsFileAs() {
 }
 
 bool DocumentCommands::WriteSettingsFile() {
-  return !doc_.file_name.empty() && io_.write(doc_, doc_.file_name);
+  if (doc_.file_name.empty()) return false;
+  if (io_.write(doc_, doc_.file_name)) return true;
+  prompt_.ShowMessage(kErrorCaption, "Could not save the settings file \"" + doc_.file_name + "\".",
+                      PromptIcon::kExclamation);
+  return false;
 }
 
 }  // namespace veltrix

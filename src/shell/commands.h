@@ -15,6 +15,7 @@ inline constexpr std::string_view kSaveTheProgram = "Save the program ?";
 inline constexpr std::string_view kSettingsFilterText = "Settings (*.QVL)";
 inline constexpr std::string_view kSettingsFilterPattern = "*.QVL";
 inline constexpr std::string_view kSettingsExtension = "QVL";
+inline constexpr std::string_view kErrorCaption = "Error";
 
 // Reading and writing a settings file at a path; the real functions by default, fakes in tests.
 struct SettingsFileIo {
@@ -48,14 +49,16 @@ class DocumentCommands {
   // Closing: true when the window may close (asks "Save the program ?" while modified).
   bool QueryClose();
 
-  // The file operations: each returns true when the file was read or written.
+  // The file operations: each returns true when the file was read or written. A file that
+  // cannot be read or written is reported with the "Error" caption.
   bool OpenSettingsFile();
   bool SaveSettingsFile();
   bool SaveSettingsFileAs();
   bool WriteSettingsFile();
 
  private:
-  // While modified, asks "Save the program ?"; Yes saves (whatever the result). False on Cancel.
+  // While modified, asks "Save the program ?"; Yes saves. False on Cancel and when the save
+  // fails or its file dialog is cancelled, so unsaved changes are never dropped.
   bool OfferToSave();
 
   Document& doc_;

@@ -66,7 +66,11 @@ MainWindow::MainWindow(Ports ports, const SettingsPageRegistry& pages, QWidget* 
 }
 
 MainWindow::~MainWindow() {
+  // The host session may still report a disconnect while its widgets go: ignore it, and take
+  // the client area down while the commands it could reach still exist.
+  destroying_ = true;
   if (host_screen_ != nullptr) host_screen_->removeEventFilter(this);
+  delete centralWidget();
 }
 
 void MainWindow::CreateActions() {
@@ -235,6 +239,7 @@ void MainWindow::OnProductChosen(int index) {
 }
 
 void MainWindow::ExecuteCommand(int command_id) {
+  if (destroying_) return;
   const CommandDef* command = FindCommand(command_id);
   if (command == nullptr || !action(command_id)->isEnabled()) return;
   statusBar()->showMessage(Text(CommandDescription(command_id)).left(255));

@@ -103,6 +103,7 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<SessionCommands> session_;
   std::function<void(int)> download_handler_;
   int download_mode_ = 0;
+  bool destroying_ = false;
 
   std::map<int, QAction*> actions_;
   QToolBar* tool_bar_ = nullptr;

@@ -165,13 +165,34 @@ INSTANTIATE_TEST_SUITE_P(Answers, SaveQuestionTest,
                                            AskCase{"Cancel", PromptAnswer::kCancel, false, false}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(DocumentCommandsTest, AFailedSaveInTheCloseQuestionStillCloses) {
+TEST_F(DocumentCommandsTest, AFailedSaveInTheQuestionKeepsTheWindowAndTheChanges) {
   ChooseProduct(1);
   doc_->modified = true;
   doc_->file_name = "locked.QVL";
+  doc_->record[kSomeByte] = 0x31;
   files_.fail_writes = true;
+  prompt_.answers = {PromptAnswer::kYes, PromptAnswer::kYes};
+  EXPECT_FALSE(commands_.QueryClose());
+  commands_.New();
+  EXPECT_EQ(sheets_, 0);
+  EXPECT_EQ(doc_->record[kSomeByte], 0x31);
+  EXPECT_TRUE(doc_->modified);
+  EXPECT_EQ(Texts(),
+            (std::vector<std::string>{
+                "Save the program ?", "Could not save the settings file \"locked.QVL\".",
+                "Save the program ?", "Could not save the settings file \"locked.QVL\"."}));
+  EXPECT_EQ(prompt_.shown[1].caption, "Error");
+  EXPECT_EQ(prompt_.shown[1].icon, PromptIcon::kExclamation);
+}
+
+TEST_F(DocumentCommandsTest, ACancelledSaveAsInTheQuestionKeepsTheWindow) {
+  ChooseProduct(1);
+  doc_->modified = true;
   prompt_.answers = {PromptAnswer::kYes};
-  EXPECT_TRUE(commands_.QueryClose());
+  chooser_.save_result.reset();
+  EXPECT_FALSE(commands_.QueryClose());
+  EXPECT_EQ(chooser_.save_calls, 1);
+  EXPECT_EQ(Texts(), std::vector<std::string>{"Save the program ?"});
 }
 
 TEST_F(DocumentCommandsTest, CloseWithoutChangesDoesNotAsk) {
@@ -206,11 +227,12 @@ TEST_F(DocumentCommandsTest, CancelledOpenKeepsContentsButForgetsNameAndFlag) {
   EXPECT_EQ(chooser_.last_initial, "");  // the name was cleared before the dialog
 }
 
-TEST_F(DocumentCommandsTest, UnreadableFileOpensNothingSilently) {
+TEST_F(DocumentCommandsTest, UnreadableFileIsReportedAndOpensNothing) {
   chooser_.open_result = "missing.QVL";
   EXPECT_FALSE(commands_.Open());
-  EXPECT_TRUE(prompt_.shown.empty());
+  EXPECT_EQ(Texts(), std::vector<std::string>{"Could not open the settings file \"missing.QVL\"."});
   EXPECT_EQ(sheets_, 0);
+  EXPECT_TRUE(doc_->file_name.empty());
 }
 
 TEST_F(DocumentCommandsTest, SaveWithANameWritesAndClearsTheFlag) {

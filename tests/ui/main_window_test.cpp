@@ -116,6 +116,11 @@ class MainWindowTest : public QObject {
     QCOMPARE(window_->action(kCmdConnect)->toolTip(), QString("Connect"));
   }
 
+  void menuHelpShowsTheDescription() {
+    window_->action(kCmdStopCapture)->showStatusText(window_.get());
+    QCOMPARE(window_->statusBar()->currentMessage(), QString("Stop capture screen"));
+  }
+
   void toolbarHasTheButtonsInOrder() {
     QStringList layout;
     for (QAction* a : window_->tool_bar()->actions()) {
@@ -314,6 +319,22 @@ class MainWindowTest : public QObject {
     QVERIFY(!window_->action(kCmdDisconnect)->isEnabled());
   }
 
+  void aSessionReportingDisconnectWhileTheWindowGoesIsHarmless() {
+    struct DyingHost : QWidget {
+      std::function<void()> on_death;
+      ~DyingHost() override { on_death(); }
+    };
+    auto* host = new DyingHost;
+    MainWindow* window = window_.get();
+    host->on_death = [window] { window->ExecuteCommand(kCmdDisconnect); };
+    window_->SetHostScreenWidget(host);
+    window_->SetSessionHandlers(SessionHandlers{[] { return true; }, [] {}, {}, {}, {}});
+    window_->ExecuteCommand(kCmdConnect);
+    window_.reset();  // must not crash
+    window_ =
+        std::make_unique<MainWindow>(MainWindow::Ports{prompt_.get(), chooser_.get()}, registry_);
+  }
+
   void connectWithoutASessionSaysSo() {
     window_->ExecuteCommand(kCmdConnect);
     QCOMPARE(prompt_->shown.size(), size_t(1));
@@ -350,6 +371,7 @@ class MainWindowTest : public QObject {
     QTest::keyClick(window_->summary_view(), Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(prompt_->shown.size(), size_t(1));
     QCOMPARE(prompt_->shown[0].text, std::string("Please select product !!"));
+    QTRY_VERIFY(window_->product_box()->hasFocus());  // the refusal points at the box
     QTest::keyClick(window_->summary_view(), Qt::Key_O, Qt::ControlModifier);
     QCOMPARE(chooser_->open_calls, 1);
     QTest::keyClick(window_->summary_view(), Qt::Key_P, Qt::ControlModifier);
