@@ -1,6 +1,7 @@
 #include "tn5250/display_text.h"
 
 #include "tn5250/code_tables.h"
+#include "tn5250/double_byte.h"
 
 namespace veltrix {
 
@@ -103,9 +104,15 @@ char32_t NextUtf8(std::string_view text, std::size_t& i) {
 
 std::string ScreenRowText(const PresentationSpace& ps, int emulation_type, int row) {
   std::string out;
-  for (int column = 0; column < ps.Columns(); ++column) {
+  const int columns = ps.Columns();
+  // A pair begun in the last column of the row above ends in this row's first cell.
+  const int from = (row > 0 && ps.IsPairStart(row - 1, columns - 1)) ? 1 : 0;
+  for (int column = from; column < columns; ++column) {
     if (ps.IsPairStart(row, column)) {
-      AppendUtf8(out, kReplacement);
+      const CellAddress second = ps.Advance({row, column});
+      const char32_t c = DoubleByteToUnicode(emulation_type, ps.Character(row, column),
+                                             ps.Character(second.row, second.column));
+      AppendUtf8(out, c != 0 ? c : kReplacement);
       ++column;
       continue;
     }

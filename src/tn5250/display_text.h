@@ -22,8 +22,9 @@ void AppendUtf8(std::string& out, char32_t c);
 // Decodes one UTF-8 character at text[i] and advances i; invalid bytes give U+FFFD.
 char32_t NextUtf8(std::string_view text, std::size_t& i);
 
-// One screen row as UTF-8 text. A double-byte character shows as one U+FFFD (the PC double-byte
-// codes are not converted to Unicode here) and takes the place of its two cells.
+// One screen row as UTF-8 text. A double-byte character is one character in the text, in place
+// of its two cells (U+FFFD when the host language's double-byte code does not know the pair);
+// one that begins in the row's last column belongs to that row.
 std::string ScreenRowText(const PresentationSpace& ps, int emulation_type, int row);
 
 }  // namespace veltrix

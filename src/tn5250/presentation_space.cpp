@@ -10,6 +10,7 @@ PresentationSpace::PresentationSpace() { Reset(); }
 void PresentationSpace::Reset() {
   ClearPlanes();
   error_row_save_.fill(0);
+  error_row_pairs_save_.fill(false);
   rows_ = kScreenRows;
   columns_ = kScreenColumns;
   cursor_row_ = cursor_column_ = 0;
@@ -73,6 +74,7 @@ void PresentationSpace::SetCell(int column, int row, std::uint8_t character,
   characters_[i] = character;
   attributes_[i] = attribute;
   pair_start_[i] = false;
+  BreakPairBefore(row, column);
 }
 
 void PresentationSpace::SetAttribute(int column, int row, std::uint8_t attribute) {
@@ -86,6 +88,7 @@ void PresentationSpace::EraseCell(int column, int row, bool character, bool colo
   if (character) {
     characters_[i] = 0;
     pair_start_[i] = false;
+    BreakPairBefore(row, column);
   }
   if (colour_bits) attributes_[i] &= static_cast<std::uint8_t>(~kAttrColourMask);
   if (display_bits) attributes_[i] &= kAttrColourMask;
@@ -133,6 +136,7 @@ std::size_t PresentationSpace::WriteRun(const std::uint8_t* p, const std::uint8_
     }
     // Within one row: plain stores, then the attributes and marks in one go.
     const int i = Index(cursor_row_, cursor_column_);
+    BreakPairBefore(cursor_row_, cursor_column_);
     std::uint8_t* out = characters_.data() + i;
     const std::uint8_t* const segment_end = p + std::min<std::ptrdiff_t>(room, stop - p);
     const std::uint8_t* const segment_start = p;
@@ -148,6 +152,7 @@ std::size_t PresentationSpace::WriteRun(const std::uint8_t* p, const std::uint8_
 void PresentationSpace::FillLinear(int first, int last, std::uint8_t character) {
   first = std::max(first, 0);
   last = std::min(last, rows_ * columns_ - 1);
+  if (first <= last) BreakPairBefore(first / columns_, first % columns_);
   while (first <= last) {
     const int row = first / columns_;
     const int column = first % columns_;
@@ -179,17 +184,25 @@ void PresentationSpace::SetErrorRow(int row) {
   error_row_ = (row >= 0 && row < rows_) ? row : rows_ - 1;
 }
 
+// The double-byte marks of the row travel with its characters, so a restored row shows its
+// double-byte characters again.
 void PresentationSpace::SaveErrorRow() {
   std::copy_n(characters_.begin() + Index(error_row_, 0), kPlaneColumns, error_row_save_.begin());
+  std::copy_n(pair_start_.begin() + Index(error_row_, 0), kPlaneColumns,
+              error_row_pairs_save_.begin());
 }
 
 void PresentationSpace::RestoreErrorRow() {
   std::copy_n(error_row_save_.begin(), kPlaneColumns, characters_.begin() + Index(error_row_, 0));
+  std::copy_n(error_row_pairs_save_.begin(), kPlaneColumns,
+              pair_start_.begin() + Index(error_row_, 0));
+  BreakPairBefore(error_row_, 0);
 }
 
 void PresentationSpace::ClearErrorRow() {
   std::fill_n(characters_.begin() + Index(error_row_, 0), kPlaneColumns, std::uint8_t{0});
   std::fill_n(pair_start_.begin() + Index(error_row_, 0), kPlaneColumns, false);
+  BreakPairBefore(error_row_, 0);
 }
 
 }  // namespace veltrix

@@ -106,6 +106,7 @@ class PresentationSpace {
       characters_[i] = character;
       attributes_[i] = current_attribute_;
       pair_start_[i] = false;
+      BreakPairBefore(cursor_row_, cursor_column_);
       ++cursor_column_;
       return;
     }
@@ -134,10 +135,20 @@ class PresentationSpace {
 
  private:
   int Index(int row, int column) const { return row * kPlaneColumns + column; }
+  // A write into the second half of a double-byte character leaves its first half a single
+  // byte. (row, column) must be on the screen.
+  void BreakPairBefore(int row, int column) {
+    if (column > 0) {
+      pair_start_[Index(row, column - 1)] = false;
+    } else if (row > 0) {
+      pair_start_[Index(row - 1, columns_ - 1)] = false;
+    }
+  }
 
   std::array<std::uint8_t, kPlaneSize> characters_{};
   std::array<std::uint8_t, kPlaneSize> attributes_{};
   std::array<std::uint8_t, kPlaneColumns> error_row_save_{};
+  std::array<bool, kPlaneColumns> error_row_pairs_save_{};
   std::array<bool, kPlaneSize> pair_start_{};
   int rows_ = kScreenRows;
   int columns_ = kScreenColumns;

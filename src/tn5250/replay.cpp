@@ -160,9 +160,7 @@ std::string ReplayRun::Text() const {
   const int language = session_.Config().emulation_type;
   std::string out;
   for (int row = 0; row < ps.Rows(); ++row) {
-    std::string text = ScreenRowText(ps, language, row);
-    while (!text.empty() && text.back() == ' ') text.pop_back();  // trailing blanks say nothing
-    out += text;
+    out += ScreenRowText(ps, language, row);  // whole rows, as the screen holds them
     out += '\n';
   }
   out +=

@@ -45,8 +45,9 @@ class ReplayRun : public SessionListener {
   const std::vector<std::string>& traces() const { return traces_; }
   int alarms() const { return alarms_; }
 
-  // Text output: the screen rows, "cursor ROW COLUMN", one "field ..." line per field record,
-  // "sent HEX...", then the keyboard state, read mode, alarms and one "trace ..." line each.
+  // Text output: the screen rows in full (empty cells as blanks), "cursor ROW COLUMN", one "field
+  // ..." line per field record, "sent HEX...", then the keyboard state, read mode, alarms and one
+  // "trace ..." line each.
   std::string Text() const;
   // The same as one JSON object.
   std::string Json() const;

@@ -57,7 +57,9 @@ class ReplayCommandTest : public ::testing::Test {
 TEST_F(ReplayCommandTest, PrintsScreenCursorFieldsAndSentBytes) {
   const Result r = RunCli("replay --keys 'X<Enter>' " + stream_);
   EXPECT_EQ(r.status, 0);
-  EXPECT_NE(r.out.find("\n   XI\n"), std::string::npos) << r.out;
+  // Whole rows: the blanks after the last character are part of the screen.
+  EXPECT_NE(r.out.find("\n   XI" + std::string(75, ' ') + "\n"), std::string::npos) << r.out;
+  EXPECT_EQ(r.out.rfind(std::string(80, ' ') + "\n", 0), 0u) << r.out;
   EXPECT_NE(r.out.find("cursor 1 4\n"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("field number=1 resequence=0 row=1 column=3 length=6 ffw=4800 "
                        "fcw=0000 attribute=44\n"),
@@ -91,7 +93,7 @@ TEST_F(ReplayCommandTest, RefusesBadArguments) {
 TEST_F(ReplayCommandTest, GreekAndLocalName) {
   const Result r = RunCli("replay --emulation 5 --local-name DEV7 --keys 'α<Enter>' " + stream_);
   EXPECT_EQ(r.status, 0);
-  EXPECT_NE(r.out.find("\n   αI\n"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("\n   αI" + std::string(75, ' ') + "\n"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find(" 02 05 F1 8A C9 FF EF\n"), std::string::npos) << r.out;
 }
 
