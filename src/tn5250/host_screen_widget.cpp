@@ -70,8 +70,8 @@ QString HostScreenWidget::RowText(int row) const {
 void HostScreenWidget::OnScreenChanged(const ScreenChange& change) {
   if (change.kind == ScreenChange::Kind::kCell) {
     update(CellRectangle(change.row, change.column));
-    update(CellRectangle(Rows() > 0 ? connection_->session().CursorRow() : 0,
-                         connection_->session().CursorColumn()));
+    update(
+        CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
   } else {
     // Qt merges these requests: a host flooding the screen costs one paint per event-loop turn.
     update();
@@ -85,15 +85,13 @@ void HostScreenWidget::ApplyRepaint(const KeyRepaint& result) {
     case Repaint::kNothing:
       return;
     case Repaint::kCaret:
-      break;
     case Repaint::kCell:
-      update(CellRectangle(result.old_row, result.old_column));
       break;
     case Repaint::kWindow:
       update();
       return;
   }
-  // The caret leaves the old cell and appears in the new one.
+  // The old cell (its new character, or just the caret leaving it) and the caret's new cell.
   update(CellRectangle(result.old_row, result.old_column));
   update(CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
 }
