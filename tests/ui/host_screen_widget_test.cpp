@@ -128,12 +128,14 @@ void HostScreenWidgetTest::cellSizeFollowsTheWindow() {
   QFETCH(QSize, size);
   QFETCH(int, cell_width);
   QFETCH(int, row_height);
-  screen_->resize(size);
+  // `size` is the client area, inside the sunken edge.
+  const int edge = screen_->frameWidth();
+  screen_->resize(size + QSize(2 * edge, 2 * edge));
   screen_->show();
   QCOMPARE(screen_->metrics().cell_width, cell_width);
   QCOMPARE(screen_->metrics().row_height(), row_height);
   QCOMPARE(screen_->CellRectangle(2, 3),
-           QRect(3 * cell_width, 2 * row_height, cell_width, row_height));
+           QRect(3 * cell_width + edge, 2 * row_height + edge, cell_width, row_height));
 }
 
 void HostScreenWidgetTest::drawsRunsByTheirLowAttributeBits() {

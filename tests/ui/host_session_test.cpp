@@ -19,6 +19,19 @@ namespace veltrix {
 
 namespace {
 
+// AddressSanitizer keeps freed memory in quarantine, so resident memory says nothing there.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kMemoryIsMeasurable = false;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+constexpr bool kMemoryIsMeasurable = false;
+#else
+constexpr bool kMemoryIsMeasurable = true;
+#endif
+#else
+constexpr bool kMemoryIsMeasurable = true;
+#endif
+
 // Resident memory of this process in KB.
 long ResidentKb() {
   QFile statm(QStringLiteral("/proc/self/statm"));
@@ -252,6 +265,10 @@ void HostSessionTest::sessionLogRecordsTheTrafficLineByLine() {
   QVERIFY(lines[lines.size() - 3].startsWith(QStringLiteral("Recv:")));
   QCOMPARE(lines[lines.size() - 2], QString());
   QVERIFY(lines.last().startsWith(QStringLiteral("Close:")));
+  // One receive takes at most 1,024 bytes.
+  for (int i = 1; i + 1 < lines.size(); i += 2) {
+    if (lines[i].startsWith(QStringLiteral("Recv:"))) QVERIFY(lines[i + 1].size() <= 3 * 1024);
+  }
   // Everything the host received is in the log's send lines.
   QCOMPARE(SentBytesInLog(lines), server_->receivedBytes());
 }
@@ -334,7 +351,7 @@ void HostSessionTest::floodKeepsTheWindowResponsive() {
   QVERIFY(host_->connected());
   QVERIFY2(max_gap < 1000, qPrintable(QString::number(max_gap)));
   QVERIFY(paints > 1);
-  QVERIFY2(growth < 64 * 1024, qPrintable(QString::number(growth)));
+  if (kMemoryIsMeasurable) QVERIFY2(growth < 64 * 1024, qPrintable(QString::number(growth)));
   delete peer;
 }
 

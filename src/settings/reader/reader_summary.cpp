@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "settings/reader/length_pair.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/reader_names.h"
 #include "settings/reader/reader_record_fields.h"
@@ -144,24 +145,23 @@ std::string Labelled(std::string_view label, const std::string& value) {
 }
 
 void AppendLengthPair(const Document& doc, const FieldDef& length, SummaryNode& item) {
-  const auto bytes = WorkingBytes(doc, length);
-  const bool max_min = (bytes[0] & 0x80) != 0;
-  item.Add(Labelled("Length Qualification", NameOf(kLengthQualificationNames, max_min ? 1 : 0)));
-  item.Add(Labelled(max_min ? "Max Length" : "Fixed Length 1", std::to_string(bytes[0] & 0x7F)));
-  item.Add(Labelled(max_min ? "Min Length" : "Fixed Length 2", std::to_string(bytes[1])));
+  const LengthPair pair = UnpackLengthPair(WorkingBytes(doc, length));
+  item.Add(Labelled("Length Qualification", NameOf(kLengthQualificationNames, pair.max_min)));
+  item.Add(Labelled(pair.max_min ? "Max Length" : "Fixed Length 1", std::to_string(pair.first)));
+  item.Add(Labelled(pair.max_min ? "Min Length" : "Fixed Length 2", std::to_string(pair.second)));
 }
 
-void AppendItem(const Document& doc, const SymbologyItem& spec, SummaryNode& parent) {
-  std::string title(spec.title);
-  if (spec.enable != nullptr) title = Value(doc, *spec.enable) + " " + title;
+void AppendItem(const Document& doc, const SymbologyItem& symbology, SummaryNode& parent) {
+  std::string title(symbology.title);
+  if (symbology.enable != nullptr) title = Value(doc, *symbology.enable) + " " + title;
   SummaryNode& item = parent.Add(title);
-  for (const OptionLine& line : spec.lines) {
+  for (const OptionLine& line : symbology.lines) {
     const std::string value = Value(doc, *line.field, line.names);
     item.Add(line.value_first ? value + " " + std::string(line.label)
                               : Labelled(line.label, value));
   }
-  if (spec.length != nullptr) AppendLengthPair(doc, *spec.length, item);
-  for (const SymbologyItem& sub : spec.subitems) AppendItem(doc, sub, item);
+  if (symbology.length != nullptr) AppendLengthPair(doc, *symbology.length, item);
+  for (const SymbologyItem& sub : symbology.subitems) AppendItem(doc, sub, item);
 }
 
 void AppendReaderSettings(const Document& doc, SummaryNode& item) {
