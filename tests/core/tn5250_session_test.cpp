@@ -103,6 +103,14 @@ TEST(DoubleByteTest, PairsGoThroughTheLanguageTable) {
   }
 }
 
+TEST(DoubleByteTest, JapaneseBlankPairIsTheFullWidthBlank) {
+  Session session({4, ""});
+  session.Receive(Record(Hex("04 40 04 11 00 40 11 01 01 0E 40 40 0F")));
+  EXPECT_EQ(session.Screen().Character(0, 1), 0x81);
+  EXPECT_EQ(session.Screen().Character(0, 2), 0x40);
+  EXPECT_EQ(ScreenRowText(session.Screen(), 4, 0).substr(0, 5), " \xEF\xBF\xBD ");
+}
+
 TEST(DoubleByteTest, AttributeBytesAreHalvesInDoubleByteMode) {
   Session session;
   session.Receive(Record(Hex("04 40 04 11 00 40 11 01 01 0E 22 23 0F C1")));
