@@ -60,9 +60,6 @@ bool IsLeadByte(int emulation_type, std::uint8_t byte);
 // cell, or followed by an empty cell, is drawn as a single cell.
 std::vector<CellGlyph> RowGlyphs(int emulation_type, std::span<const std::uint8_t> characters);
 
-// Which part of the window a change asks to repaint.
-enum class RepaintArea : std::uint8_t { kNone, kCaret, kCell, kWhole };
-
 }  // namespace veltrix
 
 #endif  // VELTRIX_TN5250_HOST_SCREEN_H_

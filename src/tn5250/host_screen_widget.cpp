@@ -11,13 +11,14 @@
 
 namespace veltrix {
 
-HostScreenWidget::HostScreenWidget(QWidget* parent) : QWidget(parent) {
+HostScreenWidget::HostScreenWidget(QWidget* parent) : QFrame(parent) {
+  setFrameStyle(QFrame::Panel | QFrame::Sunken);
   setObjectName(QStringLiteral("Client"));
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_InputMethodEnabled, false);
   setAutoFillBackground(false);
-  metrics_ = ComputeCellMetrics(width(), height(), Rows(), Columns());
+  metrics_ = ComputeCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
   UpdateFont();
 }
 
@@ -29,7 +30,7 @@ void HostScreenWidget::SetConnection(HostConnection* connection) {
   if (connection_) connection_->SetView(nullptr);
   connection_ = connection;
   if (connection_) connection_->SetView(this);
-  metrics_ = ComputeCellMetrics(width(), height(), Rows(), Columns());
+  metrics_ = ComputeCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
   UpdateFont();
   update();
 }
@@ -44,7 +45,7 @@ int HostScreenWidget::Columns() const {
 
 QRect HostScreenWidget::CellRectangle(int row, int column) const {
   PixelRect r = CellRect(metrics_, row, column);
-  return QRect(r.x, r.y, r.width, r.height);
+  return QRect(r.x, r.y, r.width, r.height).translated(contentsRect().topLeft());
 }
 
 QString HostScreenWidget::RowText(int row) const {
@@ -69,8 +70,8 @@ QString HostScreenWidget::RowText(int row) const {
 void HostScreenWidget::OnScreenChanged(const ScreenChange& change) {
   if (change.kind == ScreenChange::Kind::kCell) {
     update(CellRectangle(change.row, change.column));
-    update(CellRectangle(Rows() > 0 ? connection_->session().CursorRow() : 0,
-                         connection_->session().CursorColumn()));
+    update(
+        CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
   } else {
     // Qt merges these requests: a host flooding the screen costs one paint per event-loop turn.
     update();
@@ -84,15 +85,13 @@ void HostScreenWidget::ApplyRepaint(const KeyRepaint& result) {
     case Repaint::kNothing:
       return;
     case Repaint::kCaret:
-      break;
     case Repaint::kCell:
-      update(CellRectangle(result.old_row, result.old_column));
       break;
     case Repaint::kWindow:
       update();
       return;
   }
-  // The caret leaves the old cell and appears in the new one.
+  // The old cell (its new character, or just the caret leaving it) and the caret's new cell.
   update(CellRectangle(result.old_row, result.old_column));
   update(CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
 }
@@ -103,12 +102,12 @@ bool HostScreenWidget::event(QEvent* event) {
     event->accept();
     return true;
   }
-  return QWidget::event(event);
+  return QFrame::event(event);
 }
 
 void HostScreenWidget::keyPressEvent(QKeyEvent* event) {
   if (!connection_) {
-    QWidget::keyPressEvent(event);
+    QFrame::keyPressEvent(event);
     return;
   }
   PcKey key = PcKeyFromQt(event->key(), event->modifiers());
@@ -124,18 +123,18 @@ void HostScreenWidget::keyPressEvent(QKeyEvent* event) {
 bool HostScreenWidget::focusNextPrevChild(bool) { return false; }  // Tab is a host key
 
 void HostScreenWidget::focusInEvent(QFocusEvent* event) {
-  QWidget::focusInEvent(event);
+  QFrame::focusInEvent(event);
   update();
 }
 
 void HostScreenWidget::focusOutEvent(QFocusEvent* event) {
-  QWidget::focusOutEvent(event);
+  QFrame::focusOutEvent(event);
   update();
 }
 
 void HostScreenWidget::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  metrics_ = ComputeCellMetrics(width(), height(), Rows(), Columns());
+  QFrame::resizeEvent(event);
+  metrics_ = ComputeCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
   UpdateFont();
   update();
 }
@@ -159,7 +158,12 @@ void HostScreenWidget::UpdateFont() {
 void HostScreenWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), Qt::white);
+  drawFrame(&painter);
   if (!connection_) return;
+  // Cells are laid out from the client area's corner, inside the sunken edge.
+  const QPoint origin = contentsRect().topLeft();
+  painter.setClipRect(contentsRect());
+  painter.translate(origin);
   painter.setFont(font_);
   const PresentationSpace& ps = connection_->session().Screen();
   const int language = connection_->emulation_type();
@@ -169,7 +173,7 @@ void HostScreenWidget::paintEvent(QPaintEvent* event) {
   const int rh = metrics_.row_height();
   const int ch = metrics_.character_height;
   QFontMetrics fm(font_);
-  const QRect dirty = event->rect();
+  const QRect dirty = event->rect().translated(-origin);
 
   for (int r = 0; r < rows; ++r) {
     const int y = rh * r;

@@ -2,7 +2,7 @@
 #define VELTRIX_TN5250_HOST_SCREEN_WIDGET_H_
 
 #include <QFont>
-#include <QWidget>
+#include <QFrame>
 
 #include "tn5250/host_connection.h"
 #include "tn5250/host_screen.h"
@@ -10,9 +10,10 @@
 
 namespace veltrix {
 
-// Shows the host screen black on white with the caret at the cursor, and passes the keyboard to
-// the host session. While it has the focus it takes every key, the menu's shortcut keys included.
-class HostScreenWidget : public QWidget, public SessionListener {
+// Shows the host screen black on white inside a sunken edge with the caret at the cursor, and
+// passes the keyboard to the host session. While it has the focus it takes every key, the menu's
+// shortcut keys included.
+class HostScreenWidget : public QFrame, public SessionListener {
   Q_OBJECT
 
  public:

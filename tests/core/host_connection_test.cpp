@@ -141,6 +141,25 @@ TEST_F(HostConnectionTest, TrafficIsLoggedAndAnsweredThroughTheLink) {
   EXPECT_EQ(1, link.closes);
 }
 
+TEST_F(HostConnectionTest, AReceiveErrorIsLoggedWithoutAMessage) {
+  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  connection.ReceiveFailed();
+  connection.Disconnect();
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(
+      "Connect:20261123123\r\n"
+      "Recv:20261123123\r\n"
+      "\r\n"
+      "Close:20261123123\r\n",
+      sink.text);
+  // After the end nothing more is logged or sent.
+  const std::uint8_t bytes[] = {0xFF, 0xFD, 0x18};
+  connection.Received(bytes);
+  connection.HostClosed();
+  EXPECT_TRUE(link.sent.empty());
+  EXPECT_TRUE(messages.shown.empty());
+}
+
 TEST_F(HostConnectionTest, KeysDoNothingWhileNotConnected) {
   EXPECT_FALSE(connection.KeyDown(PcKey::kEnter).has_value());
   EXPECT_FALSE(connection.Character(U'a').has_value());

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -101,6 +102,19 @@ TEST(WepKeys, LengthChangesShowAndClearTheRightBytes) {
   ChangeWepKeyLength(*doc, 1);
   EXPECT_EQ("10 11 12 13 14 00 00 00 00 00 00 00 00 ", StoredWepKeyText(*doc, 2));
   EXPECT_EQ("", StoredWepKeyText(*doc, 4));
+}
+
+TEST(WepKeys, LongerKeysShowZerosEvenWhenAFileHeldBytesBehindTheShortKey) {
+  auto doc = NewDocument(1);
+  // 64-bit keys with bytes behind them, as a file can hold them.
+  for (int k = 0; k < kWepKeyCount; ++k) {
+    auto stored = FieldBytes(std::span<std::uint8_t>(doc->record), kWepKey, k);
+    std::fill(stored.begin(), stored.end(), static_cast<std::uint8_t>(0xA0 + k));
+  }
+  ChangeWepKeyLength(*doc, 1);
+  EXPECT_EQ("A1 A1 A1 A1 A1 00 00 00 00 00 00 00 00 ", StoredWepKeyText(*doc, 1));
+  auto stored = FieldBytes(std::span<const std::uint8_t>(doc->record), kWepKey, 3);
+  for (int i = 5; i < 16; ++i) EXPECT_EQ(0, stored[i]) << i;
 }
 
 TEST(HostList, TypingChangesOnlyTheActiveEntryAndApplyPadsOnlyIt) {

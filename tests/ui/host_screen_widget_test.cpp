@@ -74,6 +74,7 @@ class HostScreenWidgetTest : public QObject {
   void cellSizeFollowsTheWindow();
   void drawsRunsByTheirLowAttributeBits();
   void showsDoubleByteCharactersInTwoCells();
+  void caretShowsOnlyWhileFocused();
   void qtKeysMapToPcKeys_data();
   void qtKeysMapToPcKeys();
 
@@ -128,12 +129,14 @@ void HostScreenWidgetTest::cellSizeFollowsTheWindow() {
   QFETCH(QSize, size);
   QFETCH(int, cell_width);
   QFETCH(int, row_height);
-  screen_->resize(size);
+  // `size` is the client area, inside the sunken edge.
+  const int edge = screen_->frameWidth();
+  screen_->resize(size + QSize(2 * edge, 2 * edge));
   screen_->show();
   QCOMPARE(screen_->metrics().cell_width, cell_width);
   QCOMPARE(screen_->metrics().row_height(), row_height);
   QCOMPARE(screen_->CellRectangle(2, 3),
-           QRect(3 * cell_width, 2 * row_height, cell_width, row_height));
+           QRect(3 * cell_width + edge, 2 * row_height + edge, cell_width, row_height));
 }
 
 void HostScreenWidgetTest::drawsRunsByTheirLowAttributeBits() {
@@ -200,6 +203,27 @@ void HostScreenWidgetTest::showsDoubleByteCharactersInTwoCells() {
   const QImage image = screen_->grab().toImage();
   const int column = row.indexOf(QString::fromUcs4(&ideograph, 1));
   QVERIFY(AnyDark(image, screen_->CellRectangle(1, column)));
+}
+
+void HostScreenWidgetTest::caretShowsOnlyWhileFocused() {
+  Open(0);
+  demo_host::OutboundRecord r;
+  r.ClearUnit().WriteToDisplay(0x00, 0x08).InsertCursor(4, 11);
+  Feed(r.Finish());
+  const int row = connection_->session().CursorRow();
+  const int column = connection_->session().CursorColumn();
+  screen_->resize(640, 480);
+  const QRect cell = screen_->CellRectangle(row, column);
+  const QRect block(cell.left(), cell.top(), cell.width(), screen_->metrics().character_height);
+  QVERIFY(!AnyDark(screen_->grab().toImage(), block));
+  screen_->show();
+  screen_->activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(screen_.get()));
+  screen_->setFocus();
+  QTRY_VERIFY(screen_->hasFocus());
+  QVERIFY(AllDark(screen_->grab().toImage(), block));
+  // Only that cell.
+  QVERIFY(!AnyDark(screen_->grab().toImage(), screen_->CellRectangle(row, column + 1)));
 }
 
 void HostScreenWidgetTest::qtKeysMapToPcKeys_data() {

@@ -31,8 +31,11 @@ void StoreWepKey(Document& doc, int index, std::span<const std::uint8_t> key) {
 }
 
 void ChangeWepKeyLength(Document& doc, int length_choice) {
+  // The keys were shown, and so stored, with the former length: bytes past it are zero, even
+  // when a file held something there, so a longer key shows zeros behind the former key.
+  const int former = WepKeyBytes(doc);
   WriteNumber(doc.record, kWepKeyLength, static_cast<std::uint32_t>(length_choice));
-  const auto length = static_cast<std::size_t>(WepKeyBytes(doc));
+  const auto length = static_cast<std::size_t>(std::min(former, WepKeyBytes(doc)));
   for (int i = 0; i < kWepKeyCount; ++i) {
     auto stored = FieldBytes(std::span<std::uint8_t>(doc.record), kWepKey, i);
     std::fill(stored.begin() + length, stored.end(), 0);

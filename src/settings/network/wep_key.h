@@ -25,7 +25,8 @@ std::string StoredWepKeyText(const Document& doc, int index);
 // Stores a key entered for `index`: its first L bytes (L = WepKeyBytes), zero-filled to 16.
 void StoreWepKey(Document& doc, int index, std::span<const std::uint8_t> key);
 
-// A new key length choice (0 or 1): stored; every key keeps only its first L bytes.
+// A new key length choice (0 or 1): stored; every key keeps only its first bytes up to the
+// shorter of the former and the new length, the rest zero.
 void ChangeWepKeyLength(Document& doc, int length_choice);
 
 }  // namespace veltrix

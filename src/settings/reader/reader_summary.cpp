@@ -74,7 +74,6 @@ constexpr std::array kEan8Lines{OptionLine{"EAN 8", &kEan8, kOnOffNames, true},
                                 OptionLine{"EAN 8 Addon 5", &kEan8Addon5, kOnOffNames, true},
                                 OptionLine{"Convert to EAN 13", &kEan8ConvertToEan13},
                                 OptionLine{"Transmit Checksum", &kEan8TransmitChecksum}};
-constexpr std::array kEan13UpcaLines{OptionLine{"EAN 13 && UPCA", &kEan13Upca, kOnOffNames, true}};
 constexpr std::array kEan13Lines{OptionLine{"EAN 13 Addon 2", &kEan13Addon2, kOnOffNames, true},
                                  OptionLine{"EAN 13 Addon 5", &kEan13Addon5, kOnOffNames, true},
                                  OptionLine{"ISBN Conversion", &kEan13IsbnConversion},
@@ -85,6 +84,9 @@ constexpr std::array kUpcaLines{OptionLine{"Convert to EAN 13", &kUpcaConvertToE
                                 OptionLine{"Transmit System Number", &kUpcaTransmitSystemNumber}};
 constexpr std::array kEan13UpcaSubitems{SymbologyItem{.title = "EAN 13", .lines = kEan13Lines},
                                         SymbologyItem{.title = "UPCA", .lines = kUpcaLines}};
+// The EAN 13 and UPCA groups hang below the enable line, not beside it.
+constexpr std::array kEan13UpcaEnable{SymbologyItem{
+    .title = "EAN 13 && UPCA", .enable = &kEan13Upca, .subitems = kEan13UpcaSubitems}};
 constexpr std::array kRss14Lines{
     OptionLine{"Transmit Code ID", &kRss14TransmitCodeId},
     OptionLine{"Transmit Application ID", &kRss14TransmitApplicationId},
@@ -124,8 +126,7 @@ constexpr std::array kSymbologyItems{
     SymbologyItem{.title = "Plessey", .enable = &kPlessey, .lines = kPlesseyLines},
     SymbologyItem{.title = "UPCE", .lines = kUpceLines},
     SymbologyItem{.title = "EAN 8", .lines = kEan8Lines},
-    SymbologyItem{
-        .title = "EAN 13 && UPCA", .lines = kEan13UpcaLines, .subitems = kEan13UpcaSubitems},
+    SymbologyItem{.title = "EAN 13 && UPCA", .subitems = kEan13UpcaEnable},
     SymbologyItem{.title = "RSS 14", .enable = &kRss14, .lines = kRss14Lines},
     SymbologyItem{.title = "RSS 14 Limited", .enable = &kRss14Limited, .lines = kRss14LimitedLines},
     SymbologyItem{
