@@ -45,15 +45,6 @@ TEST_F(PromptEditorTest, MainMenuShowsStoredBlankSlotsInDisabledRows) {
   }
 }
 
-TEST_F(PromptEditorTest, ErrorMessagesDisableOnlyTheEighthRow) {
-  editor_.Select(10);
-  const auto rows = editor_.Rows(2);
-  EXPECT_TRUE(rows[6].enabled);
-  EXPECT_FALSE(rows[7].enabled);
-  EXPECT_EQ(std::string(20, ' '), rows[7].text);
-  EXPECT_EQ(rows[7].text, rows[7].label);
-}
-
 TEST_F(PromptEditorTest, UtilitiesLineSixHasTheFixedLabelForEveryProduct) {
   editor_.Select(1);
   EXPECT_EQ("6.Set Date && Time   ", editor_.Rows(2)[5].label);

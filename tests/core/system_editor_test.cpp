@@ -101,18 +101,6 @@ TEST_F(SystemEditorTest, ApplyPadsSetsModifiedAndCancelThenKeepsTheRecord) {
   EXPECT_EQ(applied, doc_->record);
 }
 
-TEST_F(SystemEditorTest, ScreenNamesFollowTheProduct) {
-  EXPECT_EQ("Main Menu (12*2)              ", editor_->ScreenNames().front());
-  editor_->SelectScreen(10);
-  EXPECT_FALSE(editor_->Rows()[7].enabled);
-}
-
-}  // namespace
-}  // namespace veltrix
-
-namespace veltrix {
-namespace {
-
 // Reset after edits on many screens gives every text of the product's defaults back.
 TEST(SystemEditorReset, RestoresAllTwelveScreensOfTheProduct) {
   for (int product : {1, 2}) {
@@ -131,16 +119,6 @@ TEST(SystemEditorReset, RestoresAllTwelveScreensOfTheProduct) {
           << "product " << product << " slot " << slot;
     }
   }
-}
-
-// A change of product replaces the texts by that product's defaults.
-TEST(SystemEditorReset, ProductChangeGivesThatProductsTexts) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, 1);
-  EXPECT_EQ("1. Telnet   ", ReadText(doc->record, kPromptText, 0));
-  SetDefaults(*doc, 2);
-  EXPECT_EQ("1. Telnet      ", ReadText(doc->record, kPromptText, 0));
-  EXPECT_EQ("Download failed", ReadText(doc->record, kPromptText, PromptSlot(9, 3)));
 }
 
 }  // namespace

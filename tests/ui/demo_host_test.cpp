@@ -151,6 +151,17 @@ bool SignOn(DemoHostServer& server, Station& station) {
   return station.NextRecord().contains(Host("Veltrix Demo Main Menu"));
 }
 
+// A demo host on an ephemeral port and the station that talks to it.
+struct Link {
+  DemoHostServer server;
+  Station station;
+
+  bool Open(const QByteArray& device_name) {
+    return server.Listen(0) && station.Connect(server.port()) && station.Negotiate(device_name);
+  }
+  bool SignedOn() { return server.Listen(0) && SignOn(server, station); }
+};
+
 // Veltrix's own session engine wired to a host session without sockets: what one sends the
 // other receives, until both are quiet.
 class EnginePipe : public veltrix::SessionListener {
@@ -214,8 +225,7 @@ class DemoHostTest : public QObject {
   void aidRecordParsing();
   void negotiationSignOnAndMenu();
   void signOnWithoutUserGivesErrorCode();
-  void listPagesDownAndStopsAtTheEnds();
-  void listOptionDisplaysItem();
+  void listOptionsAndPagingStopAtTheEnds();
   void quantityChecksInputWithErrorCode_data();
   void quantityChecksInputWithErrorCode();
   void readImmediateFetchesFields();
@@ -339,12 +349,9 @@ void DemoHostTest::aidRecordParsing() {
 }
 
 void DemoHostTest::negotiationSignOnAndMenu() {
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  QVERIFY(server.port() != 0);
-  Station station;
-  QVERIFY(station.Connect(server.port()));
-  QVERIFY(station.Negotiate("QPADEV0001"));
+  Link link;
+  QVERIFY(link.Open("QPADEV0001"));
+  auto& [server, station] = link;
 
   QCOMPARE(station.NextRecord(), Bytes({0x00, 0x11, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 0x04, 0xF3, 0x00,
                                         0x05, 0xD9, 0x70, 0x00}));
@@ -374,11 +381,9 @@ void DemoHostTest::negotiationSignOnAndMenu() {
 }
 
 void DemoHostTest::signOnWithoutUserGivesErrorCode() {
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  Station station;
-  QVERIFY(station.Connect(server.port()));
-  QVERIFY(station.Negotiate(""));
+  Link link;
+  QVERIFY(link.Open(""));
+  Station& station = link.station;
   station.NextRecord();
   QVERIFY(station.NextRecord().contains(Host("DEMO0001")));  // no device name: a default
   station.SendRecord(AidRecord(6, 53, kAidEnter));
@@ -388,15 +393,20 @@ void DemoHostTest::signOnWithoutUserGivesErrorCode() {
   QVERIFY(error.endsWith(Bytes({0x04, 0x52, 0x00, 0x40})));
 }
 
-void DemoHostTest::listPagesDownAndStopsAtTheEnds() {
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  Station station;
-  QVERIFY(SignOn(server, station));
+void DemoHostTest::listOptionsAndPagingStopAtTheEnds() {
+  Link link;
+  QVERIFY(link.SignedOn());
+  Station& station = link.station;
   station.SendRecord(AidRecord(21, 8, kAidEnter, {{21, 7, "1"}}));
   QByteArray page = station.NextRecord();
   QVERIFY(page.contains(Host("ITEM0001")));
   QVERIFY(page.contains(Host("More...")));
+  station.SendRecord(AidRecord(9, 3, kAidEnter, {{9, 3, "5"}}));
+  QVERIFY(station.NextRecord().contains(Host("ITEM0003: Flat washer M4, quantity 86.")));
+  station.SendRecord(AidRecord(8, 3, kAidEnter, {{8, 3, "4"}}));
+  const QByteArray error = station.NextRecord();
+  QCOMPARE(error.mid(kRecordHeaderSize, 5), Bytes({0x04, 0x21, 0x13, 8, 3}));
+  QVERIFY(error.contains(Host("Option 4 is not valid.")));
   station.SendRecord(AidRecord(7, 3, kAidPageUp));
   QVERIFY(station.NextRecord().contains(Host("You are at the top of the list.")));
   for (const char* first : {"ITEM0011", "ITEM0021", "ITEM0031"}) {
@@ -415,21 +425,6 @@ void DemoHostTest::listPagesDownAndStopsAtTheEnds() {
   QVERIFY(station.NextRecord().contains(Host("ITEM0021")));
   station.SendRecord(AidRecord(7, 3, kAidF12));
   QVERIFY(station.NextRecord().contains(Host("Veltrix Demo Main Menu")));
-}
-
-void DemoHostTest::listOptionDisplaysItem() {
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  Station station;
-  QVERIFY(SignOn(server, station));
-  station.SendRecord(AidRecord(21, 8, kAidEnter, {{21, 7, "1"}}));
-  station.NextRecord();
-  station.SendRecord(AidRecord(9, 3, kAidEnter, {{9, 3, "5"}}));
-  QVERIFY(station.NextRecord().contains(Host("ITEM0003: Flat washer M4, quantity 86.")));
-  station.SendRecord(AidRecord(8, 3, kAidEnter, {{8, 3, "4"}}));
-  const QByteArray error = station.NextRecord();
-  QCOMPARE(error.mid(kRecordHeaderSize, 5), Bytes({0x04, 0x21, 0x13, 8, 3}));
-  QVERIFY(error.contains(Host("Option 4 is not valid.")));
 }
 
 void DemoHostTest::quantityChecksInputWithErrorCode_data() {
@@ -456,10 +451,9 @@ void DemoHostTest::quantityChecksInputWithErrorCode() {
   QFETCH(QByteArray, quantity);
   QFETCH(int, error_row);
   QFETCH(QByteArray, message);
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  Station station;
-  QVERIFY(SignOn(server, station));
+  Link link;
+  QVERIFY(link.SignedOn());
+  Station& station = link.station;
   station.SendRecord(AidRecord(21, 8, kAidEnter, {{21, 7, "2"}}));
   QVERIFY(station.NextRecord().contains(Host("Enter a Quantity")));
   QList<FieldData> fields = {{5, 34, item}};
@@ -475,10 +469,9 @@ void DemoHostTest::quantityChecksInputWithErrorCode() {
 }
 
 void DemoHostTest::readImmediateFetchesFields() {
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  Station station;
-  QVERIFY(SignOn(server, station));
+  Link link;
+  QVERIFY(link.SignedOn());
+  Station& station = link.station;
   station.SendRecord(AidRecord(21, 8, kAidEnter, {{21, 7, "2"}}));
   station.NextRecord();
   station.SendRecord(AidRecord(5, 34, kAidF5));
@@ -495,12 +488,10 @@ void DemoHostTest::readImmediateFetchesFields() {
 }
 
 void DemoHostTest::f3OnSignOnEndsTheSession() {
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  QSignalSpy gone(&server, &DemoHostServer::stationDisconnected);
-  Station station;
-  QVERIFY(station.Connect(server.port()));
-  QVERIFY(station.Negotiate("X"));
+  Link link;
+  QSignalSpy gone(&link.server, &DemoHostServer::stationDisconnected);
+  QVERIFY(link.Open("X"));
+  Station& station = link.station;
   station.NextRecord();
   station.NextRecord();
   station.SendRecord(AidRecord(6, 53, kAidF3));
@@ -509,16 +500,14 @@ void DemoHostTest::f3OnSignOnEndsTheSession() {
 }
 
 void DemoHostTest::scriptSendsExpectsAndLogs() {
-  DemoHostServer server;
+  Link link;
+  auto& [server, station] = link;
   const auto first = OutboundRecord().ClearUnit().WriteToDisplay(0, 8).TextAt(2, 2, "HI").Finish();
   const auto second = OutboundRecord().ReadImmediate().Finish();
   const std::vector<std::uint8_t> wanted = {0x00, 0x0D, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 1, 1, 0xF1};
   server.SetScript({ScriptStep::Send(first), ScriptStep::Expect(wanted), ScriptStep::Send(second),
                     ScriptStep::ExpectAny(), ScriptStep::Close()});
-  QVERIFY(server.Listen(0));
-  Station station;
-  QVERIFY(station.Connect(server.port()));
-  QVERIFY(station.Negotiate("S"));
+  QVERIFY(link.Open("S"));
   QCOMPARE(station.NextRecord(), Bytes(first));
   QVERIFY(!server.scriptFinished());
   // A different AID than the script expects: noted, and the script goes on.

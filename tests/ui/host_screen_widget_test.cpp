@@ -120,7 +120,6 @@ void HostScreenWidgetTest::cellSizeFollowsTheWindow_data() {
   QTest::addColumn<int>("cell_width");
   QTest::addColumn<int>("row_height");
   QTest::newRow("640 x 480") << QSize(640, 480) << 8 << 19;
-  QTest::newRow("narrower than 80 cells") << QSize(500, 480) << 8 << 19;
   QTest::newRow("too low") << QSize(640, 200) << 8 << 18;
   QTest::newRow("large") << QSize(1280, 1024) << 16 << 41;
 }

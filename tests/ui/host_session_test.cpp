@@ -63,7 +63,6 @@ class HostSessionTest : public QObject {
   void hostClosingEndsTheSession();
   void userDisconnectClosesTheHostSide();
   void sessionLogRecordsTheTrafficLineByLine();
-  void noLogWithoutSaveLog();
   void refusedConnectionShowsItsMessage();
   void floodKeepsTheWindowResponsive();
 
@@ -271,13 +270,6 @@ void HostSessionTest::sessionLogRecordsTheTrafficLineByLine() {
   }
   // Everything the host received is in the log's send lines.
   QCOMPARE(SentBytesInLog(lines), server_->receivedBytes());
-}
-
-void HostSessionTest::noLogWithoutSaveLog() {
-  QVERIFY(Connect(false));
-  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
-  host_->DisconnectFromHost();
-  QVERIFY(!QFile::exists(dir_->filePath(QStringLiteral("Logs/Quarvel-TN.log"))));
 }
 
 void HostSessionTest::refusedConnectionShowsItsMessage() {
