@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 
+#include "tn5250/display_text.h"
 #include "tn5250/session.h"
 
 namespace {
@@ -49,6 +50,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (int c = 0; c < ps.Columns(); ++c) sum += ps.Character(r, c) + ps.Attribute(r, c);
   }
   for (const auto& f : session.Fields().Records()) sum += f.Serialize()[0];
+  // The screen as text, double-byte characters decoded, as the replay prints it.
+  for (int r = 0; r < ps.Rows(); ++r) {
+    sum += static_cast<unsigned>(veltrix::ScreenRowText(ps, config.emulation_type, r).size());
+  }
   asm volatile("" : : "r"(sum));  // keep the reads
   return 0;
 }

@@ -230,5 +230,18 @@ TEST(ReplayJsonTest, HoldsEveryPart) {
   }
 }
 
+TEST(ReplayJsonTest, ScreenRowsHoldADoubleByteCharacterOnce) {
+  ReplayRun run({4, ""});
+  ReplayStep step;
+  step.host = Record(Hex("04 40 04 11 00 08 11 01 01 0E 45 41 0F"));
+  run.Run({&step, 1});
+  const std::string json = run.Json();
+  // The screen row: blank, the character, blank, then the rest of the 80 cells as blanks.
+  EXPECT_NE(json.find("\"screen\":[\" \xE4\xB8\x80 " + std::string(76, ' ') + "\","),
+            std::string::npos)
+      << json;
+  EXPECT_NE(json.find("\"cells\":[\"2088EA20"), std::string::npos) << json;
+}
+
 }  // namespace
 }  // namespace veltrix
