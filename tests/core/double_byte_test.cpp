@@ -122,13 +122,6 @@ TEST(DoubleByteTest, BlankWithoutDoubleByteLanguageIsNotConverted) {
   }
 }
 
-TEST(DoubleByteTest, JapaneseBlankGivesShiftJisBlank) {
-  std::uint8_t first = 0x40, second = 0x40;
-  ASSERT_TRUE(ConvertDoubleByte(4, first, second));
-  EXPECT_EQ(first, 0x81);
-  EXPECT_EQ(second, 0x40);
-}
-
 TEST(DoubleByteTest, TraditionalChineseEuro) {
   std::uint8_t first = 0x47, second = 0xA2;
   ASSERT_TRUE(ConvertDoubleByte(1, first, second));
