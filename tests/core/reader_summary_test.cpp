@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
-#include <fstream>
 #include <memory>
 #include <random>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,6 +14,7 @@
 #include "settings/reader/two_d_fields.h"
 #include "settings/reader/working_block.h"
 #include "shell/summary.h"
+#include "summary_golden.h"
 
 namespace veltrix {
 namespace {
@@ -33,21 +31,8 @@ std::string RenderBardode(const Document& doc) {
   return RenderSummaryText({bardode});
 }
 
-std::string GoldenPath(const std::string& name) {
-  return std::string(VELTRIX_SOURCE_DIR) + "/tests/core/golden/summary/" + name;
-}
-
-// With VELTRIX_UPDATE_GOLDEN set the golden file is rewritten from the output.
 void ExpectMatchesGolden(const Document& doc, const std::string& name) {
-  const std::string actual = RenderBardode(doc);
-  if (std::getenv("VELTRIX_UPDATE_GOLDEN") != nullptr) {
-    std::ofstream(GoldenPath(name), std::ios::binary) << actual;
-  }
-  std::ifstream in(GoldenPath(name), std::ios::binary);
-  ASSERT_TRUE(in) << "missing golden file " << name;
-  std::stringstream expected;
-  expected << in.rdbuf();
-  EXPECT_EQ(expected.str(), actual) << name;
+  testing::ExpectSummaryGolden(RenderBardode(doc), name);
 }
 
 class BardodeDefaults : public ::testing::TestWithParam<int> {};
