@@ -104,14 +104,6 @@ INSTANTIATE_TEST_SUITE_P(
         TableFacts{"Korean", 3, 17048, 0x4040, 0xD3BD, 0xA1A1, 0xA1A2, 0xC652, 0x81}),
     [](const auto& info) { return std::string(info.param.language); });
 
-TEST(DoubleByteTest, TablesHoldTheSystemsByteCount) {
-  std::size_t bytes = 0;
-  for (int type = 1; type <= 4; ++type) {
-    bytes += double_byte_tables::ForEmulationType(type).entries.size() * 4;
-  }
-  EXPECT_EQ(bytes, 183400u);
-}
-
 TEST(DoubleByteTest, BlankWithoutDoubleByteLanguageIsNotConverted) {
   for (const int type : {0, 5, 6, -1, 7, 255}) {
     std::uint8_t first = 0x40, second = 0x40;
@@ -120,13 +112,6 @@ TEST(DoubleByteTest, BlankWithoutDoubleByteLanguageIsNotConverted) {
     EXPECT_EQ(second, 0x40);
     EXPECT_EQ(DoubleByteToUnicode(type, 0x81, 0x40), 0u) << type;
   }
-}
-
-TEST(DoubleByteTest, JapaneseBlankGivesShiftJisBlank) {
-  std::uint8_t first = 0x40, second = 0x40;
-  ASSERT_TRUE(ConvertDoubleByte(4, first, second));
-  EXPECT_EQ(first, 0x81);
-  EXPECT_EQ(second, 0x40);
 }
 
 TEST(DoubleByteTest, TraditionalChineseEuro) {

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <memory>
-#include <sstream>
 #include <string>
 
 #include "settings/emulation/emulation_choices.h"
@@ -12,16 +10,10 @@
 #include "settings/emulation/key_mapping.h"
 #include "settings/network/network_settings.h"
 #include "shell/summary.h"
+#include "summary_golden.h"
 
 namespace veltrix {
 namespace {
-
-std::string Golden(const std::string& name) {
-  std::ifstream in(std::string(VELTRIX_SOURCE_DIR) + "/tests/core/golden/summary/" + name);
-  std::stringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
 
 std::string EmulationSummary(const Document& doc) {
   SummaryNode root{"Emulation", {}};
@@ -42,9 +34,7 @@ TEST_P(EmulationSummaryGolden, MatchesGoldenText) {
   auto doc = std::make_unique<Document>();
   SetDefaults(*doc, GetParam().product);
   GetParam().change(*doc);
-  const std::string expected = Golden(GetParam().golden);
-  ASSERT_FALSE(expected.empty()) << "missing golden file " << GetParam().golden;
-  EXPECT_EQ(expected, EmulationSummary(*doc));
+  testing::ExpectSummaryGolden(EmulationSummary(*doc), GetParam().golden);
 }
 
 void NoChange(Document&) {}

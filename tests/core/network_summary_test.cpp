@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -12,16 +10,10 @@
 #include "settings/network/network_settings.h"
 #include "settings/network/wep_key.h"
 #include "shell/summary.h"
+#include "summary_golden.h"
 
 namespace veltrix {
 namespace {
-
-std::string Golden(const std::string& name) {
-  std::ifstream in(std::string(VELTRIX_SOURCE_DIR) + "/tests/core/golden/summary/" + name);
-  std::stringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
 
 std::string WirelessSummary(const Document& doc) {
   SummaryNode root{"Wireless LAN", {}};
@@ -42,9 +34,7 @@ TEST_P(WirelessSummaryGolden, MatchesGoldenText) {
   auto doc = std::make_unique<Document>();
   SetDefaults(*doc, GetParam().product);
   GetParam().change(*doc);
-  const std::string expected = Golden(GetParam().golden);
-  ASSERT_FALSE(expected.empty()) << "missing golden file " << GetParam().golden;
-  EXPECT_EQ(expected, WirelessSummary(*doc));
+  testing::ExpectSummaryGolden(WirelessSummary(*doc), GetParam().golden);
 }
 
 void NoChange(Document&) {}

@@ -79,35 +79,39 @@ TEST(ReaderPageCheckBoxes, BindTheRightBlockAndShowTheRightMoreButtons) {
             MoreButtons(true));
 }
 
-TEST(ReaderPageState, LinearDefaults) {
-  auto doc = NewDocument();
-  const ReaderPageState state = FillReaderPageState(*doc);
-  EXPECT_EQ(kLaserCcdReader, state.reader);
-  EXPECT_EQ(6, state.list401);
-  EXPECT_EQ(0, state.list402);
-  EXPECT_EQ(3, state.box201);
-  // 9B C9: Code 39, Industrial, Interleave, Codabar, MSI off ... ; EAN128 checked while below 2.
-  const std::vector<int> on{301, 304, 305, 307, 310, 313, 316, 323, 324, 325};
-  for (int id = 301; id <= 327; ++id) {
-    const bool want = std::find(on.begin(), on.end(), id) != on.end();
-    EXPECT_EQ(want, state.checked[id - 301]) << id;
-  }
-}
-
-TEST(ReaderPageState, TwoDimensionalDefaults) {
-  auto doc = NewDocument();
-  doc->record[kReaderType.offset] = 0x03;  // "2D Reader" with the RFID reader
-  const ReaderPageState state = FillReaderPageState(*doc);
-  EXPECT_EQ(kTwoDReader, state.reader);
-  EXPECT_TRUE(state.rfid);
-  EXPECT_EQ(1, state.list401);
-  EXPECT_EQ(1, state.list402);
-  EXPECT_EQ(9, state.box201);
-  const std::vector<int> on{301, 302, 304, 305, 307, 308, 309, 310, 315,
-                            318, 319, 320, 321, 322, 325, 326, 327};
-  for (int id = 301; id <= 327; ++id) {
-    const bool want = std::find(on.begin(), on.end(), id) != on.end();
-    EXPECT_EQ(want, state.checked[id - 301]) << id;
+TEST(ReaderPageState, DefaultsOfEachSet) {
+  const struct {
+    std::uint8_t reader_type;
+    int reader;
+    bool rfid;
+    int list401, list402, box201;
+    std::vector<int> on;  // check boxes ticked, 301-327
+  } kCases[] = {
+      // 9B C9: Code 39, Industrial, Interleave, Codabar, MSI off ... ; EAN128 checked while
+      // below 2.
+      {0x00, kLaserCcdReader, false, 6, 0, 3, {301, 304, 305, 307, 310, 313, 316, 323, 324, 325}},
+      // "2D Reader" with the RFID reader.
+      {0x03,
+       kTwoDReader,
+       true,
+       1,
+       1,
+       9,
+       {301, 302, 304, 305, 307, 308, 309, 310, 315, 318, 319, 320, 321, 322, 325, 326, 327}},
+  };
+  for (const auto& c : kCases) {
+    auto doc = NewDocument();
+    doc->record[kReaderType.offset] = c.reader_type;
+    const ReaderPageState state = FillReaderPageState(*doc);
+    EXPECT_EQ(c.reader, state.reader);
+    EXPECT_EQ(c.rfid, state.rfid);
+    EXPECT_EQ(c.list401, state.list401);
+    EXPECT_EQ(c.list402, state.list402);
+    EXPECT_EQ(c.box201, state.box201);
+    for (int id = 301; id <= 327; ++id) {
+      const bool want = std::find(c.on.begin(), c.on.end(), id) != c.on.end();
+      EXPECT_EQ(want, state.checked[id - 301]) << int{c.reader_type} << " " << id;
+    }
   }
 }
 

@@ -108,16 +108,6 @@ TEST(ReaderDefaults, ResetLeavesReaderTypeSwitchKeyAndRfidControlAlone) {
   ExpectBytes(doc->record, 58758, "AA", "byte before the RFID fields");
 }
 
-TEST(ReaderDefaults, ResetGivesTheDocumentedScanModeAndTimeOut) {
-  auto doc = std::make_unique<Document>();
-  SetReaderDefaults(*doc);
-  EXPECT_EQ(6u, ReadWorking(*doc, kScanMode));  // "Laser"
-  EXPECT_EQ(3u, ReadWorking(*doc, kTimeOut));
-  EXPECT_EQ(0u, ReadWorking(*doc, kEan128));  // shown checked
-  EXPECT_EQ(4u, ReadNumber(doc->record, kRfidDelayBeforeReread));
-  EXPECT_EQ(128u, ReadNumber(doc->record, kRfidMaxLen));
-}
-
 struct ConversionCase {
   const char* name;
   std::uint8_t byte_3763;

@@ -57,14 +57,6 @@ TEST_F(SheetLifecycleTest, PagesAreCreatedOnFirstShowAndActivatedOnEveryShow) {
                                             "active 0", "active 4"}));
 }
 
-TEST_F(SheetLifecycleTest, BarcodePageKeepsTheModifiedFlag) {
-  doc_->modified = true;
-  SheetLifecycle sheet = MakeSheet();
-  sheet.Show(1);  // Barcode keeps no snapshot
-  EXPECT_EQ(log_.front(), "init 1 modified");
-  EXPECT_TRUE(doc_->modified);
-}
-
 TEST_F(SheetLifecycleTest, CancelAtOnceLeavesTheRecordAndClearsTheFlag) {
   doc_->modified = true;
   const SettingsRecord before = doc_->record;
@@ -88,13 +80,6 @@ TEST_F(SheetLifecycleTest, OkAppliesCreatedPagesInPageOrderAndSetsTheFlag) {
   EXPECT_TRUE(doc_->modified);
 }
 
-TEST_F(SheetLifecycleTest, OkWithOnlyTheBarcodePageLeavesTheFlagAlone) {
-  SheetLifecycle sheet = MakeSheet();
-  sheet.Show(1);
-  sheet.Ok();
-  EXPECT_FALSE(doc_->modified);
-}
-
 TEST_F(SheetLifecycleTest, SystemChangeSurvivesCancelOnTheScreenPage) {
   SheetLifecycle sheet = MakeSheet();
   sheet.Open();
@@ -105,6 +90,19 @@ TEST_F(SheetLifecycleTest, SystemChangeSurvivesCancelOnTheScreenPage) {
   EXPECT_EQ(doc_->record[kSomeByte], 0x5A);
   EXPECT_EQ(doc_->pages[0][0], 0);
   EXPECT_EQ(log_.back(), "cancel 4");
+}
+
+// The Barcode page keeps no snapshot: shown alone it neither clears nor sets the flag.
+TEST_F(SheetLifecycleTest, BarcodePageAloneLeavesTheFlag) {
+  for (const bool modified : {false, true}) {
+    doc_->modified = modified;
+    log_.clear();
+    SheetLifecycle sheet = MakeSheet();
+    sheet.Show(1);
+    EXPECT_EQ(log_.front(), modified ? "init 1 modified" : "init 1 clear");
+    sheet.Ok();
+    EXPECT_EQ(doc_->modified, modified);
+  }
 }
 
 TEST_F(SheetLifecycleTest, CancelOnTheBarcodePageRestoresNothing) {

@@ -12,20 +12,10 @@ TEST(ShellStartup, LogDirectoryIsJoinedWithOneSeparator) {
   EXPECT_EQ(LogDirectoryPath("/"), "/Logs");
 }
 
-TEST(ShellStartup, ProductNamesComeFromTheStringTable) {
-  EXPECT_EQ(ProductNameTable(), (std::vector<std::string>{"Dravin S", "Dravin R"}));
-}
-
 TEST(ShellStartup, WindowPlacementLeavesTheMargins) {
   EXPECT_EQ(MainWindowPlacement(1280, 800), (WindowPlacement{15, 15, 1250, 740}));
   EXPECT_EQ(MainWindowPlacement(1024, 768), (WindowPlacement{15, 15, 994, 708}));
   EXPECT_EQ(MainWindowPlacement(10, 10), (WindowPlacement{15, 15, 1, 1}));  // never negative
-}
-
-TEST(ShellAbout, ProductLineCarriesTheVersionInParentheses) {
-  const std::string line = AboutProductLine();
-  EXPECT_EQ(line.rfind("Veltrix For 5250 (", 0), 0u);
-  EXPECT_EQ(line.back(), ')');
 }
 
 TEST(ShellAbout, LicenceJoinsItsThreeStringsInOrder) {

@@ -3,16 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdlib>
-#include <fstream>
 #include <memory>
-#include <sstream>
 #include <string>
 
 #include "settings/field_registry.h"
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_editor.h"
 #include "shell/summary.h"
+#include "summary_golden.h"
 
 namespace veltrix {
 namespace {
@@ -54,23 +52,11 @@ TEST(SystemFields, AreRegisteredByName) {
 
 // ---- summary, compared with golden text files ---------------------------------------------------
 
-std::string GoldenPath(const std::string& name) {
-  return std::string(VELTRIX_SOURCE_DIR) + "/tests/core/golden/summary/" + name;
-}
-
-// Renders the "System" branch; with VELTRIX_UPDATE_GOLDEN set the golden file is rewritten.
+// Renders the "System" branch and compares it with its golden file.
 void ExpectSummaryMatchesGolden(const Document& doc, const std::string& name) {
   SummaryNode system{"System", {}};
   AppendSystemSummary(doc, system);
-  const std::string actual = RenderSummaryText({system});
-  if (std::getenv("VELTRIX_UPDATE_GOLDEN") != nullptr) {
-    std::ofstream(GoldenPath(name), std::ios::binary) << actual;
-  }
-  std::ifstream in(GoldenPath(name), std::ios::binary);
-  ASSERT_TRUE(in) << "missing golden file " << name;
-  std::stringstream expected;
-  expected << in.rdbuf();
-  EXPECT_EQ(expected.str(), actual) << name;
+  testing::ExpectSummaryGolden(RenderSummaryText({system}), name);
 }
 
 TEST(SystemSummary, DefaultsOfEachProduct) {

@@ -12,7 +12,6 @@ class HostIpDialogTest : public QObject {
  private slots:
   void opensFromTheActiveEntryUnchecked();
   void editsUpdateTheOctetsAsTyped();
-  void badOctetShowsTheMessageAndStaysOpen_data();
   void badOctetShowsTheMessageAndStaysOpen();
   void okTakesTheSaveLogBox();
 };
@@ -42,23 +41,14 @@ void HostIpDialogTest::editsUpdateTheOctetsAsTyped() {
   QCOMPARE(form.octets()[2], 0u);
 }
 
-void HostIpDialogTest::badOctetShowsTheMessageAndStaysOpen_data() {
-  QTest::addColumn<int>("index");
-  QTest::addColumn<QString>("text");
-  QTest::newRow("above 255") << 0 << "256";
-  QTest::newRow("empty") << 1 << "";
-  QTest::newRow("letters") << 3 << "ab";
-}
-
+// Which octets are bad is the form's rule (tested in the core); the dialog shows the message.
 void HostIpDialogTest::badOctetShowsTheMessageAndStaysOpen() {
-  QFETCH(int, index);
-  QFETCH(QString, text);
   HostIpForm form;
   QStringList shown;
   HostIpDialog dialog(form, "127.0.0.1", nullptr,
                       [&shown](QWidget*, const QString& message) { shown << message; });
   dialog.show();
-  dialog.octet_edit(index)->setText(text);
+  dialog.octet_edit(0)->setText("256");
   dialog.accept();
   QCOMPARE(shown, QStringList{QStringLiteral("Invalid IP Address!")});
   QVERIFY(dialog.isVisible());

@@ -90,6 +90,12 @@ void HostMainWindowTest::hostClosingRunsTheDisconnectCommand() {
   QCOMPARE(QString::fromStdString(prompt_.shown.front().caption), QStringLiteral("Error"));
   QCOMPARE(QString::fromStdString(prompt_.shown.front().text),
            QStringLiteral("Can not establish connection"));
+  QVERIFY(!parts_.connection->connected());
+  // Keys after the end go nowhere.
+  const std::size_t shown = prompt_.shown.size();
+  QTest::keyClick(parts_.screen, Qt::Key_Return);
+  QCOMPARE(prompt_.shown.size(), shown);
+  QVERIFY(Enabled(kCmdConnect));
 }
 
 void HostMainWindowTest::cancelledDialogChangesNothing() {

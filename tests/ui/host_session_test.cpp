@@ -60,7 +60,6 @@ class HostSessionTest : public QObject {
   void cleanup();
   void signOnAndMoveBetweenScreens();
   void errorLineIsResetWithEscape();
-  void hostClosingEndsTheSession();
   void userDisconnectClosesTheHostSide();
   void sessionLogRecordsTheTrafficLineByLine();
   void refusedConnectionShowsItsMessage();
@@ -195,20 +194,6 @@ void HostSessionTest::errorLineIsResetWithEscape() {
   Press(Qt::Key_Return);
   QTRY_VERIFY(ScreenShows(QStringLiteral("Signed on as BOB")));
   QCOMPARE(server_->receivedRecords().size(), records + 1);
-}
-
-void HostSessionTest::hostClosingEndsTheSession() {
-  QVERIFY(Connect(false));
-  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
-  QTRY_VERIFY(!host_->connection().session().KeyboardLocked());
-  // F3 on the sign-on screen makes the host close the connection.
-  Press(Qt::Key_F3);
-  QTRY_COMPARE(disconnect_requests_, 1);
-  QCOMPARE(errors_, QStringList{QStringLiteral("Can not establish connection")});
-  QVERIFY(!host_->connected());
-  // Keys after the end go nowhere.
-  Press(Qt::Key_Return);
-  QCOMPARE(disconnect_requests_, 1);
 }
 
 void HostSessionTest::userDisconnectClosesTheHostSide() {

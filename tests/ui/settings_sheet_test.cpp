@@ -134,17 +134,6 @@ class SettingsSheetTest : public QObject {
     QVERIFY(doc_->modified);
   }
 
-  void systemChangeSurvivesCancelOnAnotherPage() {
-    SettingsSheetDialog sheet(*doc_, registry_);
-    TypeInto(sheet.page(0), "42");
-    sheet.tabs()->setCurrentIndex(4);
-    TypeInto(sheet.page(4), "43");
-    doc_->pages[0][0] = 1;
-    Button(sheet, QDialogButtonBox::Cancel)->click();
-    QCOMPARE(int(doc_->record[kProbeByte]), 42);
-    QCOMPARE(int(doc_->pages[0][0]), 0);
-  }
-
  private:
   std::unique_ptr<Document> doc_;
   SettingsPageRegistry registry_;
