@@ -86,7 +86,7 @@ bool FieldTable::FieldAt(const FieldRecord& record, int column, int row, int col
   const long long s = static_cast<long long>(start_column) + record.length;
   const long long k = s / columns;
   if (row == start_row && start_column <= column && (k != 0 || column < s)) return true;
-  if (k != 0 && row == start_row + k && column < s % columns) return true;
+  if (row == start_row + k && column < s % columns) return true;
   return start_row < row && row < start_row + k;
 }
 

@@ -121,7 +121,8 @@ Repaint Keyboard::TypeCharacter(std::uint8_t c) {
   PresentationSpace& ps = host_.ps;
   const FieldRecord field = host_.fields.Current();
   const int index = FieldIndex(field);
-  if (!field.IsField() || field.IsBypass() || index < 0 || index >= field.length ||
+  // A one-row field also holds the cells left of its first cell, and typing there writes.
+  if (!field.IsField() || field.IsBypass() ||
       (field.IsSignedNumeric() && index == field.length - 1)) {
     host_.SoundAlarm();
     return Repaint::kNothing;
@@ -347,8 +348,9 @@ Repaint Keyboard::FieldSign(bool minus) {
     }
     last_digit = field.length - 1;
   }
-  MarkModified();
   const Repaint exit = FieldExit();
+  // The flag goes to the field the exit moved to, which is the current field now.
+  MarkModified();
   if (last_digit >= 0) {
     // The field's last digit takes the negative zone (host bits 7-4 = 1101).
     const CellAddress c = FieldCell(field, last_digit);
@@ -374,9 +376,8 @@ Repaint Keyboard::EndOfField() {
     if (ps.Character(c.row, c.column) > kBlank) break;
     --i;
   }
-  // Just behind the last character; an empty field keeps the cursor on its first cell.
-  const CellAddress c = FieldCell(field, i);
-  if (i != start && ps.Character(c.row, c.column) > kBlank) ++i;
+  // Just behind the last character; in an empty field that is the second cell.
+  if (i != start) ++i;
   const CellAddress to = FieldCell(field, i);
   ps.SetCursor(to.row, to.column);
   return Repaint::kCaret;

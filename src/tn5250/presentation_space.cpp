@@ -179,9 +179,9 @@ void PresentationSpace::SetAttributeLinear(int first, int count, std::uint8_t at
 }
 
 void PresentationSpace::SetErrorRow(int row) {
-  // The host's row must name a screen row; anything else keeps the last row, where the
-  // terminal shows its messages.
-  error_row_ = (row >= 0 && row < rows_) ? row : rows_ - 1;
+  // The host's row is taken as it stands, below the screen too; a row beyond the planes would
+  // write outside them, so it leaves the error row as it was.
+  if (row >= 0 && row < kPlaneRows) error_row_ = row;
 }
 
 // The double-byte marks of the row travel with its characters, so a restored row shows its

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "tn5250/code_tables.h"
 #include "tn5250/field_table.h"
 #include "tn5250/presentation_space.h"
@@ -51,10 +53,23 @@ TEST(PresentationSpaceTest, ErrorRowIsSavedClearedAndRestored) {
   EXPECT_EQ(ps.Character(23, 3), 0);
   ps.RestoreErrorRow();
   EXPECT_EQ(ps.Character(23, 3), 'Q');
-  ps.SetErrorRow(40);
-  EXPECT_EQ(ps.ErrorRow(), 23);
-  ps.SetErrorRow(5);
-  EXPECT_EQ(ps.ErrorRow(), 5);
+}
+
+TEST(PresentationSpaceTest, ErrorRowIsTakenAsItStandsWithinThePlanes) {
+  PresentationSpace ps;
+  for (const int row : {0, 5, 23, 24, 25, kPlaneRows - 1}) {
+    ps.SetErrorRow(row);
+    EXPECT_EQ(ps.ErrorRow(), row);
+  }
+  // Rows below the screen still take and give back the saved row.
+  ps.SaveErrorRow();
+  ps.ClearErrorRow();
+  ps.RestoreErrorRow();
+  ps.SetErrorRow(4);
+  for (const int row : {kPlaneRows, 40, 255}) {
+    ps.SetErrorRow(row);
+    EXPECT_EQ(ps.ErrorRow(), 4) << row;
+  }
 }
 
 struct CodeCase {
@@ -101,19 +116,55 @@ FieldRecord Field(int row, int column, int length) {
   return f;
 }
 
-TEST(FieldTableTest, FieldAtFollowsTheRows) {
-  const FieldRecord f = Field(5, 70, 20);
-  FieldRecord numbered = f;
-  numbered.number = 1;
-  EXPECT_TRUE(FieldTable::FieldAt(numbered, 70, 5, 80));
-  EXPECT_TRUE(FieldTable::FieldAt(numbered, 79, 5, 80));
-  EXPECT_TRUE(FieldTable::FieldAt(numbered, 9, 6, 80));
-  EXPECT_FALSE(FieldTable::FieldAt(numbered, 10, 6, 80));
-  EXPECT_FALSE(FieldTable::FieldAt(numbered, 69, 5, 80));
-  const FieldRecord spans = Field(2, 10, 200);  // rows 2 to 4
-  EXPECT_TRUE(FieldTable::FieldAt(spans, 0, 3, 80));
-  EXPECT_TRUE(FieldTable::FieldAt(spans, 49, 4, 80));
-  EXPECT_FALSE(FieldTable::FieldAt(spans, 50, 4, 80));
+struct FieldAtCase {
+  const char* name;
+  int row, column, length;  // the field
+  int at_row, at_column;    // the cell asked about
+  bool inside;
+};
+
+class FieldAtTest : public ::testing::TestWithParam<FieldAtCase> {};
+
+TEST_P(FieldAtTest, FollowsTheRows) {
+  const FieldAtCase& c = GetParam();
+  EXPECT_EQ(FieldTable::FieldAt(Field(c.row, c.column, c.length), c.at_column, c.at_row, 80),
+            c.inside);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cells, FieldAtTest,
+    ::testing::Values(
+        // Row 5 columns 70-79, then row 6 columns 0-9.
+        FieldAtCase{"WrapFirstCell", 5, 70, 20, 5, 70, true},
+        FieldAtCase{"WrapEndOfFirstRow", 5, 70, 20, 5, 79, true},
+        FieldAtCase{"WrapLastCell", 5, 70, 20, 6, 9, true},
+        FieldAtCase{"WrapAfterLastCell", 5, 70, 20, 6, 10, false},
+        FieldAtCase{"WrapLeftOfStart", 5, 70, 20, 5, 69, false},
+        FieldAtCase{"WrapRowBefore", 5, 70, 20, 4, 75, false},
+        // Rows 2 to 4, ending at row 4 column 49.
+        FieldAtCase{"SpansMiddleRow", 2, 10, 200, 3, 0, true},
+        FieldAtCase{"SpansLastCell", 2, 10, 200, 4, 49, true},
+        FieldAtCase{"SpansAfterLastCell", 2, 10, 200, 4, 50, false},
+        FieldAtCase{"SpansLeftOfStart", 2, 10, 200, 2, 9, false},
+        // A field on one row also holds the cells left of its first cell on that row.
+        FieldAtCase{"OneRowFirstCell", 3, 20, 5, 3, 20, true},
+        FieldAtCase{"OneRowLastCell", 3, 20, 5, 3, 24, true},
+        FieldAtCase{"OneRowAfterLastCell", 3, 20, 5, 3, 25, false},
+        FieldAtCase{"OneRowAttributeCell", 3, 20, 5, 3, 19, true},
+        FieldAtCase{"OneRowColumnZero", 3, 20, 5, 3, 0, true},
+        FieldAtCase{"OneRowRowAfter", 3, 20, 5, 4, 0, false},
+        FieldAtCase{"OneRowRowBefore", 3, 20, 5, 2, 22, false},
+        // Ending on the last column it reaches the next row (with no cell there), so the cells
+        // left of its first cell are outside.
+        FieldAtCase{"ToRowEndLeftOfStart", 1, 70, 10, 1, 3, false},
+        FieldAtCase{"ToRowEndLastCell", 1, 70, 10, 1, 79, true},
+        FieldAtCase{"ToRowEndNextRow", 1, 70, 10, 2, 0, false},
+        // Ending exactly at a row's end: the next row holds no cell of it.
+        FieldAtCase{"FullRowsNextRow", 1, 0, 160, 3, 0, false},
+        FieldAtCase{"FullRowsLastCell", 1, 0, 160, 2, 79, true}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(FieldTableTest, NoFieldHoldsNothing) {
   EXPECT_FALSE(FieldTable::FieldAt(FieldRecord{}, 0, 0, 80));
 }
 
