@@ -1,6 +1,7 @@
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
 #include "cli/settings_input.h"
+#include "settings/emulation/function_keys.h"
 #include "settings/field_values.h"
 
 namespace veltrix::cli {
@@ -39,9 +40,21 @@ int RunSetCommand(std::span<const std::string> args, CliIo& io) {
                           (lookup.field->dimensions() == 1 ? "[0]" : "[0][0]") +
                           "; nothing written");
     }
+    const FieldDef& field = *lookup.field;
+    const int old_value = static_cast<int>(ReadNumber(doc->record, field));
     const std::string refused = StoreElementValue(doc->record, ElementsOf(lookup).front(),
                                                   std::string_view(assignment).substr(equals + 1));
     if (!refused.empty()) return Fail(io, "set: " + refused + "; nothing written");
+    // A key field claims its function key for its role, exactly as the page's "Key :" combo does.
+    if (const int role = RoleOfKeyField(field); role != 0) {
+      const int new_value = static_cast<int>(ReadNumber(doc->record, field));
+      WriteNumber(doc->record, field, static_cast<std::uint32_t>(old_value));
+      if (ApplyFunctionKeyCombo(*doc, field, old_value, new_value, role) ==
+          KeyComboResult::kRefused) {
+        return Fail(io, "set: " + std::string(field.name) +
+                            ": The function key is defined already !!; nothing written");
+      }
+    }
   }
   // The reader working blocks are written over their record images on save: take the new values.
   CopyRecordToWorkingBlocks(*doc);

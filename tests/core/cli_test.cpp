@@ -151,6 +151,21 @@ TEST_F(CliTest, SetReachesFieldsEditedThroughTheReaderWorkingBlocks) {
   EXPECT_EQ("Code39=0\nTwoDUpcA=0\n", Cli({"get", file, "Code39", "TwoDUpcA"}).out);
 }
 
+TEST_F(CliTest, SetKeyFieldsClaimAndReleaseTheirFunctionKeys) {
+  const std::string file = NewFile("k.QVL", 1);
+  ASSERT_EQ(0, Cli({"set", file, "LoginNameKey=2"}).status);
+  EXPECT_EQ("KeyMappingGroup[2]=201\nKeyMappingHostKey[2]=0\n",
+            Cli({"get", file, "KeyMappingGroup[2]", "KeyMappingHostKey[2]"}).out);
+  const std::vector<std::uint8_t> before = ReadBytes(file);
+  const CliRun taken = Cli({"set", file, "NavigatorKey=2"});
+  EXPECT_EQ(2, taken.status);
+  EXPECT_NE(std::string::npos, taken.err.find("The function key is defined already !!"));
+  EXPECT_TRUE(ReadBytes(file) == before);
+  ASSERT_EQ(0, Cli({"set", file, "LoginNameKey=0"}).status);
+  EXPECT_EQ("LoginNameKey=0\nKeyMappingGroup[2]=0\nKeyMappingHostKey[2]=2\n",
+            Cli({"get", file, "LoginNameKey", "KeyMappingGroup[2]", "KeyMappingHostKey[2]"}).out);
+}
+
 TEST_F(CliTest, RefusedSetWritesNothing) {
   const std::string file = NewFile("r.QVL", 1);
   const std::vector<std::uint8_t> before = ReadBytes(file);
