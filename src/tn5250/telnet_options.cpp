@@ -6,16 +6,13 @@
 #include <string_view>
 
 #include "tn5250/code_tables.h"
+#include "tn5250/telnet_codes.h"
 #include "tn5250/telnet_receiver.h"
 
 namespace veltrix {
 
 namespace {
 
-constexpr std::uint8_t kSubSend = 1;
-constexpr std::uint8_t kSubIs = 0;
-constexpr std::uint8_t kEnvValue = 1;
-constexpr std::uint8_t kEnvUserVar = 3;
 constexpr int kLocalNameWidth = 10;
 
 // BINARY and END-OF-RECORD: always accepted. BINARY ignores WONT/DONT.

@@ -6,27 +6,9 @@
 #include <span>
 
 #include "tn5250/host_context.h"
+#include "tn5250/telnet_codes.h"
 
 namespace veltrix {
-
-// Telnet bytes.
-inline constexpr std::uint8_t kIac = 0xFF;
-inline constexpr std::uint8_t kDont = 0xFE;
-inline constexpr std::uint8_t kDo = 0xFD;
-inline constexpr std::uint8_t kWont = 0xFC;
-inline constexpr std::uint8_t kWill = 0xFB;
-inline constexpr std::uint8_t kSb = 0xFA;
-inline constexpr std::uint8_t kSe = 0xF0;
-inline constexpr std::uint8_t kEor = 0xEF;
-
-// Telnet options the terminal knows.
-inline constexpr std::uint8_t kOptBinary = 0;
-inline constexpr std::uint8_t kOptEcho = 1;
-inline constexpr std::uint8_t kOptSuppressGoAhead = 3;
-inline constexpr std::uint8_t kOptTerminalType = 24;
-inline constexpr std::uint8_t kOptEndOfRecord = 25;
-inline constexpr std::uint8_t kOptNaws = 31;
-inline constexpr std::uint8_t kOptNewEnviron = 39;
 
 // Subnegotiations longer than this are cut; real hosts send a few bytes.
 inline constexpr int kSubnegotiationCapacity = 256;

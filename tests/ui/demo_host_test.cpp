@@ -19,6 +19,7 @@
 #include "tn5250/session.h"
 
 using namespace veltrix::demo_host;
+using veltrix::kWill;  // Telnet codes live in the core
 
 namespace {
 

@@ -3,28 +3,10 @@
 
 #include <cstdint>
 
-// Telnet and 5250 codes the demo host speaks.
-namespace veltrix::demo_host {
+#include "tn5250/telnet_codes.h"
 
-// Telnet commands and options.
-inline constexpr std::uint8_t kIac = 0xFF;
-inline constexpr std::uint8_t kDont = 0xFE;
-inline constexpr std::uint8_t kDo = 0xFD;
-inline constexpr std::uint8_t kWont = 0xFC;
-inline constexpr std::uint8_t kWill = 0xFB;
-inline constexpr std::uint8_t kSb = 0xFA;
-inline constexpr std::uint8_t kSe = 0xF0;
-inline constexpr std::uint8_t kEor = 0xEF;
-inline constexpr std::uint8_t kOptBinary = 0;
-inline constexpr std::uint8_t kOptTerminalType = 24;
-inline constexpr std::uint8_t kOptEndOfRecord = 25;
-inline constexpr std::uint8_t kOptNewEnviron = 39;
-inline constexpr std::uint8_t kSubIs = 0;
-inline constexpr std::uint8_t kSubSend = 1;
-inline constexpr std::uint8_t kEnvVar = 0;
-inline constexpr std::uint8_t kEnvValue = 1;
-inline constexpr std::uint8_t kEnvEsc = 2;
-inline constexpr std::uint8_t kEnvUserVar = 3;
+// 5250 codes the demo host speaks; the Telnet ones come from the core.
+namespace veltrix::demo_host {
 
 // 5250 commands (each after the escape byte).
 inline constexpr std::uint8_t kEscape = 0x04;
