@@ -15,6 +15,16 @@ constexpr std::uint8_t kMinus = '-';
 constexpr std::uint8_t kBlank = 0x20;
 constexpr std::size_t kMaxRecord = 0xFFFF;
 
+// The two READ MDT FIELDS commands differ only in how a NUL in a field is sent.
+FieldDataOptions MdtReadOptions(bool nul_as_blank) {
+  return {.modified_gate = true,
+          .modified_only = true,
+          .address_order = true,
+          .trim = true,
+          .nul_as_blank = nul_as_blank,
+          .sign = true};
+}
+
 }  // namespace
 
 InboundRecords::InboundRecords(HostContext& host) : host_(host) { record_.reserve(4096); }
@@ -97,19 +107,10 @@ void InboundRecords::SendAidRecord(std::uint8_t aid) {
       options = {.trim = true, .nul_as_blank = true, .sign = true};
       break;
     case ReadMode::kMdtFields:
-      options = {.modified_gate = true,
-                 .modified_only = true,
-                 .address_order = true,
-                 .trim = true,
-                 .nul_as_blank = true,
-                 .sign = true};
+      options = MdtReadOptions(/*nul_as_blank=*/true);
       break;
     case ReadMode::kMdtAlternate:
-      options = {.modified_gate = true,
-                 .modified_only = true,
-                 .address_order = true,
-                 .trim = true,
-                 .sign = true};
+      options = MdtReadOptions(/*nul_as_blank=*/false);
       break;
   }
   record_.push_back(static_cast<std::uint8_t>(ps.CursorRow() + 1));
