@@ -18,6 +18,7 @@
 #include <sstream>
 
 #include "tn5250/replay.h"
+#include "tn5250_test_util.h"
 
 namespace veltrix {
 namespace {
@@ -50,19 +51,7 @@ void AppendHex(std::string_view text, std::vector<std::uint8_t>& out, std::strin
 }
 
 void FinishRecord(std::vector<std::uint8_t>& body, std::vector<std::uint8_t>& host) {
-  const std::size_t length = body.size() + 10;
-  std::vector<std::uint8_t> record = {static_cast<std::uint8_t>(length >> 8),
-                                      static_cast<std::uint8_t>(length),
-                                      0x12,
-                                      0xA0,
-                                      0x00,
-                                      0x00,
-                                      0x04,
-                                      0x00,
-                                      0x00,
-                                      0x03};
-  record.insert(record.end(), body.begin(), body.end());
-  for (std::uint8_t b : record) {
+  for (std::uint8_t b : testing::Record(body)) {
     host.push_back(b);
     if (b == 0xFF) host.push_back(0xFF);
   }
