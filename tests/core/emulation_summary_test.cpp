@@ -16,28 +16,17 @@ namespace veltrix {
 namespace {
 
 std::string EmulationSummary(const Document& doc) {
-  SummaryNode root{"Emulation", {}};
-  AppendEmulationSummary(doc, root);
-  return RenderSummaryText({root});
+  return testing::SectionSummary(doc, "Emulation", AppendEmulationSummary);
 }
 
-struct SummaryCase {
-  std::string name;
-  int product;
-  std::function<void(Document&)> change;
-  std::string golden;
-};
+using testing::NoChange;
+using testing::SummaryCase;
 
 class EmulationSummaryGolden : public ::testing::TestWithParam<SummaryCase> {};
 
 TEST_P(EmulationSummaryGolden, MatchesGoldenText) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, GetParam().product);
-  GetParam().change(*doc);
-  testing::ExpectSummaryGolden(EmulationSummary(*doc), GetParam().golden);
+  testing::ExpectSummaryCaseGolden(GetParam(), EmulationSummary);
 }
-
-void NoChange(Document&) {}
 
 void ClaimedKeysAndOptions(Document& doc) {
   ChooseLanguage(doc, 4);

@@ -16,28 +16,17 @@ namespace veltrix {
 namespace {
 
 std::string WirelessSummary(const Document& doc) {
-  SummaryNode root{"Wireless LAN", {}};
-  AppendNetworkSummary(doc, root);
-  return RenderSummaryText({root});
+  return testing::SectionSummary(doc, "Wireless LAN", AppendNetworkSummary);
 }
 
-struct SummaryCase {
-  std::string name;
-  int product;
-  std::function<void(Document&)> change;
-  std::string golden;
-};
+using testing::NoChange;
+using testing::SummaryCase;
 
 class WirelessSummaryGolden : public ::testing::TestWithParam<SummaryCase> {};
 
 TEST_P(WirelessSummaryGolden, MatchesGoldenText) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, GetParam().product);
-  GetParam().change(*doc);
-  testing::ExpectSummaryGolden(WirelessSummary(*doc), GetParam().golden);
+  testing::ExpectSummaryCaseGolden(GetParam(), WirelessSummary);
 }
-
-void NoChange(Document&) {}
 
 void WepKeysAndAddresses(Document& doc) {
   WriteNumber(doc.record, kDhcpServer, 0);

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
@@ -17,12 +18,6 @@
 
 namespace veltrix {
 namespace {
-
-std::unique_ptr<Document> NewDocument() {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, 1);
-  return doc;
-}
 
 struct ReaderTypeCase {
   std::uint8_t byte;
@@ -44,7 +39,7 @@ TEST(ReaderType, StoringAReaderKeepsTheOtherBitsAndClearsBit3) {
   EXPECT_EQ(0xF3, WithReaderPosition(0xFA, kTwoDReader));
   EXPECT_EQ(0x06, WithReaderPosition(0x0F, kLongRangeLaser));
   EXPECT_EQ(0x02, WithReaderPosition(0x0F, kLaserCcdReader));
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   doc->record[kReaderType.offset] = 0x0A;
   ChooseReader(*doc, kLongRangeLaser);
   EXPECT_EQ(0x06, doc->record[kReaderType.offset]);
@@ -100,7 +95,7 @@ TEST(ReaderPageState, DefaultsOfEachSet) {
        {301, 302, 304, 305, 307, 308, 309, 310, 315, 318, 319, 320, 321, 322, 325, 326, 327}},
   };
   for (const auto& c : kCases) {
-    auto doc = NewDocument();
+    auto doc = testing::DefaultDocument(1);
     doc->record[kReaderType.offset] = c.reader_type;
     const ReaderPageState state = FillReaderPageState(*doc);
     EXPECT_EQ(c.reader, state.reader);
@@ -141,7 +136,7 @@ TEST(ReaderPageState, EnablingFollowsTheReader) {
 }
 
 TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   ReaderPageState state = FillReaderPageState(*doc);
   state.checked[325 - 301] = false;
   state.checked[326 - 301] = true;
@@ -165,7 +160,7 @@ TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
 }
 
 TEST(ReaderPageApply, LongRangeLaserClearsTheTwoDReaderOnlySymbologies) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   ChooseReader(*doc, kTwoDReader);
   ReaderPageState state = FillReaderPageState(*doc);
   state.reader = kLongRangeLaser;
@@ -185,7 +180,7 @@ TEST(ReaderPageApply, LongRangeLaserClearsTheTwoDReaderOnlySymbologies) {
 }
 
 TEST(ReaderPageApply, TwoDReaderStoresListsBoxAndAllEnableBits) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   ReaderPageState state = FillReaderPageState(*doc);
   state.reader = kTwoDReader;
   state.rfid = true;

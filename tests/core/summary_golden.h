@@ -5,8 +5,13 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <sstream>
 #include <string>
+
+#include "default_document.h"
+#include "settings/document.h"
+#include "shell/summary.h"
 
 namespace veltrix::testing {
 
@@ -22,6 +27,31 @@ inline void ExpectSummaryGolden(const std::string& actual, const std::string& na
   std::stringstream expected;
   expected << in.rdbuf();
   EXPECT_EQ(expected.str(), actual) << name;
+}
+
+// One golden case of a section's summary: defaults of `product`, then `change`.
+struct SummaryCase {
+  std::string name;
+  int product;
+  std::function<void(Document&)> change;
+  std::string golden;
+};
+
+inline void NoChange(Document&) {}
+
+// The summary text of one section under a root node called `title`.
+inline std::string SectionSummary(const Document& doc, const std::string& title,
+                                  void (*append)(const Document&, SummaryNode&)) {
+  SummaryNode root{title, {}};
+  append(doc, root);
+  return RenderSummaryText({root});
+}
+
+// Builds the case's document and compares its section summary with the golden file.
+inline void ExpectSummaryCaseGolden(const SummaryCase& c, std::string (*summary)(const Document&)) {
+  auto doc = DefaultDocument(c.product);
+  c.change(*doc);
+  ExpectSummaryGolden(summary(*doc), c.golden);
 }
 
 }  // namespace veltrix::testing

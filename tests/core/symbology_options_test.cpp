@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "default_document.h"
 #include "settings/reader/length_pair.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/number_box.h"
@@ -15,12 +16,6 @@
 
 namespace veltrix {
 namespace {
-
-std::unique_ptr<Document> NewDocument() {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, 1);
-  return doc;
-}
 
 // ---- numeric boxes -----------------------------------------------------------------------------
 
@@ -138,7 +133,7 @@ TEST(LinearOptionDialogs, BindOnlyLinearFieldsWithDistinctControls) {
 
 TEST(LinearOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
   for (const LinearOptionDialog& dialog : LinearOptionDialogs()) {
-    auto doc = NewDocument();
+    auto doc = testing::DefaultDocument(1);
     const auto before = doc->reader_block2;
     ApplyLinearOptions(*doc, dialog, OpenLinearOptions(*doc, dialog));
     EXPECT_EQ(before, doc->reader_block2) << dialog.template_name;
@@ -146,7 +141,7 @@ TEST(LinearOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
 }
 
 TEST(LinearOptionDialogs, OpeningShowsTheWorkingBlock) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   const LinearOptionState industrial =
       OpenLinearOptions(*doc, *FindLinearOptionDialog("Industrial25Dlg"));
   EXPECT_EQ((std::vector<bool>{false, true}), industrial.checked);
@@ -172,7 +167,7 @@ struct ApplyCase {
 class LinearOptionApply : public ::testing::TestWithParam<ApplyCase> {};
 
 TEST_P(LinearOptionApply, PacksTheControlsIntoTheWorkingBlock) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   const LinearOptionDialog& dialog = *FindLinearOptionDialog(GetParam().dialog);
   LinearOptionState state = OpenLinearOptions(*doc, dialog);
   GetParam().change(state);
@@ -268,7 +263,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, LinearOptionApply, ::testing::ValuesIn(kApplyCas
                          [](const auto& info) { return std::string(info.param.name); });
 
 TEST(LinearOptionDialogs, OutOfRangeStoredChoiceSelectsTheNearestRadio) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   WriteWorking(*doc, kIndustrial25StartStop, 3);
   EXPECT_EQ((std::vector<int>{2}),
             OpenLinearOptions(*doc, *FindLinearOptionDialog("Industrial25Dlg")).chosen);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/reader/length_option.h"
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/two_d_fields.h"
@@ -14,12 +15,6 @@
 
 namespace veltrix {
 namespace {
-
-std::unique_ptr<Document> NewDocument() {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, 1);
-  return doc;
-}
 
 std::uint8_t BlockByte(const Document& doc, std::uint32_t record_offset) {
   return doc.reader_block1[record_offset - 58659];
@@ -94,7 +89,7 @@ TEST(TwoDOptionDialogs, BindOnlyTwoDimensionalFieldsWithDistinctControls) {
 
 TEST(TwoDOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
   for (const TwoDOptionDialog& dialog : TwoDOptionDialogs()) {
-    auto doc = NewDocument();
+    auto doc = testing::DefaultDocument(1);
     const auto before = doc->reader_block1;
     const TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
     ApplyTwoDOptions(*doc, dialog, state);
@@ -103,7 +98,7 @@ TEST(TwoDOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
 }
 
 TEST(TwoDOptionDialogs, OpeningShowsTheDefaults) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   const TwoDOptionState code39 = OpenTwoDOptions(*doc, *FindTwoDOptionDialog("CODE39_2D_DLG"));
   EXPECT_EQ(kLengthRange, code39.option);
   EXPECT_EQ((LengthBoxes{2, 55}), code39.lengths);
@@ -118,7 +113,7 @@ TEST(TwoDOptionDialogs, OpeningShowsTheDefaults) {
 }
 
 TEST(TwoDOptionDialogs, SupplementalsAreSharedByTheUpcAndEan8Dialogs) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   const TwoDOptionDialog& upce = *FindTwoDOptionDialog("UPCE_2D_DLG");
   TwoDOptionState state = OpenTwoDOptions(*doc, upce);
   state.chosen[1] = 2;
@@ -131,7 +126,7 @@ TEST(TwoDOptionDialogs, SupplementalsAreSharedByTheUpcAndEan8Dialogs) {
 }
 
 TEST(TwoDOptionDialogs, Code39OpeningClearsItsSpareBitsEvenWhenCancelled) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   doc->reader_block1[58664 - 58659] |= 0x30;
   OpenTwoDOptions(*doc, *FindTwoDOptionDialog("CODE39_2D_DLG"));
   EXPECT_EQ(0x83, BlockByte(*doc, 58664));
@@ -149,7 +144,7 @@ struct TwoDApplyCase {
 class TwoDOptionApply : public ::testing::TestWithParam<TwoDApplyCase> {};
 
 TEST_P(TwoDOptionApply, PacksTheControlsIntoTheWorkingBlock) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   if (GetParam().before) GetParam().before(*doc);
   const TwoDOptionDialog& dialog = *FindTwoDOptionDialog(GetParam().dialog);
   TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
