@@ -52,19 +52,24 @@ UConverter* Open(const char* name, bool fallbacks) {
   return cnv;
 }
 
-// Host pair (inside shift-out / shift-in) to one code point; 0 when it has none.
-char32_t HostToUnicode(UConverter* host, unsigned pair) {
-  const char in[4] = {0x0E, static_cast<char>(pair >> 8), static_cast<char>(pair & 0xFF), 0x0F};
+// Bytes in the converter's code page to exactly one code point; 0 when they give none or more.
+char32_t ToOneCodePoint(UConverter* cnv, const char* in, int32_t length) {
   UChar out[8];
   UErrorCode status = U_ZERO_ERROR;
-  ucnv_reset(host);
-  int32_t n = ucnv_toUChars(host, out, 8, in, 4, &status);
+  ucnv_reset(cnv);
+  int32_t n = ucnv_toUChars(cnv, out, 8, in, length, &status);
   if (U_FAILURE(status) || n < 1 || n > 2) return 0;
   UChar32 c;
   int32_t i = 0;
   U16_NEXT(out, i, n, c);
   if (i != n) return 0;
   return static_cast<char32_t>(c);
+}
+
+// Host pair (inside shift-out / shift-in) to one code point; 0 when it has none.
+char32_t HostToUnicode(UConverter* host, unsigned pair) {
+  const char in[4] = {0x0E, static_cast<char>(pair >> 8), static_cast<char>(pair & 0xFF), 0x0F};
+  return ToOneCodePoint(host, in, 4);
 }
 
 // One code point to a two-byte PC code with a lead byte of 0x80 or more; 0 when there is none.
@@ -85,16 +90,7 @@ unsigned UnicodeToPc(UConverter* pc, char32_t c) {
 // PC code back to a code point; 0 when it has none.
 char32_t PcToUnicode(UConverter* pc, unsigned code) {
   const char in[2] = {static_cast<char>(code >> 8), static_cast<char>(code & 0xFF)};
-  UChar out[8];
-  UErrorCode status = U_ZERO_ERROR;
-  ucnv_reset(pc);
-  int32_t n = ucnv_toUChars(pc, out, 8, in, 2, &status);
-  if (U_FAILURE(status) || n < 1 || n > 2) return 0;
-  UChar32 c;
-  int32_t i = 0;
-  U16_NEXT(out, i, n, c);
-  if (i != n) return 0;
-  return static_cast<char32_t>(c);
+  return ToOneCodePoint(pc, in, 2);
 }
 
 std::vector<Entry> Build(const Language& lang) {
