@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tn5250/display_text.h"
 #include "tn5250/double_byte_tables.h"
 
 namespace veltrix {
@@ -47,23 +48,10 @@ char32_t DoubleByteToUnicode(int emulation_type, std::uint8_t first, std::uint8_
 }
 
 std::string CodePointToUtf8(char32_t c) {
+  // Surrogates and values past Unicode have no UTF-8 form: nothing.
+  if ((c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF) return {};
   std::string out;
-  if (c < 0x80) {
-    out += static_cast<char>(c);
-  } else if (c < 0x800) {
-    out += static_cast<char>(0xC0 | (c >> 6));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    if (c >= 0xD800 && c <= 0xDFFF) return out;
-    out += static_cast<char>(0xE0 | (c >> 12));
-    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else if (c <= 0x10FFFF) {
-    out += static_cast<char>(0xF0 | (c >> 18));
-    out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  }
+  AppendUtf8(out, c);
   return out;
 }
 
