@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/emulation/emulation_choices.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/emulation/key_mapping.h"
@@ -14,12 +15,6 @@
 
 namespace veltrix {
 namespace {
-
-std::unique_ptr<Document> NewDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
 
 std::vector<std::uint8_t> Image(const Document& doc, std::size_t first, std::size_t last) {
   return {doc.record.begin() + first, doc.record.begin() + last + 1};
@@ -43,7 +38,7 @@ std::vector<std::uint8_t> ExpectedMessageImage() {
 class EmulationDefaults : public ::testing::TestWithParam<int> {};
 
 TEST_P(EmulationDefaults, SectionIsByteExact) {
-  auto doc = NewDocument(GetParam());
+  auto doc = testing::DefaultDocument(GetParam());
   EXPECT_EQ(ExpectedMainImage(), Image(*doc, 4449, 4564));
   EXPECT_EQ(ExpectedMessageImage(), Image(*doc, 59660, 59783));
 }
@@ -51,7 +46,7 @@ TEST_P(EmulationDefaults, SectionIsByteExact) {
 INSTANTIATE_TEST_SUITE_P(Products, EmulationDefaults, ::testing::Values(0, 1, 2, 3));
 
 TEST(EmulationDefaults, ResetKeepsFieldLengthChoiceAndReleasesTheNavigatorKey) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   for (std::size_t at = 4449; at <= 4466; ++at) doc->record[at] = 0x55;
   WriteNumber(doc->record, kNavigatorKey, 0);
   ApplyFunctionKeyCombo(*doc, kNavigatorKey, 0, 4, kRoleNavigatorKey);
@@ -69,7 +64,7 @@ TEST(EmulationDefaults, ResetKeepsFieldLengthChoiceAndReleasesTheNavigatorKey) {
 }
 
 TEST(EmulationDefaults, PageResetRestoresMappingAndKeepsLoginClaims) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   ApplyFunctionKeyCombo(*doc, kLoginPasswordKey, 0, 7, kRolePasswordKey);
   ApplyFunctionKeyCombo(*doc, kNavigatorKey, 0, 10, kRoleNavigatorKey);
   ApplyFunctionKeyCombo(*doc, kMessageFunctionKey, 0, 1, kRoleMessageKey);
@@ -85,7 +80,7 @@ TEST(EmulationDefaults, PageResetRestoresMappingAndKeepsLoginClaims) {
 }
 
 TEST(EmulationDefaults, MessageDefaultsTouchOnlyTheirTenBytesAndTwoFields) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   for (std::size_t at = 59660; at < 59784; ++at) doc->record[at] = 0x77;
   SetEmulationMessageDefaults(*doc);
   std::vector<std::uint8_t> expected = {23, 0x77, 0x77, 3};
@@ -100,7 +95,7 @@ TEST(EmulationChoices, LanguageSetsFontAndSteps) {
     int language;
     std::uint32_t font, horizontal, vertical;
   };
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   for (const Case& c : {Case{4, 1, 14, 3}, Case{6, 0, 19, 7}, Case{1, 1, 14, 3}, Case{5, 0, 19, 7},
                         Case{3, 1, 14, 3}, Case{0, 0, 19, 7}}) {
     ChooseLanguage(*doc, c.language);
@@ -112,7 +107,7 @@ TEST(EmulationChoices, LanguageSetsFontAndSteps) {
 }
 
 TEST(EmulationChoices, SameFontSizeKeepsHandEditedSteps) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kHorizontalSteps, 50);
   EXPECT_FALSE(ChooseFontSize(*doc, 0));
   EXPECT_EQ(50u, ReadNumber(doc->record, kHorizontalSteps));
@@ -122,7 +117,7 @@ TEST(EmulationChoices, SameFontSizeKeepsHandEditedSteps) {
 }
 
 TEST(EmulationChoices, LockScreenAndCursorTrackingAreComplements) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   SetLockScreen(*doc, true);
   EXPECT_EQ(1u, ReadNumber(doc->record, kLockScreen));
   EXPECT_EQ(0u, ReadNumber(doc->record, kCursorTracking));
@@ -134,7 +129,7 @@ TEST(EmulationChoices, LockScreenAndCursorTrackingAreComplements) {
 }
 
 TEST(EmulationChoices, ExcludeStringKeepsNineteenCharacters) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteText(doc->record, kExcludeString, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
   EXPECT_EQ("ABCDEFGHIJKLMNOPQRS", ReadText(doc->record, kExcludeString));
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/key_code_defaults.h"
 #include "settings/emulation/key_mapping.h"
@@ -44,12 +45,6 @@ std::vector<std::uint8_t> StoredKeyCode(const Document& doc, int key) {
 std::vector<int> Entry(const Document& doc, int key) {
   const std::uint32_t at = kKeyMappingOffset + kKeyMappingStride * key;
   return {doc.record[at], doc.record[at + 1], doc.record[at + 2]};
-}
-
-std::unique_ptr<Document> NewDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
 }
 
 // Entries of the built-in table (index = group * 20 + host key) where a slip is easy: the
@@ -97,7 +92,7 @@ std::vector<int> Join(std::vector<std::vector<int>> parts) {
 }
 
 TEST_P(KeyAvailability, ProductHasExactlyItsKeys) {
-  auto doc = NewDocument(GetParam().product);
+  auto doc = testing::DefaultDocument(GetParam().product);
   std::vector<int> present;
   for (int n = 0; n < 50; ++n) {
     if (doc->key_present[n]) present.push_back(n);
@@ -116,7 +111,7 @@ INSTANTIATE_TEST_SUITE_P(
 class FunctionKeyDefaults : public ::testing::TestWithParam<int> {};
 
 TEST_P(FunctionKeyDefaults, MappingKeyCodesAndTableAreByteExact) {
-  auto doc = NewDocument(GetParam());
+  auto doc = testing::DefaultDocument(GetParam());
   for (int n = 0; n < 50; ++n) {
     const int host_key = n <= 9 ? n : 0;
     EXPECT_EQ((std::vector<int>{0, host_key, 0}), Entry(*doc, n)) << "entry " << n;
@@ -139,7 +134,7 @@ TEST(FunctionKeyClaims, ClaimAndReleaseNameTheRightEntry) {
     std::string released_label;
   };
   for (const Case& c : {Case{1, 1, "PF1"}, Case{9, 9, "PF9"}, Case{10, 0, "PF10"}}) {
-    auto doc = NewDocument(1);
+    auto doc = testing::DefaultDocument(1);
     ClaimFunctionKey(*doc, c.k, kRoleNavigatorKey);
     EXPECT_EQ((std::vector<int>{204, 0, 0}), Entry(*doc, c.key)) << c.k;
     EXPECT_TRUE(FunctionKeyHasRole(*doc, c.k));
@@ -158,7 +153,7 @@ TEST(FunctionKeyClaims, ClaimAndReleaseNameTheRightEntry) {
 }
 
 TEST(FunctionKeyClaims, IndicesThatNameNoKeyChangeNothing) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   const SettingsRecord before = doc->record;
   for (int k : {-1, 0, 11, 255}) {
     ClaimFunctionKey(*doc, k, kRoleNameKey);
@@ -178,7 +173,7 @@ struct ComboStep {
 };
 
 TEST(FunctionKeyCombo, RefusesKeysOfOtherRolesAndMovesItsOwnClaim) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   const std::vector<ComboStep> steps = {
       {&kLoginNameKey, kRoleNameKey, 3, KeyComboResult::kStored, 3},
       // FN+3 already holds the name key: refused, password key stays as it was.
@@ -211,7 +206,7 @@ TEST(FunctionKeyCombo, RefusesKeysOfOtherRolesAndMovesItsOwnClaim) {
 }
 
 TEST(FunctionKeyCombo, DisableMapsTheKeyBackToItsPfKey) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   ApplyFunctionKeyCombo(*doc, kLoginNameKey, 0, 2, kRoleNameKey);
   EXPECT_EQ("Name Key", MappingLabel(*doc, 2));
   EXPECT_FALSE(MappingRowEnabled(*doc, 2));
@@ -221,7 +216,7 @@ TEST(FunctionKeyCombo, DisableMapsTheKeyBackToItsPfKey) {
 }
 
 TEST(FunctionKeyCombo, KeyMappedToAnOrdinaryHostKeyIsTakenOver) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   ApplyKeyMappingChoice(*doc, 6, 0, 13, KeyCodeTableEntry(*doc, 0, 13));
   EXPECT_EQ(KeyComboResult::kStored,
             ApplyFunctionKeyCombo(*doc, kMessageFunctionKey, 0, 6, kRoleMessageKey));
@@ -239,7 +234,7 @@ TEST(FunctionKeyCombo, KeyFieldsKnowTheirRoles) {
   }
   EXPECT_EQ(0, RoleOfKeyField(kTelnetPort));
 
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   ClaimFunctionKey(*doc, 4, kRoleExitKey);
   EXPECT_TRUE(IsFunctionKeyTaken(*doc, 0, 4));
   EXPECT_FALSE(IsFunctionKeyTaken(*doc, 4, 4));  // its own key
@@ -248,7 +243,7 @@ TEST(FunctionKeyCombo, KeyFieldsKnowTheirRoles) {
 }
 
 TEST(FunctionKeyDefaultRoutine, ClaimsAgainTheKeysTheKeyFieldsName) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   struct Claim {
     const FieldDef* field;
     int k;
@@ -275,7 +270,7 @@ TEST(FunctionKeyDefaultRoutine, ClaimsAgainTheKeysTheKeyFieldsName) {
 }
 
 TEST(FunctionKeyDefaultRoutine, OutOfRangeKeyFieldsFromAFileAreIgnored) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kLoginNameKey, 77);
   SetFunctionKeyDefaults(*doc);
   for (int n = 0; n < 50; ++n) EXPECT_LT(Entry(*doc, n)[0], 201) << n;
@@ -293,7 +288,7 @@ class KeyCodeRebuild : public ::testing::TestWithParam<RebuildCase> {};
 
 TEST_P(KeyCodeRebuild, CopiesKeyCodesOfMappedEntriesOnly) {
   const RebuildCase& c = GetParam();
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   doc->key_codes.fill(0xEE);  // whatever was there before the file was read
   const std::uint32_t at = kKeyMappingOffset + kKeyMappingStride * 20;
   doc->record[at] = static_cast<std::uint8_t>(c.group);
@@ -337,7 +332,7 @@ TEST(KeyMappingArea, RowsButtonsAndEnablingFollowTheProduct) {
   EXPECT_EQ("F12 ", MappingButtonText(38));
   EXPECT_EQ("", MappingButtonText(39));
 
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   std::vector<int> enabled;
   for (int key : MappingRowKeys()) {
     if (MappingRowEnabled(*doc, key)) enabled.push_back(key);
@@ -346,7 +341,7 @@ TEST(KeyMappingArea, RowsButtonsAndEnablingFollowTheProduct) {
 }
 
 TEST(KeyMappingArea, DialogChoiceStoresEntryKeyCodeAndTable) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   const KeyCodeBytes code = KeyCodeTableEntry(*doc, 0, 13);
   EXPECT_EQ(Code5("1B 5B 56"), std::vector<std::uint8_t>(code.begin(), code.end()));
   ApplyKeyMappingChoice(*doc, 5, 0, 13, code);
@@ -362,7 +357,7 @@ TEST(KeyMappingArea, DialogChoiceStoresEntryKeyCodeAndTable) {
 }
 
 TEST(KeyMappingArea, ValuesOnlyAFileCanHoldStillRead) {
-  auto doc = NewDocument(3);
+  auto doc = testing::DefaultDocument(3);
   const std::uint32_t at = kKeyMappingOffset + kKeyMappingStride * 40;
   doc->record[at] = 150;
   doc->record[at + 1] = 99;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/emulation/key_mapping.h"
 #include "settings/emulation/number_edit.h"
@@ -16,12 +17,6 @@
 
 namespace veltrix {
 namespace {
-
-std::unique_ptr<Document> NewDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
 
 struct Bytes {
   std::size_t offset;
@@ -51,7 +46,7 @@ std::vector<std::uint8_t> Image(const Document& doc, std::size_t first, std::siz
 class NetworkDefaults : public ::testing::TestWithParam<int> {};
 
 TEST_P(NetworkDefaults, SectionIsByteExact) {
-  auto doc = NewDocument(GetParam());
+  auto doc = testing::DefaultDocument(GetParam());
   EXPECT_EQ(ExpectedImage(3783, 4448), Image(*doc, 3783, 4448));
   EXPECT_EQ(0, doc->record[59659]);
 }
@@ -59,7 +54,7 @@ TEST_P(NetworkDefaults, SectionIsByteExact) {
 INSTANTIATE_TEST_SUITE_P(Products, NetworkDefaults, ::testing::Values(0, 1, 2, 3));
 
 TEST(NetworkDefaults, ResetReleasesLoginKeysAndRestoresEverything) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   ApplyFunctionKeyCombo(*doc, kLoginNameKey, 0, 3, kRoleNameKey);
   ApplyFunctionKeyCombo(*doc, kLoginPasswordKey, 0, 10, kRolePasswordKey);
   ApplyFunctionKeyCombo(*doc, kLogoutKey, 0, 6, kRoleExitKey);
@@ -84,7 +79,7 @@ TEST(WepKeys, TextIsUpperCaseHexPairsEachFollowedByABlank) {
 }
 
 TEST(WepKeys, LengthChangesShowAndClearTheRightBytes) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   ChangeWepKeyLength(*doc, 1);
   std::vector<std::uint8_t> key(16);
   for (int i = 0; i < 16; ++i) key[i] = static_cast<std::uint8_t>(0x10 + i);
@@ -105,7 +100,7 @@ TEST(WepKeys, LengthChangesShowAndClearTheRightBytes) {
 }
 
 TEST(WepKeys, LongerKeysShowZerosEvenWhenAFileHeldBytesBehindTheShortKey) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   // 64-bit keys with bytes behind them, as a file can hold them.
   for (int k = 0; k < kWepKeyCount; ++k) {
     auto stored = FieldBytes(std::span<std::uint8_t>(doc->record), kWepKey, k);
@@ -118,7 +113,7 @@ TEST(WepKeys, LongerKeysShowZerosEvenWhenAFileHeldBytesBehindTheShortKey) {
 }
 
 TEST(HostList, TypingChangesOnlyTheActiveEntryAndApplyPadsOnlyIt) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   // Leave bytes behind the NUL of entries 2 and 3, as an older edit would.
   WriteText(doc->record, kHostIpOrName, "longer.host.name", 1);
   WriteText(doc->record, kHostIpOrName, "longer.host.name", 2);
@@ -140,7 +135,7 @@ TEST(HostList, TypingChangesOnlyTheActiveEntryAndApplyPadsOnlyIt) {
 }
 
 TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kActiveHostIpOrName, 9);
   const SettingsRecord before = doc->record;
   StoreActiveHostText(*doc, "x");
@@ -149,7 +144,7 @@ TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
 }
 
 TEST(NetworkControls, EnablingFollowsDhcpEapAndWep) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   EXPECT_EQ((NetworkControlStates{false, false, false}), NetworkControlStatesOf(*doc));
   WriteNumber(doc->record, kDhcpServer, 0);
   WriteNumber(doc->record, kWepKeyEnabled, 1);

@@ -6,16 +6,11 @@
 #include <memory>
 #include <string>
 
+#include "default_document.h"
 #include "settings/prompts/prompt_editor.h"
 
 namespace veltrix {
 namespace {
-
-std::unique_ptr<Document> NewDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
 
 std::string SlotBytes(const Document& doc, int screen, int line) {
   const auto bytes =
@@ -55,7 +50,7 @@ class PromptDefaultsTest : public ::testing::TestWithParam<SlotCase> {};
 
 TEST_P(PromptDefaultsTest, SlotIsByteExact) {
   const SlotCase& c = GetParam();
-  auto doc = NewDocument(c.product);
+  auto doc = testing::DefaultDocument(c.product);
   EXPECT_EQ(DefaultSlot(c.text, c.width), SlotBytes(*doc, c.screen, c.line));
 }
 
@@ -72,14 +67,14 @@ INSTANTIATE_TEST_SUITE_P(
         SlotCase{1, 11, 7, "", 16}, SlotCase{2, 11, 5, " New :", 20}));
 
 TEST(PromptDefaults, VariantThreeEqualsDravinR) {
-  auto r = NewDocument(2);
-  auto three = NewDocument(3);
+  auto r = testing::DefaultDocument(2);
+  auto three = testing::DefaultDocument(3);
   EXPECT_TRUE(
       std::equal(r->record.begin() + 82, r->record.begin() + 2870, three->record.begin() + 82));
 }
 
 TEST(PromptDefaults, NoProductCopiesNothing) {
-  auto doc = NewDocument(0);
+  auto doc = testing::DefaultDocument(0);
   EXPECT_TRUE(std::all_of(doc->record.begin() + 82, doc->record.begin() + 2870,
                           [](auto b) { return b == 0; }));
   doc->record[82] = 'x';
@@ -104,7 +99,7 @@ TEST(PromptDefaults, EveryTextHasItsVariantWidth) {
 }
 
 TEST(PromptDefaults, DefaultsKeepBytesBehindTheirNul) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   std::fill_n(doc->record.begin() + 82, 41, 'z');
   SetPromptDefaults(*doc);
   EXPECT_EQ(std::string("1. Telnet   \0zzzzzzzzzzzzzzzzzzzzzzzzzzzz", 41), SlotBytes(*doc, 0, 0));
@@ -127,7 +122,7 @@ TEST(PromptNames, CarryTheProductsScreenSizesPaddedTo30) {
 }
 
 TEST(PromptPadding, EverySlotBecomes40CharactersAndANul) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   std::fill_n(doc->record.begin() + PromptSlot(1, 0) * 41 + 82, 41, 'q');  // no NUL at all
   PadPromptsForTerminal(*doc);
   for (int slot = 0; slot < kPromptSlotCount; ++slot) {

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
@@ -18,12 +19,6 @@
 
 namespace veltrix {
 namespace {
-
-std::unique_ptr<Document> NewDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
 
 std::string RenderBardode(const Document& doc) {
   SummaryNode bardode{"Bardode", {}};
@@ -38,7 +33,7 @@ void ExpectMatchesGolden(const Document& doc, const std::string& name) {
 class BardodeDefaults : public ::testing::TestWithParam<int> {};
 
 TEST_P(BardodeDefaults, MatchGolden) {
-  ExpectMatchesGolden(*NewDocument(GetParam()), "bardode_defaults.txt");
+  ExpectMatchesGolden(*testing::DefaultDocument(GetParam()), "bardode_defaults.txt");
 }
 
 INSTANTIATE_TEST_SUITE_P(Products, BardodeDefaults, ::testing::Values(1, 2));
@@ -46,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(Products, BardodeDefaults, ::testing::Values(1, 2));
 // The summary shows the linear set whatever the reader: a two-dimensional reader with changed
 // two-dimensional options reads the same as the defaults.
 TEST(BardodeSummary, TwoDimensionalReaderStillShowsTheLinearSet) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   WriteNumber(doc->record, kReaderType, 1);
   WriteNumber(doc->record, kRfidReader, 1);
   WriteWorking(*doc, kTwoDCode39, 0);
@@ -57,7 +52,7 @@ TEST(BardodeSummary, TwoDimensionalReaderStillShowsTheLinearSet) {
 }
 
 TEST(BardodeSummary, ChangedSymbologyOptions) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   const std::array<std::pair<const FieldDef*, std::uint32_t>, 31> changes{{
       {&kScanMode, 8},
       {&kReadRedundancy, 3},
@@ -102,7 +97,7 @@ TEST(BardodeSummary, ChangedSymbologyOptions) {
 }
 
 TEST(BardodeSummary, AdvancedSettingsWithPrefixAndSuffixCodes) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kCheckLeadingCode, 1);
   WriteText(doc->record, kLeadingCode, "AB9");
   WriteNumber(doc->record, kReadPartialCode, 1);
@@ -123,7 +118,7 @@ TEST(BardodeSummary, AdvancedSettingsWithPrefixAndSuffixCodes) {
 // The page and its dialogs edit the working block; the summary shows what they changed even
 // before the block is copied into the record.
 TEST(BardodeSummary, ReadsTheLinearWorkingCopy) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteWorking(*doc, kScanMode, 1);
   EXPECT_EQ(6u, ReadNumber(doc->record, kScanMode));
   SummaryNode bardode{"Bardode", {}};
@@ -142,7 +137,7 @@ struct UnknownValueCase {
 class BardodeUnknownValue : public ::testing::TestWithParam<UnknownValueCase> {};
 
 TEST_P(BardodeUnknownValue, ShowsTheNumber) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteWorking(*doc, *GetParam().field, GetParam().value);
   SummaryNode bardode{"Bardode", {}};
   AppendReaderSummary(*doc, bardode);
@@ -167,7 +162,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(BardodeSummary, ControlBytesOfTheLeadingCodeShowAsQuestionMarks) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   WriteText(doc->record, kLeadingCode, "A\nB\x7F");
   SummaryNode bardode{"Bardode", {}};
   AppendReaderSummary(*doc, bardode);
@@ -179,7 +174,7 @@ TEST(BardodeSummary, AnyRecordGivesTheSameShape) {
   const auto lines = [](const std::string& text) {
     return std::count(text.begin(), text.end(), '\n');
   };
-  const auto want = lines(RenderBardode(*NewDocument(1)));
+  const auto want = lines(RenderBardode(*testing::DefaultDocument(1)));
   std::mt19937 random(3);
   for (int round = 0; round < 50; ++round) {
     auto doc = std::make_unique<Document>();

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "default_document.h"
 #include "settings/field_registry.h"
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_editor.h"
@@ -15,17 +16,11 @@
 namespace veltrix {
 namespace {
 
-std::unique_ptr<Document> NewDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
-
 class SystemDefaultsTest : public ::testing::TestWithParam<int> {};
 
 // Bytes 25 to 81 after New, whatever the product.
 TEST_P(SystemDefaultsTest, SectionIsByteExact) {
-  auto doc = NewDocument(GetParam());
+  auto doc = testing::DefaultDocument(GetParam());
   std::array<std::uint8_t, 57> expected{};  // bytes 25..81
   expected[25 - 25] = 0;                    // resume the program
   expected[26 - 25] = 180;                  // 180 seconds, low byte
@@ -37,7 +32,7 @@ TEST_P(SystemDefaultsTest, SectionIsByteExact) {
 }
 
 TEST_P(SystemDefaultsTest, ResetRestoresEveryByteAfterChanges) {
-  auto doc = NewDocument(GetParam());
+  auto doc = testing::DefaultDocument(GetParam());
   const SettingsRecord fresh = doc->record;
   for (std::size_t i = 25; i <= 62; ++i) doc->record[i] = 0xA5;
   SetSystemDefaults(*doc);
@@ -61,13 +56,13 @@ void ExpectSummaryMatchesGolden(const Document& doc, const std::string& name) {
 
 TEST(SystemSummary, DefaultsOfEachProduct) {
   for (int product : {1, 2}) {
-    ExpectSummaryMatchesGolden(*NewDocument(product),
+    ExpectSummaryMatchesGolden(*testing::DefaultDocument(product),
                                "system_product" + std::to_string(product) + ".txt");
   }
 }
 
 TEST(SystemSummary, ChangedFields) {
-  auto doc = NewDocument(2);
+  auto doc = testing::DefaultDocument(2);
   SystemEditor editor(*doc);
   editor.Initialise();
   editor.SetValue(kPowerOn, 1);
@@ -87,7 +82,7 @@ TEST(SystemSummary, ChangedFields) {
 // After OK every text is 40 characters with blanks behind; the empty password line ends after
 // the colon and blank.
 TEST(SystemSummary, AppliedDravinSWithEmptyPassword) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   SystemEditor editor(*doc);
   editor.Initialise();
   editor.EditPassword("abc");
@@ -97,7 +92,7 @@ TEST(SystemSummary, AppliedDravinSWithEmptyPassword) {
 }
 
 TEST(SystemSummary, UnknownValuesShowTheirNumbers) {
-  auto doc = NewDocument(1);
+  auto doc = testing::DefaultDocument(1);
   doc->record[kDownloadVia.offset] = 9;
   doc->record[kBaudRate.offset] = 200;
   SummaryNode system{"System", {}};
