@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/field_registry.h"
 #include "settings/field_values.h"
 #include "settings/settings_file.h"
@@ -39,11 +40,7 @@ std::vector<Cover> CoverOf(const FieldElement& e) {
   return cover;
 }
 
-std::unique_ptr<Document> DefaultDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
+using testing::DefaultDocument;
 
 TEST(Document, DefaultsAreTaggedWithTheProduct) {
   for (int product : {0, 1, 2}) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "default_document.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/reader/advanced_options.h"
 #include "settings/reader/reader_record_fields.h"
@@ -12,16 +13,10 @@
 namespace veltrix {
 namespace {
 
-std::unique_ptr<Document> NewDocument(int product = 1) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
-
 // ---- RFID reader -------------------------------------------------------------------------------
 
 TEST(RfidOptions, OpenShowsTheDefaults) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   const RfidState state = OpenRfidOptions(*doc);
   EXPECT_TRUE(state.read_uid);
   EXPECT_FALSE(state.read_data);
@@ -36,7 +31,7 @@ TEST(RfidOptions, OpenShowsTheDefaults) {
 }
 
 TEST(RfidOptions, OkStoresSixteenBitValuesHighByteFirstAsCorrected) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   RfidState state = OpenRfidOptions(*doc);
   state.read_data = true;
   state.use_delimiter = true;
@@ -58,7 +53,7 @@ TEST(RfidOptions, OkStoresSixteenBitValuesHighByteFirstAsCorrected) {
 }
 
 TEST(RfidOptions, SwitchKeyIsRefusedWhileAnotherRoleHoldsIt) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kScanSwitchKeyName, 0);
   ClaimFunctionKey(*doc, 3, kRoleNameKey);
 
@@ -83,7 +78,7 @@ TEST(RfidOptions, SwitchKeyIsRefusedWhileAnotherRoleHoldsIt) {
 
 TEST(AdvancedSettings, OkWithoutChangesKeepsTheRecord) {
   for (int product : {1, 2, 3}) {
-    auto doc = NewDocument(product);
+    auto doc = testing::DefaultDocument(product);
     const auto before = doc->record;
     ApplyAdvancedSettings(*doc, OpenAdvancedSettings(*doc));
     EXPECT_EQ(before, doc->record) << product;
@@ -91,7 +86,7 @@ TEST(AdvancedSettings, OkWithoutChangesKeepsTheRecord) {
 }
 
 TEST(AdvancedSettings, OpeningCorrectsStartAndMaximum) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   struct Case {
     int start, maximum, shown_start, shown_maximum;
   };
@@ -110,7 +105,7 @@ TEST(AdvancedSettings, OkLimitsTheStartToTheMaximum) {
   };
   for (const Case& c :
        {Case{5, 3, 3, 3}, Case{0, 0, 1, 1}, Case{9, 60, 9, 50}, Case{4, 20, 4, 20}}) {
-    auto doc = NewDocument();
+    auto doc = testing::DefaultDocument(1);
     AdvancedState state = OpenAdvancedSettings(*doc);
     state.start_position = c.start;
     state.maximum_length = c.maximum;
@@ -121,7 +116,7 @@ TEST(AdvancedSettings, OkLimitsTheStartToTheMaximum) {
 }
 
 TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
-  auto doc = NewDocument();
+  auto doc = testing::DefaultDocument(1);
   std::fill_n(doc->record.begin() + kLeadingCode.offset, 10, 0xEE);
   AdvancedState state = OpenAdvancedSettings(*doc);
   state.check_leading_code = true;
@@ -148,7 +143,7 @@ TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
 
 TEST(AdvancedSettings, Box214AndVibratorAreStoredOnlyForProduct3) {
   for (int product : {1, 2, 3}) {
-    auto doc = NewDocument(product);
+    auto doc = testing::DefaultDocument(product);
     doc->record[kDataBox214.offset] = 7;
     doc->record[kVibratorTime.offset] = 8;
     AdvancedState state = OpenAdvancedSettings(*doc);

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "capture/terminal_screen_sizes.h"
+#include "default_document.h"
 #include "settings/field_registry.h"
 #include "settings_test_files.h"
 #include "shell/summary.h"
@@ -13,11 +14,7 @@
 namespace veltrix {
 namespace {
 
-std::unique_ptr<Document> DefaultDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
+using testing::DefaultDocument;
 
 // The Screen section of the document's summary as text.
 std::string ScreenSummary(const Document& doc) {

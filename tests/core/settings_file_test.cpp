@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "capture/screen_pages.h"
+#include "default_document.h"
 #include "settings_test_files.h"
 
 namespace veltrix {
@@ -20,11 +21,7 @@ using testing::ReadBytes;
 using testing::TempFolder;
 using testing::WriteBytes;
 
-std::unique_ptr<Document> DefaultDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
+using testing::DefaultDocument;
 
 // The file image of a document as written, without touching a disk.
 std::vector<std::uint8_t> FileImage(const Document& doc) {

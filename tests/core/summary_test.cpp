@@ -7,17 +7,14 @@
 #include <random>
 #include <vector>
 
+#include "default_document.h"
 #include "settings_test_files.h"
 #include "shell/summary_json.h"
 
 namespace veltrix {
 namespace {
 
-std::unique_ptr<Document> DefaultDocument(int product) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
-  return doc;
-}
+using testing::DefaultDocument;
 
 TEST(Summary, IsEmptyWithoutAProduct) { EXPECT_TRUE(BuildSummary(*DefaultDocument(0)).empty()); }
 
