@@ -6,7 +6,9 @@
 #include <memory>
 #include <random>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "settings/reader/symbology_options.h"
@@ -40,10 +42,22 @@ BitSet Changed(std::span<const std::uint8_t> before, std::span<const std::uint8_
   return bits;
 }
 
-void Randomise(Document& doc, std::mt19937& random) {
-  for (auto& b : doc.reader_block1) b = static_cast<std::uint8_t>(random());
-  for (auto& b : doc.reader_block2) b = static_cast<std::uint8_t>(random());
-  doc.record.fill(0x5A);
+// A document whose working blocks hold random bytes and whose record is all 0x5A.
+std::unique_ptr<Document> RandomDocument(std::mt19937& random) {
+  auto doc = std::make_unique<Document>();
+  for (auto& b : doc->reader_block1) b = static_cast<std::uint8_t>(random());
+  for (auto& b : doc->reader_block2) b = static_cast<std::uint8_t>(random());
+  doc->record.fill(0x5A);
+  return doc;
+}
+
+// Every bit that differs between the two images of a block must belong to the dialog.
+void ExpectOnlyOwnBitsChanged(std::span<const std::uint8_t> before,
+                              std::span<const std::uint8_t> after, std::uint32_t base,
+                              const BitSet& own, std::string_view dialog) {
+  for (const auto& bit : Changed(before, after, base)) {
+    EXPECT_TRUE(own.count(bit)) << dialog << " wrote byte " << bit.first << " bit " << bit.second;
+  }
 }
 
 TEST(SymbologyBindings, LinearDialogsWriteOnlyTheirOwnBits) {
@@ -57,8 +71,7 @@ TEST(SymbologyBindings, LinearDialogsWriteOnlyTheirOwnBits) {
     }
     if (dialog.length != nullptr) AddBits(*dialog.length, own);
     for (int round = 0; round < 20; ++round) {
-      auto doc = std::make_unique<Document>();
-      Randomise(*doc, random);
+      auto doc = RandomDocument(random);
       const auto block1 = doc->reader_block1;
       const auto block2 = doc->reader_block2;
       const auto record = doc->record;
@@ -68,10 +81,8 @@ TEST(SymbologyBindings, LinearDialogsWriteOnlyTheirOwnBits) {
       state.length = {(random() & 1) != 0, static_cast<int>(random() % 130),
                       static_cast<int>(random() % 130)};
       ApplyLinearOptions(*doc, dialog, state);
-      for (const auto& bit : Changed(block2, doc->reader_block2, kReaderBlock2Offset)) {
-        EXPECT_TRUE(own.count(bit))
-            << dialog.template_name << " wrote byte " << bit.first << " bit " << bit.second;
-      }
+      ExpectOnlyOwnBitsChanged(block2, doc->reader_block2, kReaderBlock2Offset, own,
+                               dialog.template_name);
       EXPECT_EQ(block1, doc->reader_block1) << dialog.template_name;
       EXPECT_EQ(record, doc->record) << dialog.template_name;
     }
@@ -93,8 +104,7 @@ TEST(SymbologyBindings, TwoDimensionalDialogsWriteOnlyTheirOwnBits) {
     for (const FieldDef* f : dialog.cleared_on_open) AddBits(*f, own);
     for (const FieldDef* f : dialog.cleared_on_ok) AddBits(*f, own);
     for (int round = 0; round < 20; ++round) {
-      auto doc = std::make_unique<Document>();
-      Randomise(*doc, random);
+      auto doc = RandomDocument(random);
       const auto block1 = doc->reader_block1;
       const auto block2 = doc->reader_block2;
       const auto record = doc->record;
@@ -104,10 +114,8 @@ TEST(SymbologyBindings, TwoDimensionalDialogsWriteOnlyTheirOwnBits) {
       state.option = static_cast<int>(random() % 4);
       state.lengths = {static_cast<int>(random() % 130), static_cast<int>(random() % 130)};
       ApplyTwoDOptions(*doc, dialog, state);
-      for (const auto& bit : Changed(block1, doc->reader_block1, kReaderBlock1Offset)) {
-        EXPECT_TRUE(own.count(bit))
-            << dialog.template_name << " wrote byte " << bit.first << " bit " << bit.second;
-      }
+      ExpectOnlyOwnBitsChanged(block1, doc->reader_block1, kReaderBlock1Offset, own,
+                               dialog.template_name);
       EXPECT_EQ(block2, doc->reader_block2) << dialog.template_name;
       EXPECT_EQ(record, doc->record) << dialog.template_name;
     }
