@@ -5,7 +5,7 @@
 #include <string>
 
 #include "capture/terminal_screen_sizes.h"
-#include "settings/field_registry.h"
+#include "settings/emulation/emulation_settings.h"
 
 namespace veltrix {
 namespace {
@@ -38,10 +38,7 @@ std::string Format(const char* format, Args... args) {
 }
 
 // The emulation section owns the font size; it chooses which list of sizes the pages use.
-int FontSizeOf(const Document& doc) {
-  static const FieldDef* const font_size = FindField("FontSize");
-  return font_size ? static_cast<int>(ReadNumber(doc.record, *font_size)) : 0;
-}
+int FontSizeOf(const Document& doc) { return static_cast<int>(ReadNumber(doc.record, kFontSize)); }
 
 void AppendPageLines(const Document& doc, int page, SummaryNode& item) {
   const int size_index = static_cast<int>(ReadNumber(doc.record, kReformatPageTo, page));

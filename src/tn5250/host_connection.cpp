@@ -1,6 +1,7 @@
 #include "tn5250/host_connection.h"
 
-#include "settings/field_registry.h"
+#include "settings/emulation/emulation_settings.h"
+#include "settings/network/network_settings.h"
 #include "tn5250/display_text.h"
 
 namespace veltrix {
@@ -12,26 +13,17 @@ std::span<const std::uint8_t> RecordOf(const Document& doc) { return doc.record;
 
 HostSettings ReadHostSettings(const Document& doc) {
   HostSettings s;
-  const FieldDef* entries = FindField("HostIpOrName");
-  const FieldDef* active = FindField("ActiveHostIpOrName");
-  const FieldDef* port = FindField("TelnetPort");
-  const FieldDef* emulation = FindField("EmulationType");
-  const FieldDef* local_name = FindField("LocalName");
-  if (entries) {
-    int index = active ? static_cast<int>(ReadNumber(RecordOf(doc), *active)) : 0;
-    if (index < 0 || index >= entries->count) index = 0;
-    s.active_entry = ReadText(RecordOf(doc), *entries, index);
-  }
-  if (port) s.port = static_cast<std::uint16_t>(ReadNumber(RecordOf(doc), *port));
-  if (emulation) s.emulation_type = static_cast<int>(ReadNumber(RecordOf(doc), *emulation));
-  if (local_name) s.local_name = ReadText(RecordOf(doc), *local_name);
+  int index = static_cast<int>(ReadNumber(RecordOf(doc), kActiveHostIpOrName));
+  if (index < 0 || index >= kHostIpOrName.count) index = 0;
+  s.active_entry = ReadText(RecordOf(doc), kHostIpOrName, index);
+  s.port = static_cast<std::uint16_t>(ReadNumber(RecordOf(doc), kTelnetPort));
+  s.emulation_type = static_cast<int>(ReadNumber(RecordOf(doc), kEmulationType));
+  s.local_name = ReadText(RecordOf(doc), kLocalName);
   return s;
 }
 
 void StoreConnectedAddress(Document& doc, std::string_view address) {
-  if (const FieldDef* entries = FindField("HostIpOrName")) {
-    WriteText(doc.record, *entries, address, 0);
-  }
+  WriteText(doc.record, kHostIpOrName, address, 0);
 }
 
 HostConnection::HostConnection(HostLink& link, SessionLog& log, SessionMessages& messages)

@@ -7,8 +7,8 @@
 #include "settings/emulation/key_code_defaults.h"
 #include "settings/emulation/key_mapping.h"
 #include "settings/emulation/key_names.h"
-#include "settings/field_registry.h"
 #include "settings/network/network_settings.h"
+#include "settings/reader/reader_record_fields.h"
 
 namespace veltrix {
 namespace {
@@ -57,16 +57,13 @@ struct KeyField {
   int role;
 };
 
-// The key fields in the order their keys are claimed again. The reader's switch key is looked up
-// by name: its section declares it.
-std::array<KeyField, 6> KeyFields() {
-  return {{{&kLoginNameKey, kRoleNameKey},
-           {&kLoginPasswordKey, kRolePasswordKey},
-           {&kLogoutKey, kRoleExitKey},
-           {&kNavigatorKey, kRoleNavigatorKey},
-           {&kMessageFunctionKey, kRoleMessageKey},
-           {FindField("ScanSwitchKeyName"), kRoleSwitchKey}}};
-}
+// The key fields in the order their keys are claimed again.
+constexpr std::array<KeyField, 6> kKeyFields{{{&kLoginNameKey, kRoleNameKey},
+                                              {&kLoginPasswordKey, kRolePasswordKey},
+                                              {&kLogoutKey, kRoleExitKey},
+                                              {&kNavigatorKey, kRoleNavigatorKey},
+                                              {&kMessageFunctionKey, kRoleMessageKey},
+                                              {&kScanSwitchKeyName, kRoleSwitchKey}}};
 
 }  // namespace
 
@@ -82,8 +79,7 @@ void SetFunctionKeyDefaults(Document& doc) {
     const int index = KeyCodeTableIndex(IsRole(m.group) ? 0 : m.group, m.host_key);
     CopyTableEntryToKeyCode(doc, n, std::max(index, 0));
   }
-  for (const KeyField& key_field : KeyFields()) {
-    if (key_field.field == nullptr) continue;
+  for (const KeyField& key_field : kKeyFields) {
     const int k = static_cast<int>(ReadNumber(doc.record, *key_field.field));
     if (k != 0) ClaimFunctionKey(doc, k, key_field.role);
   }
@@ -138,8 +134,8 @@ bool IsFunctionKeyTaken(const Document& doc, int old_k, int new_k) {
 }
 
 int RoleOfKeyField(const FieldDef& field) {
-  for (const KeyField& key_field : KeyFields()) {
-    if (key_field.field != nullptr && key_field.field->name == field.name) return key_field.role;
+  for (const KeyField& key_field : kKeyFields) {
+    if (key_field.field->name == field.name) return key_field.role;
   }
   return 0;
 }
