@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 #include "settings/document.h"
 #include "shell/summary.h"
 

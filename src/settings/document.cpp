@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/network/network_settings.h"

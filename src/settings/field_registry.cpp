@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/network/network_settings.h"

@@ -10,7 +10,7 @@
 #include <system_error>
 #include <vector>
 
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 #include "resources/strings.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"

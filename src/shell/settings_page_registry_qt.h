@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "settings/document.h"
-#include "shell/settings_page.h"
-#include "shell/sheet_page_contract.h"
+#include "settings/settings_page.h"
+#include "settings/sheet_page_contract.h"
 
 namespace veltrix {
 

@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "settings/document.h"
-#include "shell/page_snapshot.h"
-#include "shell/sheet_page_contract.h"
+#include "settings/page_snapshot.h"
+#include "settings/sheet_page_contract.h"
 
 namespace veltrix {
 

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 #include "resources/strings.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/network/network_settings.h"

@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "settings/document.h"
-#include "shell/summary_node.h"
+#include "settings/key_names_text.h"
+#include "settings/summary_node.h"
 
 namespace veltrix {
 
@@ -18,12 +19,6 @@ std::vector<SummaryNode> BuildSummary(const Document& doc);
 // The tree as text: one line per node in tree order, indented by two spaces per level below the
 // top level, each line ended by a line feed.
 std::string RenderSummaryText(const std::vector<SummaryNode>& nodes);
-
-enum class KeyNameMode { kNames, kHex };
-
-// Renders bytes as terminal key names (stopping at the first zero byte) or as hexadecimal pairs,
-// each followed by one blank; at most 100 characters.
-std::string KeyNamesText(std::span<const std::uint8_t> bytes, int count, KeyNameMode mode);
 
 }  // namespace veltrix
 

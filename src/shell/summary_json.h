@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/summary_node.h"
+#include "settings/summary_node.h"
 
 namespace veltrix {
 

@@ -4,7 +4,7 @@
 #include <QTreeWidget>
 #include <vector>
 
-#include "shell/summary_node.h"
+#include "settings/summary_node.h"
 
 namespace veltrix {
 

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "shell/settings_page.h"
+#include "settings/settings_page.h"
 
 namespace veltrix {
 

@@ -7,7 +7,7 @@
 
 #include "tn5250/field_table.h"
 #include "tn5250/presentation_space.h"
-#include "tn5250/session.h"
+#include "tn5250/session_config.h"
 
 namespace veltrix {
 

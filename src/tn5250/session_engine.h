@@ -7,7 +7,8 @@
 #include "tn5250/host_context.h"
 #include "tn5250/inbound_records.h"
 #include "tn5250/keyboard.h"
-#include "tn5250/session.h"
+#include "tn5250/session_config.h"
+#include "tn5250/session_listener.h"
 #include "tn5250/telnet_receiver.h"
 
 namespace veltrix {

@@ -5,7 +5,7 @@
 #include <array>
 #include <memory>
 
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 #include "settings/document.h"
 #include "settings/field_values.h"
 

@@ -1,11 +1,11 @@
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <memory>
 
-#include "capture/terminal_screen_sizes.h"
+#include "settings/screen/terminal_screen_sizes.h"
 #include "default_document.h"
 #include "settings/field_registry.h"
 #include "settings_test_files.h"

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 #include "default_document.h"
 #include "settings_test_files.h"
 

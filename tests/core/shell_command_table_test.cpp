@@ -6,7 +6,7 @@
 #include "resources/strings.h"
 #include "shell/command_enabling.h"
 #include "shell/command_table.h"
-#include "shell/fake_ports.h"
+#include "support/fake_ports.h"
 #include "shell/session_commands.h"
 
 namespace veltrix {

@@ -6,7 +6,7 @@
 
 #include "shell/command_table.h"
 #include "shell/commands.h"
-#include "shell/fake_ports.h"
+#include "support/fake_ports.h"
 
 namespace veltrix {
 namespace {

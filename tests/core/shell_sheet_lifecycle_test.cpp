@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "settings/document.h"
-#include "shell/page_snapshot.h"
+#include "settings/page_snapshot.h"
 #include "shell/sheet_lifecycle.h"
 
 namespace veltrix {

@@ -7,7 +7,7 @@
 
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_settings.h"
-#include "shell/page_snapshot.h"
+#include "settings/page_snapshot.h"
 
 namespace veltrix {
 namespace {

@@ -14,8 +14,8 @@
 #include <memory>
 
 #include "shell/command_table.h"
-#include "shell/fake_ports.h"
-#include "shell/settings_page.h"
+#include "support/fake_ports.h"
+#include "settings/settings_page.h"
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 #include "shell/summary_view.h"

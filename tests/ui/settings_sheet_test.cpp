@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "settings/document.h"
-#include "shell/settings_page.h"
+#include "settings/settings_page.h"
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 

@@ -5,7 +5,7 @@
 
 #include "settings/document.h"
 #include "settings/field.h"
-#include "shell/summary_node.h"
+#include "settings/summary_node.h"
 
 namespace veltrix {
 

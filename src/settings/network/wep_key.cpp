@@ -5,7 +5,7 @@
 
 #include "settings/field.h"
 #include "settings/network/network_settings.h"
-#include "shell/summary.h"
+#include "settings/key_names_text.h"
 
 namespace veltrix {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "settings/reader/reader_record_fields.h"
-#include "shell/summary.h"
+#include "settings/key_names_text.h"
 
 namespace veltrix {
 

@@ -12,7 +12,7 @@
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/working_block.h"
-#include "shell/summary.h"
+#include "settings/key_names_text.h"
 
 namespace veltrix {
 namespace {

@@ -6,7 +6,7 @@
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_editor.h"
 #include "settings/system/system_settings.h"
-#include "shell/settings_page.h"
+#include "settings/settings_page.h"
 
 class QButtonGroup;
 class QCheckBox;

@@ -1,4 +1,4 @@
-#include "shell/page_snapshot.h"
+#include "settings/page_snapshot.h"
 
 namespace veltrix {
 

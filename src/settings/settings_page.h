@@ -1,10 +1,10 @@
-#ifndef VELTRIX_SHELL_SETTINGS_PAGE_H_
-#define VELTRIX_SHELL_SETTINGS_PAGE_H_
+#ifndef VELTRIX_SETTINGS_SETTINGS_PAGE_H_
+#define VELTRIX_SETTINGS_SETTINGS_PAGE_H_
 
 #include <QWidget>
 
 #include "settings/document.h"
-#include "shell/sheet_page_contract.h"
+#include "settings/sheet_page_contract.h"
 
 namespace veltrix {
 
@@ -35,4 +35,4 @@ class SettingsPage : public QWidget, public SheetPage {
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_SHELL_SETTINGS_PAGE_H_
+#endif  // VELTRIX_SETTINGS_SETTINGS_PAGE_H_

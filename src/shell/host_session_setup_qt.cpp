@@ -1,4 +1,4 @@
-#include "tn5250/host_connection_setup_qt.h"
+#include "shell/host_session_setup_qt.h"
 
 #include "shell/command_table.h"
 #include "shell/main_window.h"

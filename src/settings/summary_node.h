@@ -1,5 +1,5 @@
-#ifndef VELTRIX_SHELL_SUMMARY_NODE_H_
-#define VELTRIX_SHELL_SUMMARY_NODE_H_
+#ifndef VELTRIX_SETTINGS_SUMMARY_NODE_H_
+#define VELTRIX_SETTINGS_SUMMARY_NODE_H_
 
 #include <string>
 #include <vector>
@@ -22,4 +22,4 @@ struct SummaryNode {
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_SHELL_SUMMARY_NODE_H_
+#endif  // VELTRIX_SETTINGS_SUMMARY_NODE_H_

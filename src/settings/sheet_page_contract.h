@@ -1,11 +1,11 @@
-#ifndef VELTRIX_SHELL_SHEET_PAGE_CONTRACT_H_
-#define VELTRIX_SHELL_SHEET_PAGE_CONTRACT_H_
+#ifndef VELTRIX_SETTINGS_SHEET_PAGE_CONTRACT_H_
+#define VELTRIX_SETTINGS_SHEET_PAGE_CONTRACT_H_
 
 #include <array>
 #include <string_view>
 
 #include "settings/document.h"
-#include "shell/page_snapshot.h"
+#include "settings/page_snapshot.h"
 
 namespace veltrix {
 
@@ -54,4 +54,4 @@ class SheetPage {
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_SHELL_SHEET_PAGE_CONTRACT_H_
+#endif  // VELTRIX_SETTINGS_SHEET_PAGE_CONTRACT_H_

@@ -1,5 +1,5 @@
-#ifndef VELTRIX_SHELL_FAKE_PORTS_H_
-#define VELTRIX_SHELL_FAKE_PORTS_H_
+#ifndef VELTRIX_TESTS_SUPPORT_FAKE_PORTS_H_
+#define VELTRIX_TESTS_SUPPORT_FAKE_PORTS_H_
 
 #include <deque>
 #include <optional>
@@ -65,4 +65,4 @@ class FakeFileChooser : public FileChooser {
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_SHELL_FAKE_PORTS_H_
+#endif  // VELTRIX_TESTS_SUPPORT_FAKE_PORTS_H_

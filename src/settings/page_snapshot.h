@@ -1,5 +1,5 @@
-#ifndef VELTRIX_SHELL_PAGE_SNAPSHOT_H_
-#define VELTRIX_SHELL_PAGE_SNAPSHOT_H_
+#ifndef VELTRIX_SETTINGS_PAGE_SNAPSHOT_H_
+#define VELTRIX_SETTINGS_PAGE_SNAPSHOT_H_
 
 #include <memory>
 
@@ -45,4 +45,4 @@ class PageSnapshot {
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_SHELL_PAGE_SNAPSHOT_H_
+#endif  // VELTRIX_SETTINGS_PAGE_SNAPSHOT_H_

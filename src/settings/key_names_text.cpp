@@ -1,8 +1,9 @@
+#include "settings/key_names_text.h"
+
 #include <algorithm>
 #include <string>
 #include <string_view>
 
-#include "shell/summary.h"
 
 namespace veltrix {
 namespace {

@@ -1,11 +1,11 @@
-#ifndef VELTRIX_CAPTURE_SCREEN_PAGES_H_
-#define VELTRIX_CAPTURE_SCREEN_PAGES_H_
+#ifndef VELTRIX_SETTINGS_SCREEN_SCREEN_PAGES_H_
+#define VELTRIX_SETTINGS_SCREEN_SCREEN_PAGES_H_
 
 #include <span>
 
 #include "settings/document.h"
 #include "settings/field.h"
-#include "shell/summary_node.h"
+#include "settings/summary_node.h"
 
 namespace veltrix {
 
@@ -100,4 +100,4 @@ void AppendScreenPageSummary(const Document& doc, SummaryNode& parent);
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_CAPTURE_SCREEN_PAGES_H_
+#endif  // VELTRIX_SETTINGS_SCREEN_SCREEN_PAGES_H_

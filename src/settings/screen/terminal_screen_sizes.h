@@ -1,5 +1,5 @@
-#ifndef VELTRIX_CAPTURE_TERMINAL_SCREEN_SIZES_H_
-#define VELTRIX_CAPTURE_TERMINAL_SCREEN_SIZES_H_
+#ifndef VELTRIX_SETTINGS_SCREEN_TERMINAL_SCREEN_SIZES_H_
+#define VELTRIX_SETTINGS_SCREEN_TERMINAL_SCREEN_SIZES_H_
 
 #include <array>
 #include <string_view>
@@ -27,4 +27,4 @@ const TerminalScreenSize* FindTerminalScreenSize(int font_size, int index);
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_CAPTURE_TERMINAL_SCREEN_SIZES_H_
+#endif  // VELTRIX_SETTINGS_SCREEN_TERMINAL_SCREEN_SIZES_H_

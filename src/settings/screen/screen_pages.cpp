@@ -1,10 +1,10 @@
-#include "capture/screen_pages.h"
+#include "settings/screen/screen_pages.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <string>
 
-#include "capture/terminal_screen_sizes.h"
+#include "settings/screen/terminal_screen_sizes.h"
 #include "settings/emulation/emulation_settings.h"
 
 namespace veltrix {

@@ -1,5 +1,5 @@
-#ifndef VELTRIX_TN5250_HOST_CONNECTION_SETUP_QT_H_
-#define VELTRIX_TN5250_HOST_CONNECTION_SETUP_QT_H_
+#ifndef VELTRIX_SHELL_HOST_SESSION_SETUP_QT_H_
+#define VELTRIX_SHELL_HOST_SESSION_SETUP_QT_H_
 
 namespace veltrix {
 
@@ -21,4 +21,4 @@ HostSessionParts InstallHostSession(MainWindow& window);
 
 }  // namespace veltrix
 
-#endif  // VELTRIX_TN5250_HOST_CONNECTION_SETUP_QT_H_
+#endif  // VELTRIX_SHELL_HOST_SESSION_SETUP_QT_H_

@@ -1,4 +1,4 @@
-#include "capture/terminal_screen_sizes.h"
+#include "settings/screen/terminal_screen_sizes.h"
 
 namespace veltrix {
 namespace {
