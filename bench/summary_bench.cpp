@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "settings/screen/screen_pages.h"
 #include "settings/document.h"
+#include "settings/screen/screen_pages.h"
 #include "shell/summary.h"
 
 namespace veltrix {

@@ -1,9 +1,9 @@
 #include <QApplication>
 
+#include "shell/host_session_setup_qt.h"
 #include "shell/main_window.h"
 #include "shell/tool_icons_qt.h"
 #include "shell/window_extensions_qt.h"
-#include "shell/host_session_setup_qt.h"
 
 // Start-up: the main window (document with no product, empty summary) with the host session and
 // the download plugged in, the About box once over it, then the event loop until the window

@@ -3,6 +3,7 @@
 #include "cli/settings_input.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/field_values.h"
+#include "settings/reader/working_block.h"
 
 namespace veltrix::cli {
 
@@ -57,7 +58,7 @@ int RunSetCommand(std::span<const std::string> args, CliIo& io) {
     }
   }
   // The reader working blocks are written over their record images on save: take the new values.
-  CopyRecordToWorkingBlocks(*doc);
+  CopyRecordToReaderBlocks(*doc);
   return SaveSettingsOutput(*doc, path, io) ? kExitOk : kExitUsage;
 }
 

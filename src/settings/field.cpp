@@ -89,4 +89,24 @@ std::span<const std::uint8_t> FieldBytes(std::span<const std::uint8_t> record, c
   return record.subspan(f.OffsetOf(i, j), f.width);
 }
 
+void ApplyDefault(std::span<std::uint8_t> record, const FieldDef& f) {
+  for (int i = 0; i < f.count; ++i) {
+    for (int j = 0; j < f.count2; ++j) {
+      if (f.numeric()) {
+        WriteNumber(record, f, static_cast<std::uint32_t>(f.default_value), i, j);
+        continue;
+      }
+      auto bytes = FieldBytes(record, f, i, j);
+      std::fill(bytes.begin(), bytes.end(), std::uint8_t{0});
+      if (i != 0 || j != 0) continue;
+      if (f.type == FieldType::kText) {
+        WriteText(record, f, f.default_text);
+      } else {
+        std::copy_n(f.default_text.begin(), std::min(f.default_text.size(), bytes.size()),
+                    bytes.begin());
+      }
+    }
+  }
+}
+
 }  // namespace veltrix

@@ -1,6 +1,8 @@
 #ifndef VELTRIX_SETTINGS_FIELD_H_
 #define VELTRIX_SETTINGS_FIELD_H_
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -16,6 +18,18 @@ enum class FieldType : std::uint8_t {
   kSplitU16,  // 16-bit value: low byte at offset, high byte at offset_hi
   kText,      // NUL-terminated text within `width` bytes (at most width - 1 characters)
   kBytes,     // raw byte string of `width` bytes
+};
+
+// Roles a terminal FN key can be claimed for (the first byte of a mapping entry); a key field
+// names the role its key is claimed for.
+enum FunctionKeyRole : std::uint8_t {
+  kRoleNone = 0,
+  kRoleNameKey = 201,
+  kRolePasswordKey = 202,
+  kRoleExitKey = 203,
+  kRoleNavigatorKey = 204,
+  kRoleMessageKey = 205,
+  kRoleSwitchKey = 206,
 };
 
 // One field of the settings record, declared once. Fields that repeat (host entries, pages,
@@ -36,19 +50,52 @@ struct FieldDef {
   std::int64_t max = 255;
   std::int64_t default_value = 0;  // numeric default where the default is a constant
   std::string_view meaning;
+  // A text field's default text, or a byte field's default bytes; elements after the first
+  // start empty.
+  std::string_view default_text;
+  FunctionKeyRole key_role = kRoleNone;
+  // No control edits it; the terminal expects its default there.
+  bool reserved = false;
 
   constexpr bool numeric() const { return type != FieldType::kText && type != FieldType::kBytes; }
   constexpr int dimensions() const { return count2 > 1 ? 2 : (count > 1 ? 1 : 0); }
   constexpr std::uint32_t OffsetOf(int i = 0, int j = 0) const {
-    return offset + static_cast<std::uint32_t>(i) * stride + static_cast<std::uint32_t>(j) * stride2;
+    return offset + static_cast<std::uint32_t>(i) * stride +
+           static_cast<std::uint32_t>(j) * stride2;
   }
   // Last byte (inclusive) that any element of the field touches.
   constexpr std::uint32_t LastByte() const {
-    std::uint32_t last = OffsetOf(count - 1, count2 - 1) + (type == FieldType::kU16 ? 2 : width) - 1;
+    std::uint32_t last =
+        OffsetOf(count - 1, count2 - 1) + (type == FieldType::kU16 ? 2 : width) - 1;
     if (type == FieldType::kSplitU16 && offset_hi > last) last = offset_hi;
     return last;
   }
 };
+
+// Each section declares its fields in one table; these find a field of it by name at compile time,
+// so that code may name the fields it reads, and a name missing from the table does not compile.
+void FieldNameIsNotInTheTable();  // never defined: reaching it at compile time is the error
+consteval const FieldDef& FieldNamed(std::span<const FieldDef> table, std::string_view name) {
+  for (const FieldDef& f : table) {
+    if (f.name == name) return f;
+  }
+  FieldNameIsNotInTheTable();
+  return table[0];
+}
+
+// Pointers to every field of the tables, in order.
+template <std::size_t... N>
+constexpr std::array<const FieldDef*, (N + ... + 0)> FieldPointers(
+    const std::array<FieldDef, N>&... tables) {
+  std::array<const FieldDef*, (N + ... + 0)> pointers{};
+  std::size_t next = 0;
+  (
+      (void)[&] {
+        for (const FieldDef& f : tables) pointers[next++] = &f;
+      }(),
+      ...);
+  return pointers;
+}
 
 // Typed access to a field element in a record image. Indices must be in range (callers check
 // with FieldDef::count/count2); out-of-range indices read 0 and write nothing.
@@ -64,6 +111,10 @@ std::span<std::uint8_t> FieldBytes(std::span<std::uint8_t> record, const FieldDe
                                    int j = 0);
 std::span<const std::uint8_t> FieldBytes(std::span<const std::uint8_t> record, const FieldDef& f,
                                          int i = 0, int j = 0);
+
+// Gives every element of `f` its declared default: the number, or the text in the first element
+// (the whole width cleared first), or zero bytes.
+void ApplyDefault(std::span<std::uint8_t> record, const FieldDef& f);
 
 }  // namespace veltrix
 

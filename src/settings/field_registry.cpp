@@ -2,24 +2,17 @@
 
 #include <vector>
 
-#include "settings/screen/screen_pages.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/network/network_settings.h"
 #include "settings/prompts/prompts.h"
 #include "settings/reader/reader_settings.h"
+#include "settings/screen/screen_pages.h"
 #include "settings/system/system_settings.h"
 
 namespace veltrix {
 namespace {
-
-// The record's header: the format tag is restamped on every open and not offered as a field.
-constexpr FieldDef kProductIndex{.name = "ProductIndex",
-                                 .offset = kProductOffset,
-                                 .max = kProductCount,
-                                 .meaning = "0 no product, 1 Dravin S, 2 Dravin R"};
-constexpr const FieldDef* kHeaderFields[] = {&kProductIndex};
-
+constexpr auto kHeaderFields = FieldPointers(kHeaderFieldTable);
 }  // namespace
 
 std::span<const FieldDef* const> AllFields() {

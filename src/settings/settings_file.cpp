@@ -10,18 +10,19 @@
 #include <system_error>
 #include <vector>
 
-#include "settings/screen/screen_pages.h"
 #include "resources/strings.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"
+#include "settings/field_registry.h"
 #include "settings/reader/reader_settings.h"
+#include "settings/reader/working_block.h"
+#include "settings/screen/screen_pages.h"
 
 namespace veltrix {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kCurrentTag{"I100\0", kFormatTagWidth};
 constexpr int kMinimumVersion = 100;
 constexpr char kCurrentLayout = 'I';
 constexpr char kPreviousLayout = 'V';
@@ -93,16 +94,6 @@ int FormatVersion(std::span<const std::uint8_t> record) {
   return static_cast<int>(negative ? -value : value);
 }
 
-void CopyWorkingBlocksToRecord(Document& doc) {
-  std::ranges::copy(doc.reader_block1, doc.record.begin() + kReaderBlock1Offset);
-  std::ranges::copy(doc.reader_block2, doc.record.begin() + kReaderBlock2Offset);
-}
-
-void CopyRecordToWorkingBlocks(Document& doc) {
-  std::ranges::copy(doc.bytes(kReaderBlock1Offset, kReaderBlock1Size), doc.reader_block1.begin());
-  std::ranges::copy(doc.bytes(kReaderBlock2Offset, kReaderBlock2Size), doc.reader_block2.begin());
-}
-
 SettingsFileReport ApplyOpenRules(Document& doc) {
   SettingsFileReport report;
   const char letter = static_cast<char>(doc.record[kFormatTagOffset]);
@@ -117,9 +108,9 @@ SettingsFileReport ApplyOpenRules(Document& doc) {
       report.converted = true;
     }
   }
-  std::ranges::copy(kCurrentTag, doc.record.begin() + kFormatTagOffset);
+  ApplyDefault(doc.record, kFormatTag);
   RebuildKeyCodeTable(doc);
-  CopyRecordToWorkingBlocks(doc);
+  CopyRecordToReaderBlocks(doc);
   return report;
 }
 
@@ -147,7 +138,7 @@ bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport
 }
 
 bool WriteSettingsFileTo(Document& doc, const std::string& path) {
-  CopyWorkingBlocksToRecord(doc);
+  CopyReaderBlocksToRecord(doc);
   const fs::path target(path);
   const fs::path temp = TemporaryPathFor(target);
   std::error_code error;

@@ -35,10 +35,6 @@ SettingsFileReport ApplyOpenRules(Document& doc);
 // optional sign, digits up to the first non-digit); 0 unless the letter is 'I' or 'V'.
 int FormatVersion(std::span<const std::uint8_t> record);
 
-// The reader working blocks and their stored images in the record.
-void CopyWorkingBlocksToRecord(Document& doc);
-void CopyRecordToWorkingBlocks(Document& doc);
-
 // Writes the document (working blocks copied into the record first) to `path` atomically: a
 // temporary file in the same folder, then a rename. Returns false on failure, leaving any
 // previous file intact.

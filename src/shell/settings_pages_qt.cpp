@@ -1,8 +1,7 @@
 // The pages of the settings sheet that this build has. Plug a page in with one line:
 //   registry.Register<SystemPage>(SheetPageId::kSystem);
-#include "shell/settings_page_registry_qt.h"
-
 #include "settings/system/system_page.h"
+#include "shell/settings_page_registry_qt.h"
 
 namespace veltrix {
 

@@ -2,11 +2,11 @@
 
 #include <cstdio>
 
-#include "settings/screen/screen_pages.h"
 #include "resources/strings.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/network/network_settings.h"
 #include "settings/reader/reader_settings.h"
+#include "settings/screen/screen_pages.h"
 #include "settings/system/system_settings.h"
 
 namespace veltrix {

@@ -72,19 +72,8 @@ TEST(Document, NewDocumentIsAWholeSettingsFile) {
   }
 }
 
-// Reserved bits that no control changes but the default routines give a fixed value; the
-// terminal gets them as they are.
-constexpr Cover kReservedWithDefaults[] = {
-    {3710, 0x0F},   // low half of the scan mode byte
-    {3712, 0x1F},   // low bits of the EAN128 byte
-    {3748, 0xFF},   // reader byte after the leading code
-    {4464, 0xFF},   // emulation byte after the scroll steps
-    {58662, 0xFF},  // two-dimensional reader byte no dialog changes
-};
-
 TEST(Document, DefaultsLeaveEveryUndeclaredByteZero) {
   std::vector<std::uint8_t> declared(kRecordSize, 0);  // the bits some field covers
-  for (const Cover& c : kReservedWithDefaults) declared[c.byte] |= c.bits;
   for (const FieldDef* f : AllFields()) {
     for (const FieldElement& e : ElementsOf(*f)) {
       for (const Cover& c : CoverOf(e)) declared[c.byte] |= c.bits;
@@ -92,7 +81,7 @@ TEST(Document, DefaultsLeaveEveryUndeclaredByteZero) {
   }
   for (int product : {0, 1, 2}) {
     auto doc = DefaultDocument(product);
-    for (std::size_t k = kFormatTagWidth; k < kRecordSize; ++k) {
+    for (std::size_t k = 0; k < kRecordSize; ++k) {
       EXPECT_EQ(0, doc->record[k] & ~declared[k])
           << "product " << product << ": byte " << k << " is " << int{doc->record[k]}
           << " outside any field";
@@ -126,7 +115,7 @@ TEST(FieldRegistry, FieldsLieInsideTheRecordAndNamesAreUnique) {
 TEST(FieldRegistry, NoFieldInTheUnusedRanges) {
   const struct {
     std::uint32_t first, last;
-  } unused[] = {{0, 4}, {6, 24}, {2870, 3689}, {57659, 58658}};
+  } unused[] = {{6, 24}, {2870, 3689}, {57659, 58658}};
   for (const FieldDef* f : AllFields()) {
     for (const FieldElement& e : ElementsOf(*f)) {
       for (const Cover& c : CoverOf(e)) {

@@ -5,9 +5,9 @@
 #include <array>
 #include <memory>
 
-#include "settings/screen/screen_pages.h"
 #include "settings/document.h"
 #include "settings/field_values.h"
+#include "settings/screen/screen_pages.h"
 
 namespace veltrix {
 namespace {

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "settings/screen/terminal_screen_sizes.h"
 #include "default_document.h"
 #include "settings/field_registry.h"
+#include "settings/screen/terminal_screen_sizes.h"
 #include "settings_test_files.h"
 #include "shell/summary.h"
 

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "settings/screen/screen_pages.h"
 #include "default_document.h"
+#include "settings/screen/screen_pages.h"
 #include "settings_test_files.h"
 
 namespace veltrix {

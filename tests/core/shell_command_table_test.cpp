@@ -6,8 +6,8 @@
 #include "resources/strings.h"
 #include "shell/command_enabling.h"
 #include "shell/command_table.h"
-#include "support/fake_ports.h"
 #include "shell/session_commands.h"
+#include "support/fake_ports.h"
 
 namespace veltrix {
 namespace {

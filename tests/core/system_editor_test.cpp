@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
+#include "settings/page_snapshot.h"
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_settings.h"
-#include "settings/page_snapshot.h"
 
 namespace veltrix {
 namespace {

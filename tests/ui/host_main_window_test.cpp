@@ -5,10 +5,10 @@
 #include "demo_host/demo_host_server.h"
 #include "settings/field_registry.h"
 #include "shell/command_table.h"
-#include "support/fake_ports.h"
-#include "shell/main_window.h"
-#include "tn5250/host_connection_qt.h"
 #include "shell/host_session_setup_qt.h"
+#include "shell/main_window.h"
+#include "support/fake_ports.h"
+#include "tn5250/host_connection_qt.h"
 #include "tn5250/host_screen_widget.h"
 
 namespace veltrix {

@@ -13,12 +13,12 @@
 #include <functional>
 #include <memory>
 
-#include "shell/command_table.h"
-#include "support/fake_ports.h"
 #include "settings/settings_page.h"
+#include "shell/command_table.h"
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 #include "shell/summary_view.h"
+#include "support/fake_ports.h"
 
 using namespace veltrix;
 

@@ -12,22 +12,7 @@
 namespace veltrix {
 namespace {
 
-constexpr std::array<const FieldDef*, 18> kFields = {
-    &kEmulationType,      &kFontSize,          &kNavigator,
-    &kNavigatorKey,       &kHorizontalSteps,   &kVerticalSteps,
-    &kViewOrgX,           &kViewOrgY,          &kCursorTracking,
-    &kTrimSpaces,         &kRemoveEmptyLine,   &kDisableLocalEcho,
-    &kLockScreen,         &kMessageLineNumber, &kFieldLengthIfExceed,
-    &kMessageFunctionKey, &kMessageTimeOut,    &kExcludeString};
-
-constexpr std::string_view kDefaultExcludeString = "COPYRIGHT";
-
-// Bytes of the section that no control edits; the terminal expects these values.
-struct ReservedByte {
-  std::uint32_t offset;
-  std::uint8_t value;
-};
-constexpr ReservedByte kReservedBytes[] = {{4450, 0}, {4452, 0}, {4453, 0}, {4463, 0}, {4464, 20}};
+constexpr auto kFields = FieldPointers(kEmulationFieldTable);
 
 constexpr std::array<std::string_view, 2> kFontSizeSummary = {"Small (6*8)", "Large (8*16)"};
 
@@ -72,10 +57,8 @@ void SetEmulationDefaults(Document& doc) {
   if (navigator_key != 0) ReleaseFunctionKey(doc, navigator_key);
   for (const FieldDef* f : EmulationFields()) {
     // "Reset" keeps the user's choice for over-long fields; New has it zero already.
-    if (f == &kFieldLengthIfExceed || !f->numeric()) continue;
-    WriteNumber(doc.record, *f, static_cast<std::uint32_t>(f->default_value));
+    if (f != &kFieldLengthIfExceed && f->numeric()) ApplyDefault(doc.record, *f);
   }
-  for (const ReservedByte& b : kReservedBytes) doc.record[b.offset] = b.value;
   SetEmulationMessageDefaults(doc);
 }
 
@@ -90,11 +73,10 @@ void AppendEmulationSummary(const Document& doc, SummaryNode& parent) {
 }
 
 void SetEmulationMessageDefaults(Document& doc) {
-  WriteNumber(doc.record, kMessageLineNumber,
-              static_cast<std::uint32_t>(kMessageLineNumber.default_value));
-  WriteNumber(doc.record, kMessageTimeOut,
-              static_cast<std::uint32_t>(kMessageTimeOut.default_value));
-  WriteText(doc.record, kExcludeString, kDefaultExcludeString);
+  ApplyDefault(doc.record, kMessageLineNumber);
+  ApplyDefault(doc.record, kMessageTimeOut);
+  // Only the text and its NUL: the bytes behind them stay as they are.
+  WriteText(doc.record, kExcludeString, kExcludeString.default_text);
 }
 
 }  // namespace veltrix

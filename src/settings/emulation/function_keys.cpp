@@ -2,19 +2,18 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/key_code_defaults.h"
 #include "settings/emulation/key_mapping.h"
 #include "settings/emulation/key_names.h"
-#include "settings/network/network_settings.h"
-#include "settings/reader/reader_record_fields.h"
+#include "settings/field_registry.h"
 
 namespace veltrix {
 namespace {
 
-constexpr std::array<const FieldDef*, 4> kFields = {&kKeyMappingGroup, &kKeyMappingHostKey,
-                                                    &kKeyMappingSpare, &kKeyCode};
+constexpr auto kFields = FieldPointers(kFunctionKeyFieldTable);
 
 struct KeyRange {
   int first;
@@ -52,18 +51,18 @@ void CopyTableEntryToKeyCode(Document& doc, int key_number, int index) {
   std::copy_n(doc.key_codes.begin() + index * kKeyCodeWidth, kKeyCodeWidth, code.begin());
 }
 
-struct KeyField {
-  const FieldDef* field;
-  int role;
-};
-
-// The key fields in the order their keys are claimed again.
-constexpr std::array<KeyField, 6> kKeyFields{{{&kLoginNameKey, kRoleNameKey},
-                                              {&kLoginPasswordKey, kRolePasswordKey},
-                                              {&kLogoutKey, kRoleExitKey},
-                                              {&kNavigatorKey, kRoleNavigatorKey},
-                                              {&kMessageFunctionKey, kRoleMessageKey},
-                                              {&kScanSwitchKeyName, kRoleSwitchKey}}};
+// The key fields of every section, in the order their keys are claimed again (by role).
+std::span<const FieldDef* const> KeyFields() {
+  static const std::vector<const FieldDef*> fields = [] {
+    std::vector<const FieldDef*> v;
+    for (const FieldDef* f : AllFields()) {
+      if (f->key_role != kRoleNone) v.push_back(f);
+    }
+    std::ranges::sort(v, {}, &FieldDef::key_role);
+    return v;
+  }();
+  return fields;
+}
 
 }  // namespace
 
@@ -79,9 +78,9 @@ void SetFunctionKeyDefaults(Document& doc) {
     const int index = KeyCodeTableIndex(IsRole(m.group) ? 0 : m.group, m.host_key);
     CopyTableEntryToKeyCode(doc, n, std::max(index, 0));
   }
-  for (const KeyField& key_field : kKeyFields) {
-    const int k = static_cast<int>(ReadNumber(doc.record, *key_field.field));
-    if (k != 0) ClaimFunctionKey(doc, k, key_field.role);
+  for (const FieldDef* f : KeyFields()) {
+    const int k = static_cast<int>(ReadNumber(doc.record, *f));
+    if (k != 0) ClaimFunctionKey(doc, k, f->key_role);
   }
 }
 
@@ -133,12 +132,7 @@ bool IsFunctionKeyTaken(const Document& doc, int old_k, int new_k) {
   return new_k != 0 && new_k != old_k && FunctionKeyHasRole(doc, new_k);
 }
 
-int RoleOfKeyField(const FieldDef& field) {
-  for (const KeyField& key_field : kKeyFields) {
-    if (key_field.field->name == field.name) return key_field.role;
-  }
-  return 0;
-}
+int RoleOfKeyField(const FieldDef& field) { return field.key_role; }
 
 KeyComboResult ApplyFunctionKeyCombo(Document& doc, const FieldDef& field, int old_k, int new_k,
                                      int role) {

@@ -1,6 +1,7 @@
 #ifndef VELTRIX_SETTINGS_EMULATION_FUNCTION_KEYS_H_
 #define VELTRIX_SETTINGS_EMULATION_FUNCTION_KEYS_H_
 
+#include <array>
 #include <span>
 
 #include "settings/document.h"
@@ -14,33 +15,41 @@ namespace veltrix {
 // held by a role), byte 2 is always 0.
 inline constexpr std::uint32_t kKeyMappingOffset = 4565;
 inline constexpr std::uint32_t kKeyMappingStride = 3;
-inline constexpr FieldDef kKeyMappingGroup{.name = "KeyMappingGroup",
-                                           .offset = kKeyMappingOffset,
-                                           .count = kTerminalKeyCount,
-                                           .stride = kKeyMappingStride,
-                                           .max = 206,
-                                           .meaning = "0 nil, 1 Shift, 2 Alt, 201-206 a role"};
-inline constexpr FieldDef kKeyMappingHostKey{
-    .name = "KeyMappingHostKey",
-    .offset = kKeyMappingOffset + 1,
-    .count = kTerminalKeyCount,
-    .stride = kKeyMappingStride,
-    .max = 38,
-    .meaning = "host key number 0-38 (0 while a role holds the key)"};
-inline constexpr FieldDef kKeyMappingSpare{.name = "KeyMappingSpare",
-                                           .offset = kKeyMappingOffset + 2,
-                                           .count = kTerminalKeyCount,
-                                           .stride = kKeyMappingStride,
-                                           .max = 0,
-                                           .meaning = "always 0"};
-// Key codes: the byte sequence recorded for terminal key n, zero-filled.
-inline constexpr FieldDef kKeyCode{.name = "KeyCode",
-                                   .offset = 4715,
-                                   .width = kKeyCodeWidth,
-                                   .type = FieldType::kBytes,
-                                   .count = kTerminalKeyCount,
-                                   .stride = kKeyCodeWidth,
-                                   .meaning = "the bytes the terminal key sends, zero-filled"};
+inline constexpr auto kFunctionKeyFieldTable = std::to_array<FieldDef>({
+    {.name = "KeyMappingGroup",
+     .offset = kKeyMappingOffset,
+     .count = kTerminalKeyCount,
+     .stride = kKeyMappingStride,
+     .max = 206,
+     .meaning = "0 nil, 1 Shift, 2 Alt, 201-206 a role"},
+    {.name = "KeyMappingHostKey",
+     .offset = kKeyMappingOffset + 1,
+     .count = kTerminalKeyCount,
+     .stride = kKeyMappingStride,
+     .max = 38,
+     .meaning = "host key number 0-38 (0 while a role holds the key)"},
+    {.name = "KeyMappingSpare",
+     .offset = kKeyMappingOffset + 2,
+     .count = kTerminalKeyCount,
+     .stride = kKeyMappingStride,
+     .max = 0,
+     .meaning = "always 0"},
+    // Key codes: the byte sequence recorded for terminal key n, zero-filled.
+    {.name = "KeyCode",
+     .offset = 4715,
+     .width = kKeyCodeWidth,
+     .type = FieldType::kBytes,
+     .count = kTerminalKeyCount,
+     .stride = kKeyCodeWidth,
+     .meaning = "the bytes the terminal key sends, zero-filled"},
+});
+inline constexpr const FieldDef& kKeyMappingGroup =
+    FieldNamed(kFunctionKeyFieldTable, "KeyMappingGroup");
+inline constexpr const FieldDef& kKeyMappingHostKey =
+    FieldNamed(kFunctionKeyFieldTable, "KeyMappingHostKey");
+inline constexpr const FieldDef& kKeyMappingSpare =
+    FieldNamed(kFunctionKeyFieldTable, "KeyMappingSpare");
+inline constexpr const FieldDef& kKeyCode = FieldNamed(kFunctionKeyFieldTable, "KeyCode");
 
 // Every field of this section, declared once.
 std::span<const FieldDef* const> FunctionKeyFields();
@@ -60,16 +69,6 @@ void ApplyKeyAvailability(Document& doc);
 // Rebuilds doc.key_codes from the mapping entries and key codes of the record (on open). An entry
 // whose group and host key fall outside the 60-entry table leaves the table unchanged.
 void RebuildKeyCodeTable(Document& doc);
-
-// Roles a terminal FN key can be claimed for (the first byte of a mapping entry).
-enum FunctionKeyRole : int {
-  kRoleNameKey = 201,
-  kRolePasswordKey = 202,
-  kRoleExitKey = 203,
-  kRoleNavigatorKey = 204,
-  kRoleMessageKey = 205,
-  kRoleSwitchKey = 206,
-};
 
 // k is a key field index 1-10 (1-9 name FN+1..FN+9, 10 names FN+0); other values do nothing.
 // Claim: the key's entry becomes (role, 0, 0). Release: the entry goes back to (0, k, 0), that is

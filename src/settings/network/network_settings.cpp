@@ -14,41 +14,7 @@
 namespace veltrix {
 namespace {
 
-constexpr std::array<const FieldDef*, 26> kFields = {&kSubnetMask,       &kGateway,
-                                                     &kDnsServer,        &kDhcpServer,
-                                                     &kTerminalIp,       &kLocalName,
-                                                     &kHostIpOrName,     &kActiveHostIpOrName,
-                                                     &kTelnetPort,       &kSecurity,
-                                                     &kWepKeyEnabled,    &kEapEnabled,
-                                                     &kWepKeyLength,     &kActiveWepKey,
-                                                     &kWepKey,           &kEapId,
-                                                     &kEapPassword,      &kSsid,
-                                                     &kLoginName,        &kLoginNameKey,
-                                                     &kLoginPassword,    &kLoginPasswordKey,
-                                                     &kLogoutKey,        &kLogoutCommand,
-                                                     &kKeepAliveMinutes, &kAutoSignOn};
-
-struct TextDefault {
-  const FieldDef* field;
-  std::string_view text;
-  int index = 0;
-};
-
-// Texts not listed here default to empty.
-constexpr TextDefault kTextDefaults[] = {
-    {&kSubnetMask, "255.255.128.0"},
-    {&kGateway, "192.168.1.250"},
-    {&kDnsServer, "0.0.0.0"},
-    {&kTerminalIp, "192.168.1.241"},
-    {&kHostIpOrName, "192.168.1.10"},
-    {&kSsid, "WLAN"},
-    {&kLoginName, "new"},
-    {&kLoginPassword, "tulip"},
-    {&kLogoutCommand, "EXIT"},
-};
-
-// The security bits byte as a whole: open system, WEP off, EAP off, the spare bits clear.
-constexpr std::uint8_t kDefaultSecurityByte = 1;
+constexpr auto kFields = FieldPointers(kNetworkFieldTable);
 
 int Read(const Document& doc, const FieldDef& f, int i = 0) {
   return static_cast<int>(ReadNumber(doc.record, f, i));
@@ -106,19 +72,7 @@ void SetNetworkDefaults(Document& doc) {
     const int k = Read(doc, *key_field);
     if (k != 0) ReleaseFunctionKey(doc, k);
   }
-  for (const FieldDef* f : NetworkFields()) {
-    for (int i = 0; i < f->count; ++i) {
-      if (!f->numeric()) {
-        // Whole width, so that a reset section is byte for byte what New gives.
-        auto bytes = FieldBytes(std::span<std::uint8_t>(doc.record), *f, i);
-        std::fill(bytes.begin(), bytes.end(), 0);
-      } else {
-        WriteNumber(doc.record, *f, static_cast<std::uint32_t>(f->default_value), i);
-      }
-    }
-  }
-  for (const TextDefault& d : kTextDefaults) WriteText(doc.record, *d.field, d.text, d.index);
-  doc.record[kSecurity.offset] = kDefaultSecurityByte;
+  for (const FieldDef* f : NetworkFields()) ApplyDefault(doc.record, *f);
 }
 
 void AppendNetworkSummary(const Document& doc, SummaryNode& parent) {

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "settings/field.h"
-#include "settings/network/network_settings.h"
 #include "settings/key_names_text.h"
+#include "settings/network/network_settings.h"
 
 namespace veltrix {
 

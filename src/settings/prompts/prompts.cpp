@@ -90,7 +90,7 @@ constexpr std::array<ScreenDefaults, kPromptScreenCount> kDefaults{{
       {"", ""}}},
 }};
 
-constexpr std::array<const FieldDef*, 1> kPromptFields{&kPromptText};
+constexpr auto kPromptFields = FieldPointers(kPromptFieldTable);
 
 constexpr std::size_t kScreenNameWidth = 30;
 

@@ -19,13 +19,16 @@ namespace veltrix {
 inline constexpr int kPromptSlotCount = 68;
 inline constexpr int kPromptSlotWidth = 41;
 inline constexpr int kPromptTextMax = kPromptSlotWidth - 1;
-inline constexpr FieldDef kPromptText{.name = "PromptText",
-                                      .offset = 82,
-                                      .width = kPromptSlotWidth,
-                                      .type = FieldType::kText,
-                                      .count = kPromptSlotCount,
-                                      .stride = kPromptSlotWidth,
-                                      .meaning = "menu and message line, by flat slot number"};
+inline constexpr auto kPromptFieldTable = std::to_array<FieldDef>({
+    {.name = "PromptText",
+     .offset = 82,
+     .width = kPromptSlotWidth,
+     .type = FieldType::kText,
+     .count = kPromptSlotCount,
+     .stride = kPromptSlotWidth,
+     .meaning = "menu and message line, by flat slot number"},
+});
+inline constexpr const FieldDef& kPromptText = FieldNamed(kPromptFieldTable, "PromptText");
 static_assert(kPromptText.LastByte() == 2869);
 
 inline constexpr int kPromptScreenCount = 12;
@@ -54,7 +57,8 @@ inline constexpr std::array<PromptScreen, kPromptScreenCount> kPromptScreens{{
     {"Error Messages", 8, 7, 20, 52},
     {"Miscellaneous", 8, 6, 20, 60},
 }};
-static_assert(kPromptScreens.back().first_slot + kPromptScreens.back().slot_count == kPromptSlotCount);
+static_assert(kPromptScreens.back().first_slot + kPromptScreens.back().slot_count ==
+              kPromptSlotCount);
 
 // The flat slot number of line `line` (0-based) of screen `screen` (0-based); -1 when the screen
 // has no such slot.

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "settings/reader/reader_record_fields.h"
 #include "settings/key_names_text.h"
+#include "settings/reader/reader_record_fields.h"
 
 namespace veltrix {
 
@@ -16,13 +16,6 @@ std::size_t BeeperSequenceLength(std::span<const std::uint8_t> sequence) {
 std::string BeeperSequenceText(std::span<const std::uint8_t> sequence) {
   return KeyNamesText(sequence, static_cast<int>(BeeperSequenceLength(sequence)),
                       KeyNameMode::kHex);
-}
-
-void SetDefaultBeeperSequences(Document& doc) {
-  std::ranges::copy(kDefaultAlarmBeeperSequence,
-                    FieldBytes(std::span<std::uint8_t>(doc.record), kAlarmBeeperSequence).begin());
-  std::ranges::copy(kDefaultDataBeeperSequence,
-                    FieldBytes(std::span<std::uint8_t>(doc.record), kDataBeeperSequence).begin());
 }
 
 }  // namespace veltrix

@@ -13,19 +13,12 @@ namespace veltrix {
 
 // A beeper sequence is up to five byte pairs in a 10-byte field.
 inline constexpr std::size_t kBeeperSequenceWidth = 10;
-inline constexpr std::array<std::uint8_t, kBeeperSequenceWidth> kDefaultAlarmBeeperSequence{
-    0x1E, 0x07, 0x00, 0x05, 0x1E, 0x07, 0x00, 0x00, 0x00, 0x00};
-inline constexpr std::array<std::uint8_t, kBeeperSequenceWidth> kDefaultDataBeeperSequence{
-    0x0E, 0x05, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00};
 
 // The used length in bytes: up to the last pair whose two bytes are not both zero (0-10, even).
 std::size_t BeeperSequenceLength(std::span<const std::uint8_t> sequence);
 
 // The sequence as the advanced settings show it: its used length as hexadecimal pairs.
 std::string BeeperSequenceText(std::span<const std::uint8_t> sequence);
-
-// Writes both default sequences into the record.
-void SetDefaultBeeperSequences(Document& doc);
 
 }  // namespace veltrix
 

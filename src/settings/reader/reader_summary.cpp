@@ -6,13 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "settings/key_names_text.h"
 #include "settings/reader/length_pair.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/reader_names.h"
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/working_block.h"
-#include "settings/key_names_text.h"
 
 namespace veltrix {
 namespace {

@@ -9,29 +9,6 @@
 namespace veltrix {
 namespace {
 
-// Bits no control shows that some dialogs clear.
-constexpr FieldDef kTwoDUpcReservedBit{.name = "",
-                                       .offset = 58659,
-                                       .type = FieldType::kBits,
-                                       .bit_lo = 0,
-                                       .bit_count = 1,
-                                       .max = 1,
-                                       .meaning = "cleared by the UPC dialogs"};
-constexpr FieldDef kTwoDCode39ReservedBits{.name = "",
-                                           .offset = 58664,
-                                           .type = FieldType::kBits,
-                                           .bit_lo = 4,
-                                           .bit_count = 2,
-                                           .max = 3,
-                                           .meaning = "cleared by the Code 39 dialog"};
-constexpr FieldDef kTwoDCodabarReservedBit{.name = "",
-                                           .offset = 58679,
-                                           .type = FieldType::kBits,
-                                           .bit_lo = 6,
-                                           .bit_count = 1,
-                                           .max = 1,
-                                           .meaning = "cleared with NOTIS editing"};
-
 constexpr std::array<std::string_view, 3> kPreambleNames{"No Preamble", "System Character",
                                                          "System Character & Country Code"};
 constexpr std::array<std::string_view, 3> kSupplementalNames{

@@ -65,6 +65,12 @@ std::span<const std::uint8_t> WorkingBytes(const Document& doc, const FieldDef& 
   return FieldBytes(image, Rebased(f, base));
 }
 
+void ApplyWorkingDefault(Document& doc, const FieldDef& f) {
+  std::uint32_t base = 0;
+  auto image = ImageOf<Document, std::span<std::uint8_t>>(doc, f, base);
+  ApplyDefault(image, Rebased(f, base));
+}
+
 void CopyReaderBlocksToRecord(Document& doc) {
   std::copy(doc.reader_block1.begin(), doc.reader_block1.end(),
             doc.record.begin() + kReaderBlock1Offset);

@@ -26,6 +26,8 @@ std::uint32_t ReadWorking(const Document& doc, const FieldDef& f);
 void WriteWorking(Document& doc, const FieldDef& f, std::uint32_t value);
 std::span<std::uint8_t> WorkingBytes(Document& doc, const FieldDef& f);
 std::span<const std::uint8_t> WorkingBytes(const Document& doc, const FieldDef& f);
+// ApplyDefault on the working copy of `f` (or the record for record-only fields).
+void ApplyWorkingDefault(Document& doc, const FieldDef& f);
 
 // The copies made by the page's apply, by file writes and by file opens.
 void CopyReaderBlocksToRecord(Document& doc);

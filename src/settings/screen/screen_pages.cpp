@@ -4,25 +4,13 @@
 #include <cstdio>
 #include <string>
 
-#include "settings/screen/terminal_screen_sizes.h"
 #include "settings/emulation/emulation_settings.h"
+#include "settings/screen/terminal_screen_sizes.h"
 
 namespace veltrix {
 namespace {
 
-constexpr const FieldDef* kFields[] = {
-    &kScreensLoaded,
-    &kTotalPages,
-    &kReformatPageTo,
-    &kTerminalScreen,
-    &kHostRow,
-    &kCharacteristicString,
-    &kCharacteristicLength,
-    &kCharacteristicRow,
-    &kCharacteristicColumn,
-    &kCursorLocationIsSpecifiedBy,
-    &kHostColumn,
-};
+constexpr auto kFields = FieldPointers(kScreenPageFieldTable);
 
 // The section's fields end where the unused tail begins.
 static_assert(kHostColumn.LastByte() == 57658);
@@ -68,18 +56,7 @@ void AppendPageLines(const Document& doc, int page, SummaryNode& item) {
 std::span<const FieldDef* const> ScreenPageFields() { return kFields; }
 
 void SetScreenPageDefaults(Document& doc) {
-  for (const FieldDef* f : kFields) {
-    for (int i = 0; i < f->count; ++i) {
-      for (int j = 0; j < f->count2; ++j) {
-        if (f->numeric()) {
-          WriteNumber(doc.record, *f, static_cast<std::uint32_t>(f->default_value), i, j);
-        } else {
-          std::ranges::fill(FieldBytes(std::span<std::uint8_t>(doc.record), *f, i, j),
-                            std::uint8_t{0});
-        }
-      }
-    }
-  }
+  for (const FieldDef* f : kFields) ApplyDefault(doc.record, *f);
   for (PageRecord& page : doc.pages) page.fill(0);
 }
 

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "settings/prompts/prompts.h"
+#include "settings/settings_page.h"
 #include "settings/system/system_editor.h"
 #include "settings/system/system_settings.h"
-#include "settings/settings_page.h"
 
 class QButtonGroup;
 class QCheckBox;

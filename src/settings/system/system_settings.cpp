@@ -9,11 +9,7 @@
 namespace veltrix {
 namespace {
 
-constexpr std::array<const FieldDef*, 13> kSystemFields{
-    &kPowerOn,       &kAutoPowerOff,      &kKeyClick,    &kBacklight, &kTurnOffIfIdleFor,
-    &kTcpIpSettings, &kEmulationSettings, &kSetDateTime, &kKeepAlive, &kUtilityMenu,
-    &kPassword,      &kDownloadVia,       &kBaudRate,
-};
+constexpr auto kSystemFields = FieldPointers(kSystemFieldTable);
 
 const char* FlagText(std::uint32_t value) { return value != 0 ? "Enable" : "Disable"; }
 
@@ -28,12 +24,7 @@ std::string NameOf(std::span<const std::string_view> names, std::uint32_t value)
 std::span<const FieldDef* const> SystemFields() { return kSystemFields; }
 
 void SetSystemDefaults(Document& doc) {
-  std::span<std::uint8_t> record(doc.record);
-  std::ranges::fill(doc.bytes(kSecurityBlockOffset, kSecurityBlockSize), 0);
-  std::ranges::fill(FieldBytes(record, kPassword), 0);
-  for (const FieldDef* f : kSystemFields) {
-    if (f->numeric()) WriteNumber(record, *f, static_cast<std::uint32_t>(f->default_value));
-  }
+  for (const FieldDef* f : kSystemFields) ApplyDefault(doc.record, *f);
 }
 
 void AppendSystemSummary(const Document& doc, SummaryNode& parent) {
