@@ -5,12 +5,12 @@
 #include <climits>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
 #include "resources/strings.h"
+#include "settings/atomic_file.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/field_registry.h"
@@ -56,29 +56,6 @@ void ConvertPreviousLayout(Document& doc) {
 int ProductCount() { return static_cast<int>(ProductNames().size()); }
 
 // A name for the temporary file beside `target` that no one else is likely to use.
-fs::path TemporaryPathFor(const fs::path& target) {
-  static std::mt19937_64 random{std::random_device{}()};
-  static constexpr char kHex[] = "0123456789abcdef";
-  std::string suffix = ".tmp-";
-  for (std::uint64_t r = random(), i = 0; i < 12; ++i, r >>= 4) suffix += kHex[r & 0xF];
-  fs::path temp = target;
-  temp += suffix;
-  return temp;
-}
-
-bool WriteImage(const Document& doc, const fs::path& path) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  if (!out) return false;
-  auto write = [&out](std::span<const std::uint8_t> bytes) {
-    out.write(reinterpret_cast<const char*>(bytes.data()),
-              static_cast<std::streamsize>(bytes.size()));
-  };
-  write(doc.record);
-  for (const PageRecord& page : doc.pages) write(page);
-  out.close();
-  return static_cast<bool>(out);
-}
-
 }  // namespace
 
 int FormatVersion(std::span<const std::uint8_t> record) {
@@ -139,24 +116,9 @@ bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport
 
 bool WriteSettingsFileTo(Document& doc, const std::string& path) {
   CopyReaderBlocksToRecord(doc);
-  const fs::path target(path);
-  const fs::path temp = TemporaryPathFor(target);
-  std::error_code error;
-  if (!WriteImage(doc, temp)) {
-    fs::remove(temp, error);
-    return false;
-  }
-  // Keep the permissions of the file being replaced.
-  const fs::file_status old_status = fs::status(target, error);
-  if (!error && fs::is_regular_file(old_status)) {
-    fs::permissions(temp, old_status.permissions(), error);
-  }
-  fs::rename(temp, target, error);
-  if (error) {
-    fs::remove(temp, error);
-    return false;
-  }
-  return true;
+  std::vector<std::span<const std::uint8_t>> parts{doc.record};
+  for (const PageRecord& page : doc.pages) parts.emplace_back(page);
+  return WriteFileAtomically(path, parts);
 }
 
 bool WriteSettingsFile(Document& doc) {

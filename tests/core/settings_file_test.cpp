@@ -1,16 +1,20 @@
 #include "settings/settings_file.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <filesystem>
 #include <memory>
+#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "default_document.h"
+#include "settings/atomic_file.h"
 #include "settings/screen/screen_pages.h"
 #include "settings_test_files.h"
 
@@ -345,6 +349,50 @@ TEST_F(SettingsFileTest, FailedSaveInAReadOnlyFolderKeepsTheFile) {
   doc_ = DefaultDocument(1);
   EXPECT_FALSE(WriteSettingsFileTo(*doc_, path));
   EXPECT_TRUE(ReadBytes(path) == old_bytes);
+}
+
+// Each step of the write failing in turn: the old file stays as it was and no temporary is left.
+TEST_F(SettingsFileTest, EveryFailedStepOfASaveLeavesTheOldFile) {
+  const std::string path = folder_.File("s.QVL");
+  const std::vector<std::uint8_t> old_bytes(100, 0x42);
+  const std::vector<std::uint8_t> new_bytes(5000, 0x17);
+  const std::array<std::span<const std::uint8_t>, 1> parts{new_bytes};
+  using Break = void (*)(FileCalls&);
+  const std::pair<const char*, Break> steps[] = {
+      {"open", [](FileCalls& c) { c.open = [](const char*, int, mode_t) { return -1; }; }},
+      {"write",
+       [](FileCalls& c) { c.write = [](int, const void*, std::size_t) -> ssize_t { return -1; }; }},
+      {"fsync", [](FileCalls& c) { c.fsync = [](int) { return -1; }; }},
+      {"close", [](FileCalls& c) { c.close = [](int fd) { return ::close(fd), -1; }; }},
+      {"rename", [](FileCalls& c) { c.rename = [](const char*, const char*) { return -1; }; }},
+  };
+  for (const auto& [step, break_it] : steps) {
+    WriteBytes(path, old_bytes);
+    FileCalls calls = SystemFileCalls();
+    break_it(calls);
+    EXPECT_FALSE(WriteFileAtomically(path, parts, calls)) << step;
+    EXPECT_TRUE(ReadBytes(path) == old_bytes) << step;
+    EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {})) << step;
+  }
+}
+
+// Short writes are carried on, and the file and then its folder are flushed before success.
+TEST_F(SettingsFileTest, SaveFlushesTheFileAndItsFolder) {
+  static int flushes;
+  flushes = 0;
+  FileCalls calls = SystemFileCalls();
+  calls.write = [](int fd, const void* data, std::size_t size) {
+    return ::write(fd, data, std::min<std::size_t>(size, 7));
+  };
+  calls.fsync = [](int fd) { return ++flushes, ::fsync(fd); };
+  const std::string path = folder_.File("s.QVL");
+  std::vector<std::uint8_t> bytes(1000);
+  std::iota(bytes.begin(), bytes.end(), std::uint8_t{0});
+  const std::array<std::span<const std::uint8_t>, 2> parts{std::span(bytes).first(300),
+                                                           std::span(bytes).subspan(300)};
+  ASSERT_TRUE(WriteFileAtomically(path, parts, calls));
+  EXPECT_TRUE(ReadBytes(path) == bytes);
+  EXPECT_EQ(2, flushes);
 }
 
 // Whatever bytes a file holds, Open leaves a current-layout document of a known product.
