@@ -8,6 +8,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   fontconfig fonts-dejavu-core fonts-wqy-microhei
   xvfb xauth socat
+  clang-14 libclang-rt-14-dev clang-format-14
 )
 missing=()
 for p in "${packages[@]}"; do

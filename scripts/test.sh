@@ -1,7 +1,11 @@
 #!/usr/bin/env bash
-# Builds everything and runs every test (GoogleTest for the core, Qt Test offscreen for widgets).
+# Every check CI makes: the format check, the build with all tests (GoogleTest for the core, Qt
+# Test offscreen for widgets), then the core tests under ASan and UBSan and each fuzz target for a
+# minute (scripts/sanitize-and-fuzz.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
+scripts/install-deps.sh
+scripts/check-format.sh
 scripts/build.sh
-export QT_QPA_PLATFORM=offscreen
-ctest --test-dir build --output-on-failure -j2
+QT_QPA_PLATFORM=offscreen ctest --test-dir build --output-on-failure -j2
+scripts/sanitize-and-fuzz.sh

@@ -7,6 +7,32 @@
 
 namespace veltrix::cli {
 
+std::string ApplySetAssignment(Document& doc, std::string_view assignment) {
+  const std::size_t equals = assignment.find('=');
+  if (equals == std::string::npos) return "'" + std::string(assignment) + "' is not NAME=VALUE";
+  const ElementLookup lookup = LookUpElement(assignment.substr(0, equals));
+  if (!lookup.ok()) return lookup.error;
+  const FieldDef& field = *lookup.field;
+  if (!lookup.single()) {
+    return std::string(field.name) + " needs " + std::to_string(field.dimensions()) +
+           " index(es), e.g. " + std::string(field.name) +
+           (field.dimensions() == 1 ? "[0]" : "[0][0]");
+  }
+  const int old_value = static_cast<int>(ReadNumber(doc.record, field));
+  const std::string refused =
+      StoreElementValue(doc.record, ElementsOf(lookup).front(), assignment.substr(equals + 1));
+  if (!refused.empty()) return refused;
+  // A key field claims its function key for its role, exactly as the page's "Key :" combo does.
+  if (const int role = RoleOfKeyField(field); role != 0) {
+    const int new_value = static_cast<int>(ReadNumber(doc.record, field));
+    WriteNumber(doc.record, field, static_cast<std::uint32_t>(old_value));
+    if (ApplyFunctionKeyCombo(doc, field, old_value, new_value, role) == KeyComboResult::kRefused) {
+      return std::string(field.name) + ": The function key is defined already !!";
+    }
+  }
+  return "";
+}
+
 int RunSetCommand(std::span<const std::string> args, CliIo& io) {
   const ParsedArgs parsed = ParseArgs(args, {}, {});
   if (!parsed.error.empty()) return Fail(io, "set: " + parsed.error);
@@ -28,33 +54,8 @@ int RunSetCommand(std::span<const std::string> args, CliIo& io) {
   }
   for (std::size_t k = 1; k < parsed.positional.size(); ++k) {
     const std::string& assignment = parsed.positional[k];
-    const std::size_t equals = assignment.find('=');
-    if (equals == std::string::npos) {
-      return Fail(io, "set: '" + assignment + "' is not NAME=VALUE; nothing written");
-    }
-    const ElementLookup lookup = LookUpElement(std::string_view(assignment).substr(0, equals));
-    if (!lookup.ok()) return Fail(io, "set: " + lookup.error + "; nothing written");
-    if (!lookup.single()) {
-      return Fail(io, "set: " + std::string(lookup.field->name) + " needs " +
-                          std::to_string(lookup.field->dimensions()) + " index(es), e.g. " +
-                          std::string(lookup.field->name) +
-                          (lookup.field->dimensions() == 1 ? "[0]" : "[0][0]") +
-                          "; nothing written");
-    }
-    const FieldDef& field = *lookup.field;
-    const int old_value = static_cast<int>(ReadNumber(doc->record, field));
-    const std::string refused = StoreElementValue(doc->record, ElementsOf(lookup).front(),
-                                                  std::string_view(assignment).substr(equals + 1));
-    if (!refused.empty()) return Fail(io, "set: " + refused + "; nothing written");
-    // A key field claims its function key for its role, exactly as the page's "Key :" combo does.
-    if (const int role = RoleOfKeyField(field); role != 0) {
-      const int new_value = static_cast<int>(ReadNumber(doc->record, field));
-      WriteNumber(doc->record, field, static_cast<std::uint32_t>(old_value));
-      if (ApplyFunctionKeyCombo(*doc, field, old_value, new_value, role) ==
-          KeyComboResult::kRefused) {
-        return Fail(io, "set: " + std::string(field.name) +
-                            ": The function key is defined already !!; nothing written");
-      }
+    if (std::string error = ApplySetAssignment(*doc, assignment); !error.empty()) {
+      return Fail(io, "set: " + error + "; nothing written");
     }
   }
   // The reader working blocks are written over their record images on save: take the new values.

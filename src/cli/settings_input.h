@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "cli/cli_command.h"
 #include "settings/document.h"
@@ -19,6 +20,10 @@ std::unique_ptr<Document> LoadSettingsInput(const std::string& path, CliIo& io,
 
 // Writes the document atomically; on failure a one-line message and false.
 bool SaveSettingsOutput(Document& doc, const std::string& path, CliIo& io);
+
+// One NAME=VALUE of `set`, stored into `doc` with every rule of the command (a key field claims
+// its function key). Returns the message to show when it is refused, else an empty text.
+std::string ApplySetAssignment(Document& doc, std::string_view assignment);
 
 }  // namespace veltrix::cli
 

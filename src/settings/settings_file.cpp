@@ -105,13 +105,19 @@ bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport
   if (in.bad()) return false;
   image.resize(static_cast<std::size_t>(in.gcount()));
 
-  CopyFileImage(image, doc);
-  SettingsFileReport found = ApplyOpenRules(doc);
-  found.bytes_read = image.size();
+  SettingsFileReport found = ReadSettingsImage(doc, image);
   const std::uintmax_t size = fs::file_size(path, error);
   found.file_size = error ? image.size() : size;
   if (report) *report = found;
   return true;
+}
+
+SettingsFileReport ReadSettingsImage(Document& doc, std::span<const std::uint8_t> image) {
+  CopyFileImage(image.first(std::min(image.size(), kSettingsFileSize)), doc);
+  SettingsFileReport found = ApplyOpenRules(doc);
+  found.bytes_read = std::min(image.size(), kSettingsFileSize);
+  found.file_size = image.size();
+  return found;
 }
 
 bool WriteSettingsFileTo(Document& doc, const std::string& path) {

@@ -27,6 +27,10 @@ struct SettingsFileReport {
 bool ReadSettingsFile(Document& doc, const std::string& path);
 bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport* report);
 
+// The same from a file's bytes already in memory (any length; bytes past a whole settings file
+// are not read).
+SettingsFileReport ReadSettingsImage(Document& doc, std::span<const std::uint8_t> image);
+
 // The checks and conversions Open makes once the file's bytes are in `doc` (steps after the
 // read). Returns what it found; `bytes_read` is left to the caller.
 SettingsFileReport ApplyOpenRules(Document& doc);

@@ -113,9 +113,7 @@ TEST(FieldRegistry, FieldsLieInsideTheRecordAndNamesAreUnique) {
 }
 
 TEST(FieldRegistry, NoFieldInTheUnusedRanges) {
-  const struct {
-    std::uint32_t first, last;
-  } unused[] = {{6, 24}, {2870, 3689}, {57659, 58658}};
+  const struct { std::uint32_t first, last; } unused[] = {{6, 24}, {2870, 3689}, {57659, 58658}};
   for (const FieldDef* f : AllFields()) {
     for (const FieldElement& e : ElementsOf(*f)) {
       for (const Cover& c : CoverOf(e)) {
