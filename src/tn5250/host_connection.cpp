@@ -87,28 +87,22 @@ void HostConnection::ReceiveFailed() {
   log_.LogReceive({});
 }
 
-KeyRepaint HostConnection::Before() const {
-  return KeyRepaint{Repaint::kNothing, session_->CursorRow(), session_->CursorColumn()};
-}
-
-std::optional<KeyRepaint> HostConnection::KeyDown(PcKey key) {
-  if (!connected_) return std::nullopt;
+bool HostConnection::KeyDown(PcKey key) {
+  if (!connected_) return false;
   std::optional<PcKeyboard::Input> input = keyboard_.KeyDown(key);
-  if (!input) return std::nullopt;
-  KeyRepaint result = Before();
-  result.repaint = session_->KeyInput(static_cast<HostKey>(input->key_code));
-  return result;
+  if (!input) return false;
+  session_->KeyInput(static_cast<HostKey>(input->key_code));
+  return true;
 }
 
-std::optional<KeyRepaint> HostConnection::Character(char32_t c) {
-  if (!connected_) return std::nullopt;
+bool HostConnection::Character(char32_t c) {
+  if (!connected_) return false;
   std::optional<PcKeyboard::Input> input = keyboard_.Character(c);
-  if (!input) return std::nullopt;
+  if (!input) return false;
   std::optional<std::uint8_t> display = UnicodeToDisplayByte(emulation_type(), input->character);
-  if (!display) return std::nullopt;  // the host language has no single-byte code for it
-  KeyRepaint result = Before();
-  result.repaint = session_->TypeCharacter(*display);
-  return result;
+  if (!display) return false;  // the host language has no single-byte code for it
+  session_->TypeCharacter(*display);
+  return true;
 }
 
 void HostConnection::OnSend(std::span<const std::uint8_t> bytes) {

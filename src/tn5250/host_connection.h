@@ -50,13 +50,6 @@ HostSettings ReadHostSettings(const Document& doc);
 // After a successful connection the address goes into host entry 0, whatever entry is active.
 void StoreConnectedAddress(Document& doc, std::string_view address);
 
-// What a key press asks the host screen to repaint.
-struct KeyRepaint {
-  Repaint repaint = Repaint::kNothing;
-  int old_row = 0;  // where the cursor stood before the key (for Repaint::kCell)
-  int old_column = 0;
-};
-
 // One host session: the connection steps, the logged traffic in both directions, the keyboard and
 // the TN5250 engine. Everything runs on the caller's thread; received bytes are handed in by
 // whoever reads the link.
@@ -84,8 +77,10 @@ class HostConnection : private SessionListener {
   void ReceiveFailed();
 
   // The keyboard, only while connected.
-  std::optional<KeyRepaint> KeyDown(PcKey key);
-  std::optional<KeyRepaint> Character(char32_t c);
+  // What a key changed on the screen goes to the view's OnScreenChanged. False when the key went
+  // nowhere (not connected, no host key, no code in the host language).
+  bool KeyDown(PcKey key);
+  bool Character(char32_t c);
 
   bool connected() const { return connected_; }
   const Session& session() const { return *session_; }
@@ -96,8 +91,6 @@ class HostConnection : private SessionListener {
   void OnScreenChanged(const ScreenChange& change) override;
   void OnAlarm() override;
   void OnKeyboardLockChanged(bool locked) override;
-
-  KeyRepaint Before() const;
 
   HostLink& link_;
   SessionLog& log_;

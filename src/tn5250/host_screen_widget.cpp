@@ -68,33 +68,24 @@ QString HostScreenWidget::RowText(int row) const {
 }
 
 void HostScreenWidget::OnScreenChanged(const ScreenChange& change) {
-  if (change.kind == ScreenChange::Kind::kCell) {
-    update(CellRectangle(change.row, change.column));
-    update(
-        CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
-  } else {
-    // Qt merges these requests: a host flooding the screen costs one paint per event-loop turn.
-    update();
+  switch (change.kind) {
+    case ScreenChange::Kind::kNothing:
+      return;
+    case ScreenChange::Kind::kCaret:
+    case ScreenChange::Kind::kCell:
+      // The old cell (its new character, or just the caret leaving it) and the caret's new cell.
+      update(CellRectangle(change.row, change.column));
+      update(
+          CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
+      return;
+    case ScreenChange::Kind::kWhole:
+      // Qt merges these requests: a host flooding the screen costs one paint per event-loop turn.
+      update();
+      return;
   }
 }
 
 void HostScreenWidget::OnAlarm() { QApplication::beep(); }
-
-void HostScreenWidget::ApplyRepaint(const KeyRepaint& result) {
-  switch (result.repaint) {
-    case Repaint::kNothing:
-      return;
-    case Repaint::kCaret:
-    case Repaint::kCell:
-      break;
-    case Repaint::kWindow:
-      update();
-      return;
-  }
-  // The old cell (its new character, or just the caret leaving it) and the caret's new cell.
-  update(CellRectangle(result.old_row, result.old_column));
-  update(CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn()));
-}
 
 bool HostScreenWidget::event(QEvent* event) {
   // Every key goes to the host while the screen has the focus, shortcut keys included.
@@ -111,11 +102,11 @@ void HostScreenWidget::keyPressEvent(QKeyEvent* event) {
     return;
   }
   PcKey key = PcKeyFromQt(event->key(), event->modifiers());
-  if (auto result = connection_->KeyDown(key)) ApplyRepaint(*result);
+  connection_->KeyDown(key);
   // The character of the same key press comes after the key itself, as the terminal expects.
   const QList<uint> characters = event->text().toUcs4();
   for (uint c : characters) {
-    if (auto result = connection_->Character(static_cast<char32_t>(c))) ApplyRepaint(*result);
+    connection_->Character(static_cast<char32_t>(c));
   }
   event->accept();
 }

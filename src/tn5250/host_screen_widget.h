@@ -47,7 +47,6 @@ class HostScreenWidget : public QFrame, public SessionListener {
   bool focusNextPrevChild(bool next) override;
 
  private:
-  void ApplyRepaint(const KeyRepaint& result);
   void UpdateFont();
   int Rows() const;
   int Columns() const;

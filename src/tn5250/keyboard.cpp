@@ -44,12 +44,12 @@ Keyboard::Keyboard(HostContext& host, InboundRecords& inbound) : host_(host), in
 
 bool Keyboard::IsPrintable(std::uint8_t c) { return (c >= 0x20 && c < 0x7F) || c >= 0xA0; }
 
-Repaint Keyboard::KeyInput(HostKey key) {
+ScreenChange::Kind Keyboard::KeyInput(HostKey key) {
   host_.out.Trace("IBMWrite\r\n");
   const int function = KeyFunction(key);
   if (host_.keyboard_locked && function != 44) {
     host_.SoundAlarm();
-    return Repaint::kNothing;
+    return ScreenChange::Kind::kNothing;
   }
   if (function != 0) return DoFunction(function);
   switch (key) {
@@ -59,16 +59,16 @@ Repaint Keyboard::KeyInput(HostKey key) {
     case HostKey::kRight:
       return MoveCursor(key);
     default:
-      return Repaint::kNothing;
+      return ScreenChange::Kind::kNothing;
   }
 }
 
-Repaint Keyboard::CharacterInput(std::uint8_t c) {
-  if (!IsPrintable(c)) return Repaint::kNothing;
+ScreenChange::Kind Keyboard::CharacterInput(std::uint8_t c) {
+  if (!IsPrintable(c)) return ScreenChange::Kind::kNothing;
   host_.out.Trace("IBMWrite\r\n");
   if (host_.keyboard_locked) {
     host_.SoundAlarm();
-    return Repaint::kNothing;
+    return ScreenChange::Kind::kNothing;
   }
   return TypeCharacter(c);
 }
@@ -117,7 +117,7 @@ bool Keyboard::Accepts(const FieldRecord& field, std::uint8_t c) const {
   }
 }
 
-Repaint Keyboard::TypeCharacter(std::uint8_t c) {
+ScreenChange::Kind Keyboard::TypeCharacter(std::uint8_t c) {
   PresentationSpace& ps = host_.ps;
   const FieldRecord field = host_.fields.Current();
   const int index = FieldIndex(field);
@@ -125,11 +125,11 @@ Repaint Keyboard::TypeCharacter(std::uint8_t c) {
   if (!field.IsField() || field.IsBypass() ||
       (field.IsSignedNumeric() && index == field.length - 1)) {
     host_.SoundAlarm();
-    return Repaint::kNothing;
+    return ScreenChange::Kind::kNothing;
   }
   if (!Accepts(field, c)) {
     host_.SoundAlarm();
-    return Repaint::kCell;
+    return ScreenChange::Kind::kCell;
   }
   if (field.format2 & kFfwMonocase) c = ToUpper(host_.emulation_type, c);
   ps.SetCurrentAttribute(ps.Attribute(ps.CursorRow(), ps.CursorColumn()));
@@ -145,13 +145,13 @@ Repaint Keyboard::TypeCharacter(std::uint8_t c) {
       GoToNextField();
     }
   }
-  return Repaint::kCell;
+  return ScreenChange::Kind::kCell;
 }
 
-Repaint Keyboard::DoFunction(int function) {
+ScreenChange::Kind Keyboard::DoFunction(int function) {
   if ((function >= 1 && function <= 24) || function == 35 || function == 36 || function == 45) {
     inbound_.SendAidRecord(FunctionToAid(function));
-    return Repaint::kNothing;
+    return ScreenChange::Kind::kNothing;
   }
   switch (function) {
     case 27:
@@ -171,11 +171,11 @@ Repaint Keyboard::DoFunction(int function) {
     case 47:
       return BackspaceKey();
     default:
-      return Repaint::kNothing;
+      return ScreenChange::Kind::kNothing;
   }
 }
 
-Repaint Keyboard::MoveCursor(HostKey key) {
+ScreenChange::Kind Keyboard::MoveCursor(HostKey key) {
   PresentationSpace& ps = host_.ps;
   const CellAddress before = ps.Cursor();
   const int rows = ps.Rows();
@@ -207,7 +207,7 @@ Repaint Keyboard::MoveCursor(HostKey key) {
   } else {
     host_.SoundAlarm();
   }
-  return Repaint::kCaret;
+  return ScreenChange::Kind::kCaret;
 }
 
 bool Keyboard::CurrentFieldComplete() const {
@@ -241,12 +241,12 @@ void Keyboard::EraseCharacter() {
   ps.SetCell(end.column, end.row, 0, ps.Attribute(end.row, end.column));
 }
 
-Repaint Keyboard::Delete() {
+ScreenChange::Kind Keyboard::Delete() {
   if (host_.fields.Current().IsField()) {
     EraseCharacter();
     MarkModified();
   }
-  return Repaint::kWindow;
+  return ScreenChange::Kind::kWhole;
 }
 
 void Keyboard::Backspace() {
@@ -267,19 +267,19 @@ void Keyboard::Backspace() {
   ps.PutCell(ps.CursorColumn(), ps.CursorRow(), 0);
 }
 
-Repaint Keyboard::BackspaceKey() {
+ScreenChange::Kind Keyboard::BackspaceKey() {
   if (host_.fields.Current().IsField()) {
     Backspace();
     EraseCharacter();
     MarkModified();
   }
-  return Repaint::kWindow;
+  return ScreenChange::Kind::kWhole;
 }
 
-Repaint Keyboard::FieldExit() {
+ScreenChange::Kind Keyboard::FieldExit() {
   PresentationSpace& ps = host_.ps;
   const FieldRecord field = host_.fields.Current();
-  if (!field.IsField() || host_.fields.TableIsEmpty()) return Repaint::kNothing;
+  if (!field.IsField() || host_.fields.TableIsEmpty()) return ScreenChange::Kind::kNothing;
   bool changed = false;
   const int length = std::max(field.DataLength(), 0);
   if (!field.IsBypass()) {
@@ -318,13 +318,13 @@ Repaint Keyboard::FieldExit() {
     }
   }
   GoToNextField();
-  return changed ? Repaint::kWindow : Repaint::kCaret;
+  return changed ? ScreenChange::Kind::kWhole : ScreenChange::Kind::kCaret;
 }
 
-Repaint Keyboard::FieldSign(bool minus) {
+ScreenChange::Kind Keyboard::FieldSign(bool minus) {
   PresentationSpace& ps = host_.ps;
   const FieldRecord field = host_.fields.Current();
-  if (!field.IsField()) return Repaint::kNothing;
+  if (!field.IsField()) return ScreenChange::Kind::kNothing;
   bool changed = false;
   const CellAddress sign = FieldCell(field, field.length - 1);
   if (field.IsSignedNumeric()) {
@@ -344,11 +344,11 @@ Repaint Keyboard::FieldSign(bool minus) {
     }
     if (last == kPlus || last == kMinus || last == kBlank || last == '.') {
       host_.SoundAlarm();
-      return Repaint::kNothing;
+      return ScreenChange::Kind::kNothing;
     }
     last_digit = field.length - 1;
   }
-  const Repaint exit = FieldExit();
+  const ScreenChange::Kind exit = FieldExit();
   // The flag goes to the field the exit moved to, which is the current field now.
   MarkModified();
   if (last_digit >= 0) {
@@ -362,13 +362,13 @@ Repaint Keyboard::FieldSign(bool minus) {
       changed = true;
     }
   }
-  return changed ? Repaint::kWindow : exit;
+  return changed ? ScreenChange::Kind::kWhole : exit;
 }
 
-Repaint Keyboard::EndOfField() {
+ScreenChange::Kind Keyboard::EndOfField() {
   PresentationSpace& ps = host_.ps;
   const FieldRecord& field = host_.fields.Current();
-  if (!field.IsField()) return Repaint::kCaret;
+  if (!field.IsField()) return ScreenChange::Kind::kCaret;
   int i = std::max(field.DataLength() - 1, 0);
   const int start = i;
   while (i > 0) {
@@ -380,34 +380,34 @@ Repaint Keyboard::EndOfField() {
   if (i != start) ++i;
   const CellAddress to = FieldCell(field, i);
   ps.SetCursor(to.row, to.column);
-  return Repaint::kCaret;
+  return ScreenChange::Kind::kCaret;
 }
 
-Repaint Keyboard::NextFieldKey() {
+ScreenChange::Kind Keyboard::NextFieldKey() {
   FieldTable& fields = host_.fields;
-  if (fields.TableIsEmpty()) return Repaint::kCaret;
+  if (fields.TableIsEmpty()) return ScreenChange::Kind::kCaret;
   if (fields.Current().IsField()) {
     GoToNextField();
   } else {
     fields.FirstField();
     GoToFieldStart(fields.ReadField());
   }
-  return Repaint::kCaret;
+  return ScreenChange::Kind::kCaret;
 }
 
-Repaint Keyboard::FirstFieldKey() {
+ScreenChange::Kind Keyboard::FirstFieldKey() {
   FieldTable& fields = host_.fields;
-  if (!fields.FirstField()) return Repaint::kNothing;
+  if (!fields.FirstField()) return ScreenChange::Kind::kNothing;
   GoToFieldStart(fields.ReadField());
-  return Repaint::kCaret;
+  return ScreenChange::Kind::kCaret;
 }
 
-Repaint Keyboard::Reset() {
+ScreenChange::Kind Keyboard::Reset() {
   host_.SetKeyboardLocked(false);
-  if (!host_.ps.ErrorLine()) return Repaint::kNothing;
+  if (!host_.ps.ErrorLine()) return ScreenChange::Kind::kNothing;
   host_.ps.SetErrorLine(false);
   host_.ps.RestoreErrorRow();
-  return Repaint::kWindow;
+  return ScreenChange::Kind::kWhole;
 }
 
 }  // namespace veltrix

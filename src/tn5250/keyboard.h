@@ -6,6 +6,7 @@
 #include "tn5250/host_context.h"
 #include "tn5250/inbound_records.h"
 #include "tn5250/keys.h"
+#include "tn5250/session_listener.h"
 
 namespace veltrix {
 
@@ -16,26 +17,26 @@ class Keyboard {
  public:
   Keyboard(HostContext& host, InboundRecords& inbound);
 
-  Repaint KeyInput(HostKey key);
-  Repaint CharacterInput(std::uint8_t c);
+  ScreenChange::Kind KeyInput(HostKey key);
+  ScreenChange::Kind CharacterInput(std::uint8_t c);
 
   // Whether c counts as a printable character (letter, digit, punctuation or blank).
   static bool IsPrintable(std::uint8_t c);
 
  private:
-  Repaint TypeCharacter(std::uint8_t c);
-  Repaint DoFunction(int function);
-  Repaint MoveCursor(HostKey key);
+  ScreenChange::Kind TypeCharacter(std::uint8_t c);
+  ScreenChange::Kind DoFunction(int function);
+  ScreenChange::Kind MoveCursor(HostKey key);
   bool CurrentFieldComplete() const;
   bool Accepts(const FieldRecord& field, std::uint8_t c) const;
-  Repaint Delete();
-  Repaint FieldSign(bool minus);
-  Repaint EndOfField();
-  Repaint NextFieldKey();
-  Repaint FirstFieldKey();
-  Repaint Reset();
-  Repaint BackspaceKey();
-  Repaint FieldExit();
+  ScreenChange::Kind Delete();
+  ScreenChange::Kind FieldSign(bool minus);
+  ScreenChange::Kind EndOfField();
+  ScreenChange::Kind NextFieldKey();
+  ScreenChange::Kind FirstFieldKey();
+  ScreenChange::Kind Reset();
+  ScreenChange::Kind BackspaceKey();
+  ScreenChange::Kind FieldExit();
   void EraseCharacter();
   void Backspace();
   void GoToNextField();

@@ -38,14 +38,6 @@ enum class HostKey : int {
   kFieldMinus = 162,
 };
 
-// What the window has to repaint after a key (the keyboard's repaint codes).
-enum class Repaint : int {
-  kNothing = 0,
-  kCaret = 1,  // move the caret only
-  kCell = 3,   // move the caret and repaint the cell where the cursor stood before the key
-  kWindow = 4  // move the caret and repaint the whole window
-};
-
 // Function numbers of the keyboard (`KeyFunction`); 0 means the key has no function.
 int KeyFunction(HostKey key);
 

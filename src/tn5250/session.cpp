@@ -13,8 +13,8 @@ void Session::SetListener(SessionListener* listener) { engine_->listener = liste
 const SessionConfig& Session::Config() const { return engine_->config; }
 void Session::Connect() { engine_->Connect(); }
 void Session::Receive(std::span<const std::uint8_t> bytes) { engine_->Receive(bytes); }
-Repaint Session::KeyInput(HostKey key) { return engine_->KeyInput(key); }
-Repaint Session::TypeCharacter(std::uint8_t c) { return engine_->TypeCharacter(c); }
+void Session::KeyInput(HostKey key) { engine_->KeyInput(key); }
+void Session::TypeCharacter(std::uint8_t c) { engine_->TypeCharacter(c); }
 const PresentationSpace& Session::Screen() const { return engine_->host.ps; }
 const FieldTable& Session::Fields() const { return engine_->host.fields; }
 bool Session::KeyboardLocked() const { return engine_->host.keyboard_locked; }

@@ -39,11 +39,12 @@ class Session {
   // when the host changed the screen.
   void Receive(std::span<const std::uint8_t> bytes);
 
-  // A key of the engine's key enum (`HostKeyInput`).
-  Repaint KeyInput(HostKey key);
+  // A key of the engine's key enum (`HostKeyInput`). What it changed on the screen is reported
+  // to the listener, as for received bytes.
+  void KeyInput(HostKey key);
   // A printable character, given in the display code of the host language (ISO-8859-1 for the
   // single-byte languages, ISO-8859-7 for Greek, JIS X 0201 for Japanese).
-  Repaint TypeCharacter(std::uint8_t display_character);
+  void TypeCharacter(std::uint8_t display_character);
 
   // Read access for painting, capture and tests.
   const PresentationSpace& Screen() const;

@@ -67,34 +67,21 @@ void SessionEngine::Receive(std::span<const std::uint8_t> bytes) {
   }
 }
 
-Repaint SessionEngine::Report(Repaint repaint, CellAddress before) {
-  if (host.changed) {
-    // The host-side flag is for received chunks; a key reports through its repaint code.
-    host.changed = false;
-  }
-  if (listener == nullptr || repaint == Repaint::kNothing) return repaint;
-  switch (repaint) {
-    case Repaint::kCaret:
-      listener->OnScreenChanged({ScreenChange::Kind::kCaret, 0, 0});
-      break;
-    case Repaint::kCell:
-      listener->OnScreenChanged({ScreenChange::Kind::kCell, before.row, before.column});
-      break;
-    default:
-      listener->OnScreenChanged({ScreenChange::Kind::kWhole, 0, 0});
-      break;
-  }
-  return repaint;
+void SessionEngine::Report(ScreenChange::Kind repaint, CellAddress before) {
+  // The host-side flag is for received chunks; a key reports what the keyboard says it changed.
+  host.changed = false;
+  if (listener == nullptr || repaint == ScreenChange::Kind::kNothing) return;
+  listener->OnScreenChanged({repaint, before.row, before.column});
 }
 
-Repaint SessionEngine::KeyInput(HostKey key) {
+void SessionEngine::KeyInput(HostKey key) {
   const CellAddress before = host.ps.Cursor();
-  return Report(keyboard.KeyInput(key), before);
+  Report(keyboard.KeyInput(key), before);
 }
 
-Repaint SessionEngine::TypeCharacter(std::uint8_t c) {
+void SessionEngine::TypeCharacter(std::uint8_t c) {
   const CellAddress before = host.ps.Cursor();
-  return Report(keyboard.CharacterInput(c), before);
+  Report(keyboard.CharacterInput(c), before);
 }
 
 }  // namespace veltrix

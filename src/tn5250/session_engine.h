@@ -28,8 +28,8 @@ class SessionEngine : public EngineOutput, public TelnetDataSink {
 
   void Connect();
   void Receive(std::span<const std::uint8_t> bytes);
-  Repaint KeyInput(HostKey key);
-  Repaint TypeCharacter(std::uint8_t c);
+  void KeyInput(HostKey key);
+  void TypeCharacter(std::uint8_t c);
 
   SessionConfig config;
   SessionListener* listener;
@@ -40,7 +40,7 @@ class SessionEngine : public EngineOutput, public TelnetDataSink {
   Keyboard keyboard;
 
  private:
-  Repaint Report(Repaint repaint, CellAddress before);
+  void Report(ScreenChange::Kind repaint, CellAddress before);
   std::vector<std::uint8_t> framed_;
 };
 

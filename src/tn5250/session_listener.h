@@ -7,12 +7,14 @@
 
 namespace veltrix {
 
-// Which part of the host screen has to be repainted.
+// Which part of the host screen has to be repainted: the one repaint type of the engine, from
+// received records and from keys alike.
 struct ScreenChange {
   enum class Kind {
-    kCaret,  // only the caret moved
-    kCell,   // the cell at (row, column) and the caret
-    kWhole,  // the whole screen
+    kNothing,  // nothing to repaint (never reported)
+    kCaret,    // the caret moved from (row, column)
+    kCell,     // the cell at (row, column), where the cursor stood, and the caret
+    kWhole,    // the whole screen
   };
   Kind kind = Kind::kWhole;
   int row = 0;
