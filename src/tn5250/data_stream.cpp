@@ -63,6 +63,7 @@ std::span<const std::uint8_t> DataStreamInterpreter::Item() const {
 }
 
 void DataStreamInterpreter::Store(std::uint8_t b) {
+  if (item_count_ == 0) item_offset_ = consumed_ - 1;
   if (item_count_ < kItemCapacity) item_[item_count_] = b;
   if (item_count_ < kItemCapacity + 1) ++item_count_;
 }
@@ -109,6 +110,7 @@ std::size_t DataStreamInterpreter::FastData(const std::uint8_t* p, const std::ui
       const StreamItem* entry = FindOrder(b);
       if (entry == nullptr || entry->length <= 0 || entry->length > stop - p) break;
       if (entry->handler != nullptr) {
+        item_offset_ = consumed_ + static_cast<int>(p - start);
         entry->handler(*this, {p, static_cast<std::size_t>(entry->length)});
       }
       p += entry->length;
@@ -369,7 +371,7 @@ void DataStreamInterpreter::WriteMessageByte(std::uint8_t b, int row, int& colum
 void DataStreamInterpreter::DoControlCharacters(std::uint8_t cc1, std::uint8_t cc2) {
   host_.MarkRepaint();
   if (cc1 != 0) {
-    Trace("Reset AID code\r\n");
+    Trace(TraceCode::kResetAid);
     host_.SetKeyboardLocked(true);
   }
   const int reset = cc1 >> 5;
@@ -400,7 +402,7 @@ void DataStreamInterpreter::DoControlCharacters(std::uint8_t cc1, std::uint8_t c
   }
   host_.move_cursor = (cc2 & 0x40) == 0;
   if (cc2 & 0x08) {
-    Trace("Reset AID code\r\n");
+    Trace(TraceCode::kResetAid);
     host_.SetKeyboardLocked(false);
   }
   if (cc2 & 0x04) host_.SoundAlarm();

@@ -37,7 +37,8 @@ class DataStreamInterpreter {
   void DoControlCharacters(std::uint8_t cc1, std::uint8_t cc2);
   // Cursor placement at the end of a record.
   void PlaceCursor();
-  void Trace(std::string_view text) { host_.out.Trace(text); }
+  // Notes `code` at the first record byte of the command or order being carried out.
+  void Trace(TraceCode code) { host_.out.Trace({code, item_offset_}); }
 
   HostContext& host() { return host_; }
   InboundRecords& inbound() { return inbound_; }
@@ -69,6 +70,7 @@ class DataStreamInterpreter {
   State state_ = State::kHeader;
   int record_length_ = 0;
   int consumed_ = 0;
+  int item_offset_ = 0;  // record offset of the item's first byte
   std::array<std::uint8_t, kItemCapacity> item_{};
   int item_count_ = 0;
   int expected_ = 0;

@@ -8,6 +8,7 @@
 #include "tn5250/field_table.h"
 #include "tn5250/presentation_space.h"
 #include "tn5250/session_config.h"
+#include "tn5250/trace_event.h"
 
 namespace veltrix {
 
@@ -19,7 +20,7 @@ class EngineOutput {
   virtual void SendRaw(std::span<const std::uint8_t> bytes) = 0;
   // A 5250 record without framing; the output adds IAC EOR.
   virtual void SendRecord(std::span<const std::uint8_t> record) = 0;
-  virtual void Trace(std::string_view text) = 0;
+  virtual void Trace(const TraceEvent& event) = 0;
   virtual void Bell() = 0;
   virtual void KeyboardLockChanged(bool locked) = 0;
 };
@@ -36,7 +37,7 @@ struct HostContext {
   }
   // `SoundAlarm`.
   void SoundAlarm() {
-    out.Trace("Call Alarm\r\n");
+    out.Trace({TraceCode::kCallAlarm});
     out.Bell();
   }
   void MarkRepaint() {

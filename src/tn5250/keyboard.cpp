@@ -45,7 +45,7 @@ Keyboard::Keyboard(HostContext& host, InboundRecords& inbound) : host_(host), in
 bool Keyboard::IsPrintable(std::uint8_t c) { return (c >= 0x20 && c < 0x7F) || c >= 0xA0; }
 
 ScreenChange::Kind Keyboard::KeyInput(HostKey key) {
-  host_.out.Trace("IBMWrite\r\n");
+  host_.out.Trace({TraceCode::kIbmWrite});
   const int function = KeyFunction(key);
   if (host_.keyboard_locked && function != 44) {
     host_.SoundAlarm();
@@ -65,7 +65,7 @@ ScreenChange::Kind Keyboard::KeyInput(HostKey key) {
 
 ScreenChange::Kind Keyboard::CharacterInput(std::uint8_t c) {
   if (!IsPrintable(c)) return ScreenChange::Kind::kNothing;
-  host_.out.Trace("IBMWrite\r\n");
+  host_.out.Trace({TraceCode::kIbmWrite});
   if (host_.keyboard_locked) {
     host_.SoundAlarm();
     return ScreenChange::Kind::kNothing;
@@ -225,7 +225,7 @@ bool Keyboard::CurrentFieldComplete() const {
 }
 
 void Keyboard::EraseCharacter() {
-  host_.out.Trace("EraseChar\r\n");
+  host_.out.Trace({TraceCode::kEraseChar});
   PresentationSpace& ps = host_.ps;
   const FieldRecord& field = host_.fields.Current();
   const int index = FieldIndex(field);
@@ -250,7 +250,7 @@ ScreenChange::Kind Keyboard::Delete() {
 }
 
 void Keyboard::Backspace() {
-  host_.out.Trace("Backspace\r\n");
+  host_.out.Trace({TraceCode::kBackspace});
   PresentationSpace& ps = host_.ps;
   FieldTable& fields = host_.fields;
   if (FieldIndex(fields.Current()) == 0) {

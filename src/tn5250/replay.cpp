@@ -73,18 +73,11 @@ void AppendJsonString(std::string& out, std::string_view text) {
   out += '"';
 }
 
-std::string EscapedTrace(std::string_view text) {
-  std::string out;
-  for (char c : text) {
-    if (c == '\r') {
-      out += "\\r";
-    } else if (c == '\n') {
-      out += "\\n";
-    } else {
-      out += c;
-    }
-  }
-  return out;
+// "SbaParameterError at 12": the code's name and the record byte where the engine noticed it.
+std::string TraceLine(const TraceEvent& event) {
+  std::string line(TraceName(event.code));
+  if (event.offset >= 0) line += " at " + std::to_string(event.offset);
+  return line;
 }
 
 }  // namespace
@@ -178,7 +171,7 @@ std::string ReplayRun::Text() const {
   out += session_.KeyboardLocked() ? "keyboard locked\n" : "keyboard unlocked\n";
   out += "read mode " + std::to_string(static_cast<int>(session_.CurrentReadMode())) + "\n";
   out += "alarms " + std::to_string(alarms_) + "\n";
-  for (const std::string& t : traces_) out += "trace " + EscapedTrace(t) + "\n";
+  for (const TraceEvent& t : traces_) out += "trace " + TraceLine(t) + "\n";
   return out;
 }
 
@@ -225,7 +218,11 @@ std::string ReplayRun::Json() const {
   out += "\",\"trace\":[";
   for (std::size_t i = 0; i < traces_.size(); ++i) {
     if (i > 0) out += ',';
-    AppendJsonString(out, traces_[i]);
+    out += "{\"code\":";
+    AppendJsonString(out, TraceName(traces_[i].code));
+    out += ",\"offset\":" + std::to_string(traces_[i].offset) + ",\"text\":";
+    AppendJsonString(out, TraceText(traces_[i].code));
+    out += '}';
   }
   out += "]}\n";
   return out;

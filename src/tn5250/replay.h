@@ -42,7 +42,6 @@ class ReplayRun : public SessionListener {
 
   const Session& session() const { return session_; }
   const std::vector<std::uint8_t>& sent() const { return sent_; }
-  const std::vector<std::string>& traces() const { return traces_; }
   int alarms() const { return alarms_; }
 
   // Text output: the screen rows in full (empty cells as blanks), "cursor ROW COLUMN", one "field
@@ -54,12 +53,12 @@ class ReplayRun : public SessionListener {
 
   void OnSend(std::span<const std::uint8_t> bytes) override;
   void OnAlarm() override { ++alarms_; }
-  void OnTrace(std::string_view text) override { traces_.emplace_back(text); }
+  void OnTrace(const TraceEvent& event) override { traces_.push_back(event); }
 
  private:
   Session session_;
   std::vector<std::uint8_t> sent_;
-  std::vector<std::string> traces_;
+  std::vector<TraceEvent> traces_;
   int alarms_ = 0;
 };
 

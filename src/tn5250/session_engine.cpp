@@ -33,8 +33,8 @@ void SessionEngine::SendRecord(std::span<const std::uint8_t> record) {
   SendRaw(framed_);
 }
 
-void SessionEngine::Trace(std::string_view text) {
-  if (listener != nullptr) listener->OnTrace(text);
+void SessionEngine::Trace(const TraceEvent& event) {
+  if (listener != nullptr) listener->OnTrace(event);
 }
 
 void SessionEngine::Bell() {

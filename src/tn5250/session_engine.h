@@ -21,7 +21,7 @@ class SessionEngine : public EngineOutput, public TelnetDataSink {
 
   void SendRaw(std::span<const std::uint8_t> bytes) override;
   void SendRecord(std::span<const std::uint8_t> record) override;
-  void Trace(std::string_view text) override;
+  void Trace(const TraceEvent& event) override;
   void Bell() override;
   void KeyboardLockChanged(bool locked) override;
   void HostData(std::span<const std::uint8_t> bytes) override;

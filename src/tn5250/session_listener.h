@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "tn5250/trace_event.h"
+
 namespace veltrix {
 
 // Which part of the host screen has to be repainted: the one repaint type of the engine, from
@@ -32,8 +34,8 @@ class SessionListener {
   virtual void OnScreenChanged(const ScreenChange& change) { (void)change; }
   // The terminal's alarm (the bell).
   virtual void OnAlarm() {}
-  // Diagnostic texts of the engine, each ending in "\r\n".
-  virtual void OnTrace(std::string_view text) { (void)text; }
+  // What the engine noted: a host data-stream oddity it passed over, or a step of its own.
+  virtual void OnTrace(const TraceEvent& event) { (void)event; }
   virtual void OnKeyboardLockChanged(bool locked) { (void)locked; }
 };
 

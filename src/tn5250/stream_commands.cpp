@@ -31,7 +31,7 @@ void ClearFormatTable(DataStreamInterpreter& s, Item) {
   s.host().fields.Clear();
   s.host().SetKeyboardLocked(true);
   s.host().MarkRepaint();
-  s.Trace("CLEAR FORMAT TABLE\r\n");
+  s.Trace(TraceCode::kClearFormatTable);
 }
 
 void WriteToDisplay(DataStreamInterpreter& s, Item item) {
@@ -57,7 +57,7 @@ void ReadImmediate(DataStreamInterpreter& s, Item) { s.inbound().SendReadImmedia
 void ReadImmediateAlternate(DataStreamInterpreter& s, Item) { s.inbound().SendReadImmediate(true); }
 
 void ReadScreen(DataStreamInterpreter& s, Item) {
-  s.Trace("Save Screen: just send 0x0d to host\r\n");
+  s.Trace(TraceCode::kSaveScreen);
   s.inbound().SendShortEnter();
 }
 

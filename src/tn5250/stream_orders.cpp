@@ -21,7 +21,7 @@ CellAddress OrderAddress(std::uint8_t row, std::uint8_t column) {
 void SetBufferAddress(DataStreamInterpreter& s, Item item) {
   const CellAddress a = OrderAddress(item[1], item[2]);
   s.host().ps.SetCursor(a.row, a.column);
-  if (a.row < 0 || a.column < 0) s.Trace("SBA parameter error\r\n");
+  if (a.row < 0 || a.column < 0) s.Trace(TraceCode::kSbaParameterError);
 }
 
 void InsertCursor(DataStreamInterpreter& s, Item item) {
@@ -67,7 +67,7 @@ void EraseToAddress(DataStreamInterpreter& s, Item item) {
   HostContext& h = s.host();
   PresentationSpace& ps = h.ps;
   const int length = item[3];
-  if (length < 2 || length > 5) s.Trace("Erase to Address length error\r\n");
+  if (length < 2 || length > 5) s.Trace(TraceCode::kEraseToAddressLengthError);
   bool character = false;
   bool colour = false;
   bool display = false;
@@ -89,7 +89,7 @@ void EraseToAddress(DataStreamInterpreter& s, Item item) {
       case 0x05:
         break;
       default:
-        s.Trace("Invalid EA parameter\r\n");
+        s.Trace(TraceCode::kInvalidEaParameter);
         break;
     }
   }
@@ -105,7 +105,7 @@ void EraseToAddress(DataStreamInterpreter& s, Item item) {
 
 void StartOfHeader(DataStreamInterpreter& s, Item item) {
   const int length = item[1];
-  if (length < 1 || length > 7) s.Trace("Error SOH length parameter\r\n");
+  if (length < 1 || length > 7) s.Trace(TraceCode::kSohLengthError);
   s.host().fields.Clear();
   if (item.size() > 5) s.host().ps.SetErrorRow(item[5]);
 }
@@ -126,7 +126,7 @@ void WriteExtendedAttribute(DataStreamInterpreter& s, Item item) {
   } else if (type == 2) {
     if (value != 0) ps.SetCurrentAttribute(ps.CurrentAttribute() & 0xF8);
   } else if (type != 3) {
-    s.Trace("Error WEA Type\r\n");
+    s.Trace(TraceCode::kWeaTypeError);
   }
 }
 

@@ -228,7 +228,8 @@ TEST(ReplayJsonTest, HoldsEveryPart) {
         "\"fields\":[{\"number\":1,\"resequence\":0,\"row\":1,\"column\":3,\"length\":4,"
         "\"ffw\":\"4000\",\"fcw\":\"0000\",\"attribute\":\"44\"}]",
         "\"keyboard_locked\":false", "\"read_mode\":0",
-        "\"sent\":\"000E12A0000004000003C1404040FFEF\"", "\"trace\":[\"Reset AID code\\r\\n\"]",
+        "\"sent\":\"000E12A0000004000003C1404040FFEF\"",
+        "\"trace\":[{\"code\":\"ResetAid\",\"offset\":13,\"text\":\"Reset AID code\\r\\n\"}]",
         "\"   A   ", "\"cells\":[\"00000000", "\"attributes\":[\"0000"}) {
     EXPECT_NE(json.find(part), std::string::npos) << part;
   }

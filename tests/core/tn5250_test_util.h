@@ -16,13 +16,13 @@ struct RecordingListener : SessionListener {
   }
   void OnScreenChanged(const ScreenChange& change) override { changes.push_back(change); }
   void OnAlarm() override { ++alarms; }
-  void OnTrace(std::string_view text) override { traces.emplace_back(text); }
+  void OnTrace(const TraceEvent& event) override { traces.push_back(event); }
   void OnKeyboardLockChanged(bool locked) override { lock_events.push_back(locked); }
 
   std::vector<std::uint8_t> sent;
   std::vector<ScreenChange> changes;
   int alarms = 0;
-  std::vector<std::string> traces;
+  std::vector<TraceEvent> traces;
   std::vector<bool> lock_events;
 };
 
