@@ -10,7 +10,7 @@ SessionEngine::SessionEngine(SessionConfig cfg, SessionListener* l)
       host(*this),
       inbound(host),
       interpreter(host, inbound),
-      telnet(*this, config, *this),
+      telnet(config, *this),
       keyboard(host, inbound) {
   host.emulation_type = config.emulation_type;
   Connect();

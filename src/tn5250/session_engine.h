@@ -15,7 +15,7 @@ namespace veltrix {
 
 // Everything one session holds: the Telnet receiver, the interpreter, the keyboard and the
 // shared host context, wired to the listener.
-class SessionEngine : public EngineOutput, public TelnetDataSink {
+class SessionEngine : public EngineOutput, public TelnetPeer {
  public:
   SessionEngine(SessionConfig config, SessionListener* listener);
 

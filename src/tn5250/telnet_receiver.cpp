@@ -6,8 +6,8 @@
 
 namespace veltrix {
 
-TelnetReceiver::TelnetReceiver(EngineOutput& out, const SessionConfig& config, TelnetDataSink& sink)
-    : out_(out), config_(config), sink_(sink) {}
+TelnetReceiver::TelnetReceiver(const SessionConfig& config, TelnetPeer& peer)
+    : config_(config), peer_(peer) {}
 
 void TelnetReceiver::Reset() {
   state_ = State::kData;
@@ -25,7 +25,7 @@ void TelnetReceiver::Receive(std::span<const std::uint8_t> bytes) {
       // Hand on the whole run up to the next IAC at once.
       const void* iac = std::memchr(p, kIac, static_cast<std::size_t>(end - p));
       const std::uint8_t* stop = iac ? static_cast<const std::uint8_t*>(iac) : end;
-      if (stop > p) sink_.HostData({p, static_cast<std::size_t>(stop - p)});
+      if (stop > p) peer_.HostData({p, static_cast<std::size_t>(stop - p)});
       p = stop;
       if (p < end) {
         state_ = State::kIac;
@@ -42,7 +42,7 @@ void TelnetReceiver::Receive(std::span<const std::uint8_t> bytes) {
 void TelnetReceiver::Command(std::uint8_t b) {
   state_ = State::kData;
   if (b == kIac) {
-    sink_.HostData({&kIac, 1});
+    peer_.HostData({&kIac, 1});
   } else if (b >= kSb && b <= kDont) {
     saved_command_ = b;
     state_ = State::kOption;
@@ -75,7 +75,7 @@ void TelnetReceiver::Option(std::uint8_t b) {
 
 void TelnetReceiver::SendAnswer(std::uint8_t verb, std::uint8_t option) {
   const std::uint8_t answer[3] = {kIac, verb, option};
-  out_.SendRaw(answer);
+  peer_.SendRaw(answer);
 }
 
 void TelnetReceiver::Accept(std::uint8_t command, std::uint8_t option) {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <span>
 
-#include "tn5250/host_context.h"
+#include "tn5250/session_config.h"
 #include "tn5250/telnet_codes.h"
 
 namespace veltrix {
@@ -13,18 +13,20 @@ namespace veltrix {
 // Subnegotiations longer than this are cut; real hosts send a few bytes.
 inline constexpr int kSubnegotiationCapacity = 256;
 
-// Receives the data bytes that the Telnet layer passes on.
-class TelnetDataSink {
+// The user of the Telnet layer: it gets the data bytes the layer passes on and sends the answers
+// the layer makes, as they stand.
+class TelnetPeer {
  public:
-  virtual ~TelnetDataSink() = default;
+  virtual ~TelnetPeer() = default;
   virtual void HostData(std::span<const std::uint8_t> bytes) = 0;
+  virtual void SendRaw(std::span<const std::uint8_t> bytes) = 0;
 };
 
 // The receiving side of Telnet (`TelnetReceiveByte`): strips commands, answers the host's
 // option negotiation and hands every data byte on. It never starts a negotiation itself.
 class TelnetReceiver {
  public:
-  TelnetReceiver(EngineOutput& out, const SessionConfig& config, TelnetDataSink& sink);
+  TelnetReceiver(const SessionConfig& config, TelnetPeer& peer);
 
   // A new connection: state 0, buffer empty, echo flag clear, suppress-go-ahead flag set.
   void Reset();
@@ -37,7 +39,7 @@ class TelnetReceiver {
   void SendAnswer(std::uint8_t verb, std::uint8_t option);
   void Accept(std::uint8_t command, std::uint8_t option);
   void Refuse(std::uint8_t command, std::uint8_t option);
-  void Send(std::span<const std::uint8_t> bytes) { out_.SendRaw(bytes); }
+  void Send(std::span<const std::uint8_t> bytes) { peer_.SendRaw(bytes); }
   std::span<const std::uint8_t> Subnegotiation() const {
     return {subnegotiation_.data(), std::size_t(subnegotiation_count_)};
   }
@@ -50,9 +52,8 @@ class TelnetReceiver {
   void Command(std::uint8_t b);
   void Option(std::uint8_t b);
 
-  EngineOutput& out_;
   const SessionConfig& config_;
-  TelnetDataSink& sink_;
+  TelnetPeer& peer_;
   State state_ = State::kData;
   std::uint8_t saved_command_ = 0;
   std::array<std::uint8_t, kSubnegotiationCapacity> subnegotiation_{};

@@ -1,6 +1,8 @@
 // Golden replays: each file under tests/core/golden/tn5250/ gives annotated host bytes and keys
-// and the expected replay text. Every input is also replayed in chunks of every size from 1
-// upward and must give the same text. Set VELTRIX_UPDATE_GOLDEN=1 to rewrite the expectations.
+// and the expected replay text of the whole engine; each file under tests/core/golden/telnet/
+// gives host bytes and what the Telnet layer alone passes on and answers. Every input is also
+// replayed in chunks of every size from 1 upward and must give the same text. Set
+// VELTRIX_UPDATE_GOLDEN=1 to rewrite the expectations.
 //
 // File format (one directive per line; "#" starts a comment outside the expect section):
 //   emulation N            host language (EmulationType), default 0
@@ -18,6 +20,7 @@
 #include <sstream>
 
 #include "tn5250/replay.h"
+#include "tn5250/telnet_receiver.h"
 #include "tn5250_test_util.h"
 
 namespace veltrix {
@@ -25,7 +28,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path GoldenDir() { return fs::path(VELTRIX_SOURCE_DIR) / "tests/core/golden/tn5250"; }
+fs::path GoldenDir(std::string_view folder) {
+  return fs::path(VELTRIX_SOURCE_DIR) / "tests/core/golden" / folder;
+}
 
 struct Golden {
   SessionConfig config;
@@ -115,10 +120,10 @@ Golden ReadGolden(const fs::path& path) {
   return g;
 }
 
-std::vector<std::string> GoldenNames() {
+std::vector<std::string> GoldenNames(std::string_view folder) {
   std::vector<std::string> names;
   std::error_code ec;
-  for (const auto& entry : fs::directory_iterator(GoldenDir(), ec)) {
+  for (const auto& entry : fs::directory_iterator(GoldenDir(folder), ec)) {
     if (entry.path().extension() == ".txt") names.push_back(entry.path().stem().string());
   }
   std::sort(names.begin(), names.end());
@@ -144,15 +149,56 @@ std::string GoldenText(const ReplayRun& run) {
   return out;
 }
 
-class GoldenReplayTest : public ::testing::TestWithParam<std::string> {};
+// The Telnet layer alone: the data bytes it passes on, 32 to a line, each answer it sends, and
+// its two flags.
+struct TelnetRecorder : TelnetPeer {
+  void HostData(std::span<const std::uint8_t> bytes) override {
+    data.insert(data.end(), bytes.begin(), bytes.end());
+  }
+  void SendRaw(std::span<const std::uint8_t> bytes) override {
+    sent.emplace_back(bytes.begin(), bytes.end());
+  }
+  std::vector<std::uint8_t> data;
+  std::vector<std::vector<std::uint8_t>> sent;
+};
 
-TEST_P(GoldenReplayTest, MatchesAtEveryChunkSize) {
-  const fs::path path = GoldenDir() / (GetParam() + ".txt");
+std::string HexLine(std::string_view word, std::span<const std::uint8_t> bytes) {
+  static const char* kDigits = "0123456789ABCDEF";
+  std::string line(word);
+  for (std::uint8_t b : bytes) {
+    line += ' ';
+    line += kDigits[b >> 4];
+    line += kDigits[b & 15];
+  }
+  return line + "\n";
+}
+
+std::string TelnetText(const Golden& g, std::size_t chunk) {
+  TelnetRecorder peer;
+  TelnetReceiver telnet(g.config, peer);
+  for (const ReplayStep& s : g.steps) {
+    for (std::size_t i = 0; i < s.host.size(); i += chunk) {
+      telnet.Receive(std::span(s.host).subspan(i, std::min(chunk, s.host.size() - i)));
+    }
+  }
+  std::string out;
+  for (std::size_t i = 0; i < peer.data.size(); i += 32) {
+    out += HexLine(
+        "data", std::span(peer.data).subspan(i, std::min<std::size_t>(32, peer.data.size() - i)));
+  }
+  for (const auto& answer : peer.sent) out += HexLine("sent", answer);
+  out += std::string("echo ") + (telnet.echo() ? "on" : "off") + "\n";
+  out += std::string("suppress-go-ahead ") + (telnet.suppress_go_ahead() ? "on" : "off") + "\n";
+  return out;
+}
+
+// Checks the file's expectation against `text_of(golden, whole input)` and the same at every
+// chunk size (or rewrites it).
+template <typename TextOf>
+void CheckGolden(const fs::path& path, TextOf text_of) {
   const Golden g = ReadGolden(path);
   ASSERT_EQ(g.error, "");
-  ReplayRun whole(g.config);
-  whole.Run(g.steps);
-  const std::string text = GoldenText(whole);
+  const std::string text = text_of(g, SIZE_MAX);
   if (std::getenv("VELTRIX_UPDATE_GOLDEN") != nullptr) {
     std::ofstream(path) << g.head << text;
   } else {
@@ -161,21 +207,40 @@ TEST_P(GoldenReplayTest, MatchesAtEveryChunkSize) {
   std::size_t total = 0;
   for (const ReplayStep& s : g.steps) total = std::max(total, s.host.size());
   for (std::size_t size = 1; size < total; ++size) {
-    ReplayRun chunked(g.config);
-    chunked.Run(g.steps, size);
-    ASSERT_EQ(GoldenText(chunked), text) << "chunk size " << size;
+    ASSERT_EQ(text_of(g, size), text) << "chunk size " << size;
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tn5250, GoldenReplayTest, ::testing::ValuesIn(GoldenNames()),
-                         [](const auto& info) {
-                           std::string name = info.param;
-                           for (char& c : name) {
-                             if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-                           }
-                           return name;
-                         });
+class GoldenReplayTest : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(GoldenReplayTest, MatchesAtEveryChunkSize) {
+  CheckGolden(GoldenDir("tn5250") / (GetParam() + ".txt"), [](const Golden& g, std::size_t size) {
+    ReplayRun run(g.config);
+    run.Run(g.steps, size == SIZE_MAX ? 0 : size);  // 0: the whole input at once
+    return GoldenText(run);
+  });
+}
+
+class TelnetGoldenTest : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(TelnetGoldenTest, MatchesAtEveryChunkSize) {
+  CheckGolden(GoldenDir("telnet") / (GetParam() + ".txt"), TelnetText);
+}
+
+std::string TestName(const ::testing::TestParamInfo<std::string>& info) {
+  std::string name = info.param;
+  for (char& c : name) {
+    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+  }
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Tn5250, GoldenReplayTest, ::testing::ValuesIn(GoldenNames("tn5250")),
+                         TestName);
+INSTANTIATE_TEST_SUITE_P(Telnet, TelnetGoldenTest, ::testing::ValuesIn(GoldenNames("telnet")),
+                         TestName);
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(GoldenReplayTest);
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(TelnetGoldenTest);
 
 }  // namespace
 }  // namespace veltrix
