@@ -160,135 +160,45 @@ void SetBits(Document& doc, std::uint32_t offset, std::uint8_t bits) {
   doc.reader_block1[offset - 58659] |= bits;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, TwoDOptionApply,
-    ::testing::Values(TwoDApplyCase{"Code39TwoLengths",
-                                    "CODE39_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.checked = {true, true, true};
-                                      s.option = kTwoLengths;
-                                      s.lengths = {6, 10};
-                                    },
-                                    58664,
-                                    {0x8E, 0x8A, 0x06}},
-                      TwoDApplyCase{"Code39OkClearsSpareBits",
-                                    "CODE39_2D_DLG",
-                                    [](Document& d) { SetBits(d, 58664, 0x30); },
-                                    [](TwoDOptionState&) {},
-                                    58664,
-                                    {0x83}},
-                      TwoDApplyCase{"Code93AnyLength",
-                                    "CODE93_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) { s.option = kAnyLength; },
-                                    58667,
-                                    {0x00, 0, 0}},
-                      TwoDApplyCase{"Code11ChecksAndRange",
-                                    "CODE11_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.checked = {true, true};
-                                      s.lengths = {6, 10};
-                                    },
-                                    58670,
-                                    {0x78, 6, 10}},
-                      TwoDApplyCase{"Industrial25RangeBothZeroIsAny",
-                                    "INDUSTRIAL25_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.option = kLengthRange;
-                                      s.lengths = {0, 0};
-                                    },
-                                    58676,
-                                    {0x00, 0, 0}},
-                      TwoDApplyCase{"Interleave25Uss",
-                                    "INTERLEAVE25_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) { s.chosen[0] = 1; },
-                                    58673,
-                                    {0xC4}},
-                      TwoDApplyCase{"Interleave25Opcc",
-                                    "INTERLEAVE25_2D_DLG",
-                                    [](Document& d) { SetBits(d, 58673, 0x40); },
-                                    [](TwoDOptionState& s) { s.chosen[0] = 2; },
-                                    58673,
-                                    {0x86}},
-                      TwoDApplyCase{"Interleave25NoVerifyAndChecks",
-                                    "INTERLEAVE25_2D_DLG",
-                                    [](Document& d) { SetBits(d, 58673, 0x42); },
-                                    [](TwoDOptionState& s) {
-                                      s.chosen[0] = 0;
-                                      s.checked = {true, true};
-                                    },
-                                    58673,
-                                    {0xB4}},
-                      TwoDApplyCase{"CodabarNotisClearsBit6",
-                                    "CODABAR_2D_DLG",
-                                    [](Document& d) { SetBits(d, 58679, 0x40); },
-                                    [](TwoDOptionState& s) { s.checked[0] = true; },
-                                    58679,
-                                    {0x38}},
-                      TwoDApplyCase{"MsiOneCheckDigitDropsTheAlgorithm",
-                                    "MSI_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.chosen = {1, 0};
-                                      s.checked[0] = true;
-                                    },
-                                    58682,
-                                    {0x2C}},
-                      TwoDApplyCase{"MsiTwoCheckDigitsKeepTheAlgorithm",
-                                    "MSI_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.chosen = {1, 1};
-                                    },
-                                    58682,
-                                    {0x5C}},
-                      TwoDApplyCase{"UpcaPreambleAndCouponClearBit0",
-                                    "UPCA_2D_DLG",
-                                    [](Document& d) { SetBits(d, 58659, 0x01); },
-                                    [](TwoDOptionState& s) {
-                                      s.chosen[0] = 2;
-                                      s.checked = {false, true};
-                                    },
-                                    58659,
-                                    {0xDA, 0x95}},
-                      TwoDApplyCase{"Upce1Options",
-                                    "UPCE1_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.chosen[0] = 0;
-                                      s.checked = {false, true, false};
-                                    },
-                                    58660,
-                                    {0x53, 0x20}},
-                      TwoDApplyCase{"Ean8Convert",
-                                    "EAN8_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.checked[0] = true;
-                                      s.chosen[0] = 1;
-                                    },
-                                    58661,
-                                    {0x92}},
-                      TwoDApplyCase{"PostalSomeOff",
-                                    "POSTAL_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) {
-                                      s.checked[0] = false;
-                                      s.checked[7] = false;
-                                    },
-                                    58685,
-                                    {0x7E}},
-                      TwoDApplyCase{"Rss14Convert",
-                                    "RSS14_2D_DLG",
-                                    nullptr,
-                                    [](TwoDOptionState& s) { s.checked[0] = true; },
-                                    58687,
-                                    {0xF0}}),
-    [](const auto& info) { return std::string(info.param.name); });
+// clang-format off
+using S = TwoDOptionState;
+const TwoDApplyCase kTwoDApplyCases[] = {
+    {"Code39TwoLengths", "CODE39_2D_DLG", nullptr,
+     [](S& s) { s.checked = {true, true, true}; s.option = kTwoLengths; s.lengths = {6, 10}; }, 58664, {0x8E, 0x8A, 0x06}},
+    {"Code39OkClearsSpareBits", "CODE39_2D_DLG", [](Document& d) { SetBits(d, 58664, 0x30); },
+     [](S&) {}, 58664, {0x83}},
+    {"Code93AnyLength", "CODE93_2D_DLG", nullptr,
+     [](S& s) { s.option = kAnyLength; }, 58667, {0x00, 0, 0}},
+    {"Code11ChecksAndRange", "CODE11_2D_DLG", nullptr,
+     [](S& s) { s.checked = {true, true}; s.lengths = {6, 10}; }, 58670, {0x78, 6, 10}},
+    {"Industrial25RangeBothZeroIsAny", "INDUSTRIAL25_2D_DLG", nullptr,
+     [](S& s) { s.option = kLengthRange; s.lengths = {0, 0}; }, 58676, {0x00, 0, 0}},
+    {"Interleave25Uss", "INTERLEAVE25_2D_DLG", nullptr,
+     [](S& s) { s.chosen[0] = 1; }, 58673, {0xC4}},
+    {"Interleave25Opcc", "INTERLEAVE25_2D_DLG", [](Document& d) { SetBits(d, 58673, 0x40); },
+     [](S& s) { s.chosen[0] = 2; }, 58673, {0x86}},
+    {"Interleave25NoVerifyAndChecks", "INTERLEAVE25_2D_DLG", [](Document& d) { SetBits(d, 58673, 0x42); },
+     [](S& s) { s.chosen[0] = 0; s.checked = {true, true}; }, 58673, {0xB4}},
+    {"CodabarNotisClearsBit6", "CODABAR_2D_DLG", [](Document& d) { SetBits(d, 58679, 0x40); },
+     [](S& s) { s.checked[0] = true; }, 58679, {0x38}},
+    {"MsiOneCheckDigitDropsTheAlgorithm", "MSI_2D_DLG", nullptr,
+     [](S& s) { s.chosen = {1, 0}; s.checked[0] = true; }, 58682, {0x2C}},
+    {"MsiTwoCheckDigitsKeepTheAlgorithm", "MSI_2D_DLG", nullptr,
+     [](S& s) { s.chosen = {1, 1}; }, 58682, {0x5C}},
+    {"UpcaPreambleAndCouponClearBit0", "UPCA_2D_DLG", [](Document& d) { SetBits(d, 58659, 0x01); },
+     [](S& s) { s.chosen[0] = 2; s.checked = {false, true}; }, 58659, {0xDA, 0x95}},
+    {"Upce1Options", "UPCE1_2D_DLG", nullptr,
+     [](S& s) { s.chosen[0] = 0; s.checked = {false, true, false}; }, 58660, {0x53, 0x20}},
+    {"Ean8Convert", "EAN8_2D_DLG", nullptr,
+     [](S& s) { s.checked[0] = true; s.chosen[0] = 1; }, 58661, {0x92}},
+    {"PostalSomeOff", "POSTAL_2D_DLG", nullptr,
+     [](S& s) { s.checked[0] = false; s.checked[7] = false; }, 58685, {0x7E}},
+    {"Rss14Convert", "RSS14_2D_DLG", nullptr, [](S& s) { s.checked[0] = true; }, 58687, {0xF0}},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Cases, TwoDOptionApply, ::testing::ValuesIn(kTwoDApplyCases),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace veltrix
