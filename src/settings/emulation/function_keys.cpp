@@ -4,7 +4,6 @@
 #include <array>
 #include <vector>
 
-#include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/key_code_defaults.h"
 #include "settings/emulation/key_mapping.h"
 #include "settings/emulation/key_names.h"
