@@ -68,9 +68,8 @@ void AppendLoginLines(const Document& doc, SummaryNode& login) {
 std::span<const FieldDef* const> NetworkFields() { return kFields; }
 
 void SetNetworkDefaults(Document& doc) {
-  for (const FieldDef* key_field : {&kLoginNameKey, &kLoginPasswordKey, &kLogoutKey}) {
-    const int k = Read(doc, *key_field);
-    if (k != 0) ReleaseFunctionKey(doc, k);
+  for (const FieldDef* f : NetworkFields()) {
+    if (f->key_role != kRoleNone && Read(doc, *f) != 0) ReleaseFunctionKey(doc, Read(doc, *f));
   }
   for (const FieldDef* f : NetworkFields()) ApplyDefault(doc.record, *f);
 }
