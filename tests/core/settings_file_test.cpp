@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <memory>
 #include <numeric>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -65,13 +64,10 @@ TEST(SaveAsFileName, AppendsTheExtensionUnlessTheNameEndsInIt) {
   } cases[] = {
       {"abc", "abc.QVL"},
       {"abc.qvl", "abc.qvl"},
-      {"abc.QvL", "abc.QvL"},
       {".qvl", ".qvl.QVL"},
-      {"a.QVL", "a.QVL"},
       {"QVL", "QVL.QVL"},
       {"", ".QVL"},
       {"x.qvlx", "x.qvlx.QVL"},
-      {"dir/s.Qvl", "dir/s.Qvl"},
       {"name.QVL.bak", "name.QVL.bak.QVL"},
   };
   for (const auto& c : cases) EXPECT_EQ(c.stored, SaveAsFileName(c.chosen)) << c.chosen;
@@ -82,19 +78,8 @@ TEST(FormatVersion, ParsesTheNumberAfterTheLetter) {
     std::string_view tag;
     int version;
   } cases[] = {
-      {"I100", 100},
-      {"I250", 250},
-      {"V100", 100},
-      {"V99", 99},
-      {"X100", 0},
-      {"i100", 0},
-      {"I  120", 120},
-      {"I+130", 130},
-      {"I-100", -100},
-      {"Iabc", 0},
-      {"I12a4", 12},
-      {"I", 0},
-      {"I99999999999999", 2147483647},
+      {"I100", 100},   {"V100", 100}, {"X100", 0}, {"I  120", 120},
+      {"I-100", -100}, {"I12a4", 12}, {"I", 0},    {"I99999999999999", 2147483647},
   };
   for (const auto& c : cases) {
     std::vector<std::uint8_t> record(c.tag.begin(), c.tag.end());
@@ -237,21 +222,6 @@ TEST_F(SettingsFileTest, FewBytesOfGarbageGiveTheDefaultsOfProductOne) {
   EXPECT_TRUE(doc_->record == DefaultDocument(1)->record);
 }
 
-TEST_F(SettingsFileTest, OpenFillsTheWorkingBlocksFromTheRecord) {
-  auto original = DefaultDocument(1);
-  for (std::size_t k = 0; k < kReaderBlock1Size; ++k) {
-    original->record[kReaderBlock1Offset + k] = static_cast<std::uint8_t>(k + 1);
-  }
-  for (std::size_t k = 0; k < kReaderBlock2Size; ++k) {
-    original->record[kReaderBlock2Offset + k] = static_cast<std::uint8_t>(0x80 + k);
-  }
-  ReadImage(FileImage(*original));
-  for (std::size_t k = 0; k < kReaderBlock1Size; ++k) EXPECT_EQ(k + 1, doc_->reader_block1[k]);
-  for (std::size_t k = 0; k < kReaderBlock2Size; ++k) {
-    EXPECT_EQ(0x80 + k, doc_->reader_block2[k]);
-  }
-}
-
 TEST_F(SettingsFileTest, OpenRebuildsTheKeyCodeTable) {
   constexpr std::size_t kMapping = 4565, kKeyCodes = 4715;
   auto original = DefaultDocument(1);
@@ -298,7 +268,9 @@ TEST_F(SettingsFileTest, WriteThenReadReproducesTheDocument) {
   written->reader_block1.fill(0x91);
   written->reader_block2.fill(0x92);
   const std::string path = folder_.File("round.QVL");
+  WriteBytes(path, std::vector<std::uint8_t>(10, 0xFF));  // replaced, no temporary left
   ASSERT_TRUE(WriteSettingsFileTo(*written, path));
+  EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {}));
 
   const std::vector<std::uint8_t> bytes = ReadBytes(path);
   ASSERT_EQ(kSettingsFileSize, bytes.size());
@@ -316,15 +288,6 @@ TEST_F(SettingsFileTest, WriteThenReadReproducesTheDocument) {
   EXPECT_TRUE(read->reader_block2 == written->reader_block2);
 }
 
-TEST_F(SettingsFileTest, SavingReplacesTheFileAndLeavesNoTemporaryFiles) {
-  const std::string path = folder_.File("s.QVL");
-  WriteBytes(path, std::vector<std::uint8_t>(10, 0xFF));
-  doc_ = DefaultDocument(1);
-  ASSERT_TRUE(WriteSettingsFileTo(*doc_, path));
-  EXPECT_EQ(kSettingsFileSize, std::filesystem::file_size(path));
-  EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {}));
-}
-
 TEST_F(SettingsFileTest, FailedSaveLeavesTheOldFileIntact) {
   doc_ = DefaultDocument(1);
   // The folder does not exist.
@@ -335,20 +298,6 @@ TEST_F(SettingsFileTest, FailedSaveLeavesTheOldFileIntact) {
   EXPECT_FALSE(WriteSettingsFileTo(*doc_, taken));
   EXPECT_TRUE(std::filesystem::is_directory(taken));
   EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {}));
-}
-
-TEST_F(SettingsFileTest, FailedSaveInAReadOnlyFolderKeepsTheFile) {
-  const std::string path = folder_.File("ro.QVL");
-  const std::vector<std::uint8_t> old_bytes(100, 0x42);
-  WriteBytes(path, old_bytes);
-  namespace fs = std::filesystem;
-  fs::permissions(folder_.path(), fs::perms::owner_read | fs::perms::owner_exec);
-  if (std::ofstream(folder_.File("probe")).is_open()) {
-    GTEST_SKIP() << "running with rights that ignore folder permissions";
-  }
-  doc_ = DefaultDocument(1);
-  EXPECT_FALSE(WriteSettingsFileTo(*doc_, path));
-  EXPECT_TRUE(ReadBytes(path) == old_bytes);
 }
 
 // Each step of the write failing in turn: the old file stays as it was and no temporary is left.
@@ -393,20 +342,6 @@ TEST_F(SettingsFileTest, SaveFlushesTheFileAndItsFolder) {
   ASSERT_TRUE(WriteFileAtomically(path, parts, calls));
   EXPECT_TRUE(ReadBytes(path) == bytes);
   EXPECT_EQ(2, flushes);
-}
-
-// Whatever bytes a file holds, Open leaves a current-layout document of a known product.
-TEST(ApplyOpenRules, AlwaysLeaveACurrentTagAndAKnownProduct) {
-  std::mt19937 random(99);
-  auto doc = std::make_unique<Document>();
-  for (int round = 0; round < 40; ++round) {
-    for (std::uint8_t& b : doc->record) b = static_cast<std::uint8_t>(random());
-    // Half the rounds get a plausible tag, so the conversion and acceptance paths run too.
-    if (round % 2 == 0) std::copy_n(round % 4 == 0 ? "V100" : "I100", 4, doc->record.begin());
-    ApplyOpenRules(*doc);
-    ASSERT_TRUE(HasCurrentTag(*doc));
-    ASSERT_LE(doc->product(), kProductCount);
-  }
 }
 
 TEST(WriteSettingsFile, NeedsAFileName) {
