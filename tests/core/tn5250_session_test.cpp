@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "tn5250/display_text.h"
-#include "tn5250/double_byte.h"
 #include "tn5250/replay.h"
 #include "tn5250_test_util.h"
 
@@ -74,55 +71,12 @@ TEST_F(SessionTest, ConnectStartsAFreshScreenButKeepsTheFieldRecords) {
   EXPECT_EQ(session.CurrentReadMode(), ReadMode::kNone);
 }
 
-TEST_F(SessionTest, QueryIsAnsweredOnlyAfterTheRecordEnds) {
-  const auto query = Record(Hex("04 F3 00 05 D9 70 00"));
-  session.Receive(std::span(query).first(query.size() - 1));
-  EXPECT_TRUE(listener.sent.empty());
-  session.Receive(std::span(query).last(1));
-  EXPECT_EQ(listener.sent.size(), 73u);
-}
-
 TEST_F(SessionTest, WorksWithoutAListener) {
   Session quiet;
   quiet.Receive(Record(Hex("04 40 04 11 00 0C 11 02 02 1D 40 00 24 00 05 04 72")));
   quiet.TypeCharacter('A');
   quiet.KeyInput(HostKey::kEnter);
   EXPECT_EQ(quiet.Screen().Character(1, 2), 'A');
-}
-
-TEST(DoubleByteTest, PairsGoThroughTheLanguageTable) {
-  for (int language : {0, 1, 2, 3, 4}) {
-    RecordingListener listener;
-    Session session({language, ""}, &listener);
-    session.Receive(Record(Hex("04 40 04 11 00 40 11 01 01 0E 40 40 0F")));
-    std::uint8_t first = 0x40;
-    std::uint8_t second = 0x40;
-    const bool converted = ConvertDoubleByte(language, first, second);
-    const PresentationSpace& ps = session.Screen();
-    SCOPED_TRACE("language " + std::to_string(language));
-    EXPECT_EQ(ps.Character(0, 0), ' ');
-    EXPECT_EQ(ps.Character(0, 1), converted ? first : 'X');
-    EXPECT_EQ(ps.Character(0, 2), converted ? second : 'X');
-    EXPECT_EQ(ps.IsPairStart(0, 1), converted);
-    EXPECT_EQ(ps.Character(0, 3), ' ');
-    EXPECT_EQ(ps.CursorColumn(), 4);
-  }
-}
-
-TEST(DoubleByteTest, JapaneseBlankPairIsTheFullWidthBlank) {
-  Session session({4, ""});
-  session.Receive(Record(Hex("04 40 04 11 00 40 11 01 01 0E 40 40 0F")));
-  EXPECT_EQ(session.Screen().Character(0, 1), 0x81);
-  EXPECT_EQ(session.Screen().Character(0, 2), 0x40);
-  EXPECT_EQ(ScreenRowText(session.Screen(), 4, 0).substr(0, 5), " \xE3\x80\x80 ");
-}
-
-TEST(DoubleByteTest, AttributeBytesAreHalvesInDoubleByteMode) {
-  Session session;
-  session.Receive(Record(Hex("04 40 04 11 00 40 11 01 01 0E 22 23 0F C1")));
-  EXPECT_EQ(session.Screen().Character(0, 1), 'X');
-  EXPECT_EQ(session.Screen().Character(0, 2), 'X');
-  EXPECT_EQ(session.Screen().Character(0, 4), 'A');
 }
 
 struct KeyCase {
@@ -171,50 +125,6 @@ TEST(DisplayTextTest, DecodesEachLanguagesSingleByteCode) {
   const std::string bad = "\xC3";
   i = 0;
   EXPECT_EQ(NextUtf8(bad, i), U'\uFFFD');
-}
-
-// Counts the characters of UTF-8 text.
-std::size_t CharacterCount(const std::string& text) {
-  std::size_t count = 0;
-  for (std::size_t i = 0; i < text.size(); ++count) NextUtf8(text, i);
-  return count;
-}
-
-TEST(DisplayTextTest, DoubleByteCharactersAreOneCharacterEach) {
-  struct Case {
-    int language;
-    const char* pair;       // host pair
-    const char* character;  // its character as UTF-8
-  };
-  for (const Case& c : {Case{4, "42 C1", "\xEF\xBC\xA1"}, Case{4, "45 41", "\xE4\xB8\x80"},
-                        Case{1, "42 C1", "\xEF\xBC\xA1"}, Case{2, "42 C1", "\xEF\xBC\xA1"},
-                        Case{3, "42 C1", "\xEF\xBC\xA1"}}) {
-    Session session({c.language, ""});
-    session.Receive(Record(Hex(std::string("04 40 04 11 00 40 11 01 01 0E ") + c.pair + " 0F C1")));
-    const std::string row = ScreenRowText(session.Screen(), c.language, 0);
-    SCOPED_TRACE("language " + std::to_string(c.language));
-    EXPECT_EQ(row.substr(0, 1 + std::strlen(c.character) + 2),
-              std::string(" ") + c.character + " A");
-    EXPECT_EQ(CharacterCount(row), 79u);
-  }
-}
-
-TEST(DisplayTextTest, PairsFollowTheCellsUnderThem) {
-  // SO, one pair from (0,1), SI; then a single byte over the pair's second half.
-  Session session({4, ""});
-  session.Receive(Record(Hex("04 40 04 11 00 40 11 01 01 0E 45 41 0F")));
-  EXPECT_EQ(ScreenRowText(session.Screen(), 4, 0).substr(0, 5), " \xE4\xB8\x80 ");
-  session.Receive(Record(Hex("04 11 00 40 11 01 03 C2")));
-  EXPECT_EQ(ScreenRowText(session.Screen(), 4, 0).substr(0, 6),
-            " \xEF\xBF\xBD"
-            "B ");
-  // A pair in the last column belongs to its row; the next row starts after its second half.
-  session.Receive(Record(Hex("04 11 00 40 11 02 4F 0E 45 41 0F C1")));
-  const std::string first = ScreenRowText(session.Screen(), 4, 1);
-  EXPECT_EQ(first.substr(first.size() - 3), "\xE4\xB8\x80");
-  EXPECT_EQ(CharacterCount(first), 80u);
-  EXPECT_EQ(ScreenRowText(session.Screen(), 4, 2).substr(0, 2), " A");
-  EXPECT_EQ(CharacterCount(ScreenRowText(session.Screen(), 4, 2)), 79u);
 }
 
 TEST(ReplayJsonTest, HoldsEveryPart) {
