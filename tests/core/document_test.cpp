@@ -42,14 +42,6 @@ std::vector<Cover> CoverOf(const FieldElement& e) {
 
 using testing::DefaultDocument;
 
-TEST(Document, DefaultsAreTaggedWithTheProduct) {
-  for (int product : {0, 1, 2}) {
-    auto doc = DefaultDocument(product);
-    EXPECT_EQ(0, std::memcmp(doc->record.data(), "I100\0", 5));
-    EXPECT_EQ(product, doc->product());
-  }
-}
-
 TEST(Document, DefaultsDoNotDependOnWhatWasThereBefore) {
   for (int product : {0, 1, 2}) {
     auto clean = DefaultDocument(product);

@@ -18,14 +18,6 @@ std::string SlotBytes(const Document& doc, int screen, int line) {
   return std::string(bytes.begin(), bytes.end());
 }
 
-// A default slot: the text padded to `width`, its NUL, then the zeros New left behind.
-std::string DefaultSlot(std::string_view text, std::size_t width) {
-  std::string slot(text);
-  slot.resize(width, ' ');
-  slot.resize(kPromptSlotWidth, '\0');
-  return slot;
-}
-
 TEST(PromptScreens, OffsetsMatchTheTerminalLayout) {
   constexpr std::array<std::uint32_t, 12> kOffsets{82,   246,  574,  902,  1230, 1394,
                                                    1558, 1722, 1886, 2050, 2214, 2542};
@@ -36,41 +28,6 @@ TEST(PromptScreens, OffsetsMatchTheTerminalLayout) {
   EXPECT_EQ(67, PromptSlot(11, 7));
   EXPECT_EQ(-1, PromptSlot(12, 0));
   EXPECT_EQ(-1, PromptSlot(-1, 0));
-}
-
-struct SlotCase {
-  int product;
-  int screen;
-  int line;
-  const char* text;
-  std::size_t width;
-};
-
-class PromptDefaultsTest : public ::testing::TestWithParam<SlotCase> {};
-
-TEST_P(PromptDefaultsTest, SlotIsByteExact) {
-  const SlotCase& c = GetParam();
-  auto doc = testing::DefaultDocument(c.product);
-  EXPECT_EQ(DefaultSlot(c.text, c.width), SlotBytes(*doc, c.screen, c.line));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Slots, PromptDefaultsTest,
-    ::testing::Values(
-        SlotCase{1, 0, 0, "1. Telnet", 12}, SlotCase{2, 0, 0, "1. Telnet", 15},
-        SlotCase{1, 0, 3, "", 12}, SlotCase{2, 0, 3, "", 15},
-        SlotCase{1, 1, 0, "1.TCP/IP Setting", 16}, SlotCase{2, 1, 5, "6.Set Date & Time", 20},
-        SlotCase{1, 3, 7, "8.Trim Spaces", 16}, SlotCase{2, 3, 7, "8. Trim Spaces", 20},
-        SlotCase{2, 4, 2, "Turn baclight off if", 20}, SlotCase{1, 9, 3, "Download NG!", 12},
-        SlotCase{2, 9, 3, "Download failed", 15}, SlotCase{1, 10, 6, "Out of range!", 16},
-        SlotCase{2, 10, 6, "Value out of range!", 20}, SlotCase{2, 10, 7, "", 20},
-        SlotCase{1, 11, 7, "", 16}, SlotCase{2, 11, 5, " New :", 20}));
-
-TEST(PromptDefaults, VariantThreeEqualsDravinR) {
-  auto r = testing::DefaultDocument(2);
-  auto three = testing::DefaultDocument(3);
-  EXPECT_TRUE(
-      std::equal(r->record.begin() + 82, r->record.begin() + 2870, three->record.begin() + 82));
 }
 
 TEST(PromptDefaults, NoProductCopiesNothing) {

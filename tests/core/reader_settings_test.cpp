@@ -70,24 +70,6 @@ const std::string kRfidDefaults = "01 00 00 00 00 00 80 2C x 04 01 01";
 const std::string kBeeperDefaults =
     "1E 07 00 05 1E 07 00 00 00 00 0E 05 00 00 00 00 00 00 00 00 00 00";
 
-class ReaderDefaultsForProduct : public ::testing::TestWithParam<int> {};
-
-TEST_P(ReaderDefaultsForProduct, NewDocumentHoldsTheDefaultImages) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, GetParam());
-  ExpectBytes(doc->reader_block2, 0, kLinearDefaults, "working block 2");
-  ExpectBytes(doc->reader_block1, 0, kTwoDDefaults, "working block 1");
-  ExpectBytes(doc->record, 3690, kLinearDefaults, "record 3690");
-  ExpectBytes(doc->record, 3713, kAdvancedDefaults, "record 3713");
-  ExpectBytes(doc->record, 3772, "00 00 00", "switch key, EAN128 key code, reader type");
-  ExpectBytes(doc->record, 58659, kTwoDDefaults, "record 58659");
-  ExpectBytes(doc->record, 58759, kRfidDefaults + " 00", "RFID");
-  ExpectBytes(doc->record, 58767, "00", "reread delay high byte");
-  ExpectBytes(doc->record, 58859, kBeeperDefaults, "beeper and vibrator");
-}
-
-INSTANTIATE_TEST_SUITE_P(Products, ReaderDefaultsForProduct, ::testing::Values(0, 1, 2, 3));
-
 TEST(ReaderDefaults, ResetLeavesReaderTypeSwitchKeyAndRfidControlAlone) {
   auto doc = std::make_unique<Document>();
   doc->record.fill(0xAA);

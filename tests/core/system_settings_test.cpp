@@ -18,19 +18,6 @@ namespace {
 
 class SystemDefaultsTest : public ::testing::TestWithParam<int> {};
 
-// Bytes 25 to 81 after New, whatever the product.
-TEST_P(SystemDefaultsTest, SectionIsByteExact) {
-  auto doc = testing::DefaultDocument(GetParam());
-  std::array<std::uint8_t, 57> expected{};  // bytes 25..81
-  expected[25 - 25] = 0;                    // resume the program
-  expected[26 - 25] = 180;                  // 180 seconds, low byte
-  expected[27 - 25] = 1;                    // key click on
-  expected[29 - 25] = 2;                    // 20 seconds
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_EQ(expected[i], doc->record[25 + i]) << "byte " << 25 + i;
-  }
-}
-
 TEST_P(SystemDefaultsTest, ResetRestoresEveryByteAfterChanges) {
   auto doc = testing::DefaultDocument(GetParam());
   const SettingsRecord fresh = doc->record;
