@@ -4,6 +4,7 @@
 #include <string>
 
 #include "resources/strings.h"
+#include "settings_test_files.h"
 #include "shell/command_enabling.h"
 #include "shell/command_table.h"
 #include "shell/session_commands.h"
@@ -12,91 +13,38 @@
 namespace veltrix {
 namespace {
 
-struct CommandTexts {
-  int id;
-  const char* description;
-  const char* tooltip;  // empty: not on the toolbar
-};
-
-class CommandTextsTest : public ::testing::TestWithParam<CommandTexts> {};
-
-TEST_P(CommandTextsTest, DescriptionAndTooltipComeFromTheStringTable) {
-  const CommandTexts& c = GetParam();
-  EXPECT_EQ(CommandDescription(c.id), c.description);
-  EXPECT_EQ(CommandTooltip(c.id), c.tooltip);
-  EXPECT_NE(FindCommand(c.id), nullptr);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    AllCommands, CommandTextsTest,
-    ::testing::Values(CommandTexts{1010, "Creates a new document", "New"},
-                      CommandTexts{1020, "Opens an existing document", "Open"},
-                      CommandTexts{1030, "Saves the active document", "Save"},
-                      CommandTexts{1040, "Saves the active document with a new name", ""},
-                      CommandTexts{1090, "Quites the application", ""},
-                      CommandTexts{1110, "Configure the terminal settings", "Configure"},
-                      CommandTexts{1210, "Download the current settings to the terminal",
-                                   "Download"},
-                      CommandTexts{1220, "Download the current program to the terminal", ""},
-                      CommandTexts{1310, "Capture current screen", "Capture"},
-                      CommandTexts{1320, "Start Capture", "Start Capture"},
-                      CommandTexts{1330, "Stop capture screen", "Stop Capture"},
-                      CommandTexts{1340, "Connect to host", "Connect"},
-                      CommandTexts{1350, "Disconnect", "Disconnect"},
-                      CommandTexts{1910, "Copyright information", ""}));
-
-TEST(CommandTable, ApplicationStringsAndLicence) {
-  EXPECT_EQ(StringResource(1001), "Veltrix");
-  EXPECT_EQ(StringResource(1002), "Veltrix - TN5250");
-  for (int id : {8888, 8889, 8890}) EXPECT_FALSE(StringResource(id).empty()) << id;
-}
-
-TEST(CommandTable, MenusListEveryCommandOnceInOrder) {
-  std::string layout;
+// The menus, each command's menu text, description, toolbar tip and product rule, and the
+// toolbar, as the user meets them: compared with tests/core/golden/shell/commands.txt.
+TEST(CommandTable, MenusCommandsAndToolbarMatchTheGolden) {
+  std::string out;
   std::set<int> seen;
   for (const MenuDef& menu : kMenus) {
-    layout += std::string(menu.title) + ":";
+    out += std::string(menu.title) + "\n";
     for (int id : menu.items) {
       if (id == kSeparator) {
-        layout += " -";
+        out += "  -\n";
         continue;
       }
-      EXPECT_TRUE(seen.insert(id).second) << id;
-      layout += " " + std::to_string(id);
+      EXPECT_TRUE(seen.insert(id).second) << id;  // every command once
+      const CommandDef* c = FindCommand(id);
+      ASSERT_NE(c, nullptr) << id;
+      out += "  " + std::to_string(id) + " \"" + std::string(MenuLabel(c->menu_text)) + "\" [" +
+             std::string(MenuShortcut(c->menu_text)) + "] \"" +
+             std::string(CommandDescription(id)) + "\" tip \"" + std::string(CommandTooltip(id)) +
+             "\"" + (c->needs_product ? " needs a product" : "") + "\n";
     }
-    layout += "\n";
   }
-  EXPECT_EQ(layout,
-            "&File: 1010 1020 1030 1040 - 1090\n"
-            "&Utilities: 1110 1210 1220\n"
-            "&Telnet: 1340 1350 - 1320 1310 1330\n"
-            "&Help: 1910\n");
   EXPECT_EQ(seen.size(), kCommands.size());
-}
-
-TEST(CommandTable, MenuTextsSplitIntoLabelAndShortcut) {
-  EXPECT_EQ(MenuLabel("&New\tCtrl+N"), "&New");
-  EXPECT_EQ(MenuShortcut("&New\tCtrl+N"), "Ctrl+N");
-  EXPECT_EQ(MenuLabel("Capture"), "Capture");
-  EXPECT_EQ(MenuShortcut("Capture"), "");
-  std::set<std::string> shortcuts;
-  for (const CommandDef& c : kCommands) {
-    if (!MenuShortcut(c.menu_text).empty())
-      shortcuts.insert(std::string(MenuShortcut(c.menu_text)));
-  }
-  EXPECT_EQ(shortcuts, (std::set<std::string>{"Ctrl+N", "Ctrl+O", "Ctrl+S", "Alt+F4", "Ctrl+C",
-                                              "Ctrl+D", "Ctrl+P"}));
-}
-
-TEST(CommandTable, ToolbarHasFourteenPositionsWithTooltips) {
-  std::string layout;
+  out += "toolbar";
   for (const ToolButtonDef& b : kToolbar) {
-    layout += b.command == kSeparator ? "|" : " " + std::string(CommandTooltip(b.command)) + " ";
+    out += b.command == kSeparator ? " |" : " " + std::to_string(b.command);
     EXPECT_EQ(b.command == kSeparator, b.image == ToolImage::kNone);
   }
-  EXPECT_EQ(layout,
-            "| New  Open  Save | Configure  Download | Connect  Disconnect "
-            "| Start Capture  Capture  Stop Capture ");
+  out += "\n";
+  for (int id : {1001, 1002, 8888, 8889, 8890}) {
+    out += "string " + std::to_string(id) + " \"" + std::string(StringResource(id)) + "\"\n";
+  }
+  EXPECT_TRUE(testing::MatchesGolden(out, "shell/commands.txt"));
 }
 
 // ---- enabling ----------------------------------------------------------------------------
