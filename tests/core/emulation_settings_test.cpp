@@ -111,7 +111,7 @@ TEST(EmulationChoices, ExcludeStringKeepsNineteenCharacters) {
 struct EditCase {
   std::string text;
   std::uint32_t value;
-  std::optional<std::string> write_back;
+  std::optional<std::string> rewrite;
 };
 
 TEST(NumberEdits, ScrollSteps) {
@@ -123,19 +123,19 @@ TEST(NumberEdits, ScrollSteps) {
                                                  {"007", 7, "7"},
                                                  {"00", 1, "1"},
                                                  {"255", 255, std::nullopt}}) {
-    EXPECT_EQ((NumberEdit{c.value, c.write_back}), ScrollStepEdit(c.text)) << c.text;
+    EXPECT_EQ((NumericEdit{c.value, c.rewrite}), ScrollStepEdit(c.text)) << c.text;
   }
 }
 
 TEST(NumberEdits, ViewOriginAndTimeOut) {
-  EXPECT_EQ((NumberEdit{79, "79"}), ViewOriginEdit("90", 80));
-  EXPECT_EQ((NumberEdit{79, "79"}), ViewOriginEdit("80", 80));
-  EXPECT_EQ((NumberEdit{79, std::nullopt}), ViewOriginEdit("79", 80));
-  EXPECT_EQ((NumberEdit{24, "24"}), ViewOriginEdit("30", 25));
-  EXPECT_EQ((NumberEdit{0, std::nullopt}), ViewOriginEdit("", 25));
-  EXPECT_EQ((NumberEdit{44, std::nullopt}), MessageTimeOutEdit("300"));
-  EXPECT_EQ((NumberEdit{3, std::nullopt}), MessageTimeOutEdit("3"));
-  EXPECT_EQ((NumberEdit{0, std::nullopt}), MessageTimeOutEdit(""));
+  EXPECT_EQ((NumericEdit{79, "79"}), ViewOriginEdit("90", 80));
+  EXPECT_EQ((NumericEdit{79, "79"}), ViewOriginEdit("80", 80));
+  EXPECT_EQ((NumericEdit{79, std::nullopt}), ViewOriginEdit("79", 80));
+  EXPECT_EQ((NumericEdit{24, "24"}), ViewOriginEdit("30", 25));
+  EXPECT_EQ((NumericEdit{0, std::nullopt}), ViewOriginEdit("", 25));
+  EXPECT_EQ((NumericEdit{44, std::nullopt}), MessageTimeOutEdit("300"));
+  EXPECT_EQ((NumericEdit{3, std::nullopt}), MessageTimeOutEdit("3"));
+  EXPECT_EQ((NumericEdit{0, std::nullopt}), MessageTimeOutEdit(""));
 }
 
 }  // namespace

@@ -128,12 +128,12 @@ TEST(NetworkControls, EnablingFollowsDhcpEapAndWep) {
 struct EditCase {
   std::string text;
   std::uint32_t value;
-  std::optional<std::string> write_back;
+  std::optional<std::string> rewrite;
 };
 
-void ExpectEdits(NumberEdit (*edit)(std::string_view), const std::vector<EditCase>& cases) {
+void ExpectEdits(NumericEdit (*edit)(std::string_view), const std::vector<EditCase>& cases) {
   for (const EditCase& c : cases) {
-    EXPECT_EQ((NumberEdit{c.value, c.write_back}), edit(c.text)) << '"' << c.text << '"';
+    EXPECT_EQ((NumericEdit{c.value, c.rewrite}), edit(c.text)) << '"' << c.text << '"';
   }
 }
 

@@ -49,18 +49,45 @@ class SystemPageTest : public QObject {
     QCOMPARE(Edit("prompt_edit_1")->text(), QString("1. Telnet").leftJustified(15));
   }
 
-  // The correction rules themselves are tested in the core; here: each change, typed or pasted,
-  // is corrected at once and stored in both bytes.
-  void autoPowerOffCorrectsEveryChange() {
-    QLineEdit* edit = Edit("auto_power_off");
-    edit->setText("0300");
-    QCOMPARE(edit->text(), QString("300"));
-    QCOMPARE(ReadNumber(doc_->record, kAutoPowerOff), 300u);
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Backspace);  // emptied: 1 comes back at once
-    QCOMPARE(edit->text(), QString("1"));
-    QTest::keyClicks(edit, "70000");
-    QCOMPARE(edit->text(), QString("65025"));
+  // The correction rules themselves are tested in the core; here, typed key by key: a corrected
+  // text is selected, so what the user types next replaces it and the number typed is stored.
+  void numberEditsStoreWhatIsTyped_data() {
+    QTest::addColumn<QString>("edit");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<uint>("stored");
+    QTest::newRow("600 after clearing") << "auto_power_off"
+                                        << "600"
+                                        << "600" << 600u;
+    QTest::newRow("leading zero") << "auto_power_off"
+                                  << "0300"
+                                  << "300" << 300u;
+    QTest::newRow("too large") << "auto_power_off"
+                               << "70000"
+                               << "65025" << 65025u;
+    QTest::newRow("too large, then typed again") << "auto_power_off"
+                                                 << "700009"
+                                                 << "9" << 9u;
+    QTest::newRow("idle") << "idle"
+                          << "09"
+                          << "9" << 9u;
+  }
+  void numberEditsStoreWhatIsTyped() {
+    QFETCH(QString, edit);
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    QFETCH(uint, stored);
+    QLineEdit* line = Edit(edit);
+    line->selectAll();
+    QTest::keyClick(line, Qt::Key_Backspace);  // emptied: the rule writes its minimum back
+    QVERIFY(line->hasSelectedText());
+    QTest::keyClicks(line, typed);
+    QCOMPARE(line->text(), shown);
+    const FieldDef& field = edit == "idle" ? kTurnOffIfIdleFor : kAutoPowerOff;
+    QCOMPARE(ReadNumber(doc_->record, field), stored);
+  }
+  void autoPowerOffUsesBothBytes() {
+    Edit("auto_power_off")->setText("65025");
     QCOMPARE(doc_->record[26], std::uint8_t{65025 & 0xFF});
     QCOMPARE(doc_->record[62], std::uint8_t{65025 >> 8});
   }

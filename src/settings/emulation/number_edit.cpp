@@ -14,7 +14,7 @@ std::string_view Trim(std::string_view text) {
 bool HasLeadingZero(std::string_view text) { return text.size() >= 2 && text.front() == '0'; }
 
 // Clamps a number into [low, high]; a corrected or zero-led text is written back as the value.
-NumberEdit Clamped(std::string_view text, std::int64_t low, std::int64_t high) {
+NumericEdit Clamped(std::string_view text, std::int64_t low, std::int64_t high) {
   const std::optional<std::int64_t> number = ParseDecimal(text);
   if (!number || *number < low) return {static_cast<std::uint32_t>(low), std::to_string(low)};
   if (*number > high) return {static_cast<std::uint32_t>(high), std::to_string(high)};
@@ -42,7 +42,7 @@ std::optional<std::int64_t> ParseDecimal(std::string_view text) {
   return negative ? -value : value;
 }
 
-NumberEdit TelnetPortEdit(std::string_view text) {
+NumericEdit TelnetPortEdit(std::string_view text) {
   const std::optional<std::int64_t> number = ParseDecimal(text);
   if (!number || *number < 0) {
     if (text.empty()) return {0, std::nullopt};
@@ -51,18 +51,18 @@ NumberEdit TelnetPortEdit(std::string_view text) {
   return {static_cast<std::uint32_t>(*number) & 0xFFFFu, std::nullopt};
 }
 
-NumberEdit KeepAliveEdit(std::string_view text) { return Clamped(text, 0, 255); }
+NumericEdit KeepAliveEdit(std::string_view text) { return Clamped(text, 0, 255); }
 
-NumberEdit ScrollStepEdit(std::string_view text) { return Clamped(text, 1, 255); }
+NumericEdit ScrollStepEdit(std::string_view text) { return Clamped(text, 1, 255); }
 
-NumberEdit ViewOriginEdit(std::string_view text, std::uint32_t bound) {
+NumericEdit ViewOriginEdit(std::string_view text, std::uint32_t bound) {
   const std::optional<std::int64_t> number = ParseDecimal(text);
   const std::uint32_t value = number && *number > 0 ? static_cast<std::uint32_t>(*number) : 0;
   if (value >= bound) return {bound - 1, std::to_string(bound - 1)};
   return {value, std::nullopt};
 }
 
-NumberEdit MessageTimeOutEdit(std::string_view text) {
+NumericEdit MessageTimeOutEdit(std::string_view text) {
   const std::optional<std::int64_t> number = ParseDecimal(text);
   const std::uint32_t value = number && *number > 0 ? static_cast<std::uint32_t>(*number) : 0;
   return {value & 0xFFu, std::nullopt};

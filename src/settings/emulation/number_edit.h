@@ -6,16 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "settings/numeric_edit.h"
+
 namespace veltrix {
 
-// What a numeric edit of the Wireless LAN and Emulation pages does with its text on each change:
-// the value to store, and the text to write back into the edit when it must be corrected.
-struct NumberEdit {
-  std::uint32_t value = 0;
-  std::optional<std::string> write_back;
-
-  friend bool operator==(const NumberEdit&, const NumberEdit&) = default;
-};
+// The numeric edits of the Wireless LAN and Emulation pages.
 
 // The text as a decimal number: optional blanks, an optional sign, digits, optional blanks.
 // Anything else, or a value beyond 32 bits, is not a number.
@@ -23,15 +18,15 @@ std::optional<std::int64_t> ParseDecimal(std::string_view text);
 
 // "Telnet Port :": a number is stored modulo 65536; anything else stores 0 and a non-empty text
 // becomes "0".
-NumberEdit TelnetPortEdit(std::string_view text);
+NumericEdit TelnetPortEdit(std::string_view text);
 // "Keep Alive": 0-255, with not-a-number or negative giving 0 and leading zeros dropped.
-NumberEdit KeepAliveEdit(std::string_view text);
+NumericEdit KeepAliveEdit(std::string_view text);
 // "Horizontal Steps :" and "Vertical Steps :": 1-255, with leading zeros dropped.
-NumberEdit ScrollStepEdit(std::string_view text);
+NumericEdit ScrollStepEdit(std::string_view text);
 // "X" (bound 80, corrected to 79) and "Y" (bound 25, corrected to 24): digits only.
-NumberEdit ViewOriginEdit(std::string_view text, std::uint32_t bound);
+NumericEdit ViewOriginEdit(std::string_view text, std::uint32_t bound);
 // "Time Out (Second)": the number's low 8 bits, no bound check.
-NumberEdit MessageTimeOutEdit(std::string_view text);
+NumericEdit MessageTimeOutEdit(std::string_view text);
 
 }  // namespace veltrix
 

@@ -16,15 +16,13 @@
 #include <string>
 #include <string_view>
 
+#include "settings/rewriting_edit_qt.h"
+
 namespace veltrix {
 namespace {
 
-// The record holds single-byte texts: one character per byte.
-QString FromRecord(std::string_view text) {
-  return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-std::string ToRecord(const QString& text) { return text.toLatin1().toStdString(); }
+QString FromRecord(std::string_view text) { return FromRecordText(std::string(text)); }
+std::string ToRecord(const QString& text) { return ToRecordText(text); }
 
 QString Caption(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -175,12 +173,12 @@ void SystemPage::ConnectControls() {
           [this](int id) { editor_.SetValue(kPowerOn, id); });
   connect(backlight_, &QButtonGroup::idClicked, this,
           [this](int id) { editor_.SetValue(kBacklight, id); });
-  connect(auto_power_off_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (!loading_) ApplyNumericEdit(auto_power_off_, editor_.EditAutoPowerOff(ToRecord(text)));
-  });
-  connect(idle_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (!loading_) ApplyNumericEdit(idle_, editor_.EditIdle(ToRecord(text)));
-  });
+  const auto active = [this] { return !loading_; };
+  BindRewritingEdit(
+      auto_power_off_,
+      [this](const std::string& text) { return editor_.EditAutoPowerOff(text).rewrite; }, active);
+  BindRewritingEdit(
+      idle_, [this](const std::string& text) { return editor_.EditIdle(text).rewrite; }, active);
   connect(password_, &QLineEdit::textChanged, this, [this](const QString& text) {
     if (!loading_) editor_.EditPassword(ToRecord(text));
   });
@@ -249,10 +247,6 @@ void SystemPage::ShowScreen() {
     row_labels_[k]->setEnabled(rows[k].enabled);
     row_edits_[k]->setEnabled(rows[k].enabled);
   }
-}
-
-void SystemPage::ApplyNumericEdit(QLineEdit* edit, const NumericEdit& result) {
-  if (result.rewrite) edit->setText(FromRecord(*result.rewrite));
 }
 
 }  // namespace veltrix

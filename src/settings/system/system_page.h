@@ -40,8 +40,6 @@ class SystemPage : public SettingsPage {
   void LoadControls();
   // Shows the selected screen's eight rows.
   void ShowScreen();
-  // Runs a numeric edit rule and writes the corrected text back when it asks for it.
-  void ApplyNumericEdit(QLineEdit* edit, const NumericEdit& result);
 
   SystemEditor editor_;
   bool loading_ = false;

@@ -8,17 +8,9 @@
 #include <string_view>
 
 #include "settings/field.h"
+#include "settings/numeric_edit.h"
 
 namespace veltrix {
-
-// The outcome of a numeric edit: the value to store and, when the edit must show something else
-// than what was typed, the text to write back into it.
-struct NumericEdit {
-  std::uint32_t value = 0;
-  std::optional<std::string> rewrite;
-
-  bool operator==(const NumericEdit&) const = default;
-};
 
 // Reads the whole text as an unsigned decimal number and corrects it in place: not a number or
 // below `min` gives `min`, above `max` gives `max` (both written back); a number typed with
