@@ -114,6 +114,19 @@ TEST_F(PromptEditorTest, ASlotWithoutNulLoadsAs40Characters) {
   EXPECT_EQ(std::string(40, 'w'), editor_.Line(0, 0));
 }
 
+// An applied file holds every text padded to 40 characters: the editable rows show no more than
+// their line stores, the disabled ones what is stored.
+TEST_F(PromptEditorTest, EditableRowsShowNoMoreThanTheirWidth) {
+  PadPromptsForTerminal(*doc_);
+  editor_.Load(doc_->record);
+  editor_.Select(1);
+  const auto rows = editor_.Rows(2);
+  EXPECT_EQ(20, rows[0].width);
+  EXPECT_EQ("1.TCP/IP Settings   ", rows[0].text);
+  editor_.Select(0);
+  EXPECT_EQ(40u, editor_.Rows(2)[3].text.size());
+}
+
 TEST_F(PromptEditorTest, SelectIgnoresScreensOutOfRange) {
   editor_.Select(4);
   editor_.Select(12);

@@ -1,5 +1,6 @@
 #include "settings/system/system_page.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -141,9 +142,38 @@ class SystemPageTest : public QObject {
     QLineEdit* edit = Edit("prompt_edit_3");
     edit->clear();
     QTest::keyClicks(edit, "abcdefghijklmnopqrstuvwxy");
-    QCOMPARE(edit->text().size(), 25);
+    QCOMPARE(edit->text().size(), 20);  // no more than the line stores
     QCOMPARE(QString::fromStdString(ReadText(doc_->record, kPromptText, PromptSlot(1, 2))),
              QString("abcdefghijklmnopqrst"));
+  }
+
+  // After an applied file every text is padded to 40 characters: End and typing stay within the
+  // line's 20 characters, and tabbing through the rows shows each text from its start.
+  void appliedTextsStayWithinTheirLines() {
+    page_->Apply(*doc_);
+    page_->Initialise(*doc_);
+    page_->show();
+    page_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page_.get()));
+    Find<QComboBox>("prompt_screens")->setCurrentIndex(1);
+    QLineEdit* edit = Edit("prompt_edit_1");
+    edit->setFocus();
+    QCOMPARE(edit->text(), QString("1.TCP/IP Settings").leftJustified(20));
+    QTest::keyClick(edit, Qt::Key_End);
+    QTest::keyClicks(edit, "XYZ");
+    QCOMPARE(edit->text().size(), 20);
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kPromptText, PromptSlot(1, 0))),
+             QString("1.TCP/IP Settings").leftJustified(40));  // as applied, nothing typed
+    QLineEdit* current = edit;
+    for (int k = 2; k <= 8; ++k) {
+      QTest::keyClick(current, Qt::Key_Tab);
+      QLineEdit* next = Edit(QString("prompt_edit_%1").arg(k));
+      QCOMPARE(QApplication::focusWidget(), next);
+      QVERIFY(next->text().size() <= 20);
+      // The whole text fits: nothing is scrolled out of view on its left.
+      QVERIFY(next->fontMetrics().horizontalAdvance(next->text()) < next->contentsRect().width());
+      current = next;
+    }
   }
 
   void resetRestoresDefaultsAndTheFirstScreen() {

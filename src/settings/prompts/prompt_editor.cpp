@@ -46,12 +46,15 @@ void PromptEditor::Select(int screen) {
 std::array<PromptRow, kPromptRowsPerScreen> PromptEditor::Rows(int product) const {
   std::array<PromptRow, kPromptRowsPerScreen> rows;
   const std::optional<int> variant = PromptVariant(product);
-  const int edited = ScreenAt(selected_).lines_edited;
+  const PromptScreen& screen = ScreenAt(selected_);
   for (int k = 0; k < kPromptRowsPerScreen; ++k) {
     PromptRow& row = rows[static_cast<std::size_t>(k)];
     row.text = Line(selected_, k);
-    row.enabled = k < edited;
+    row.width = screen.width_limit;
+    row.enabled = k < screen.lines_edited;
     if (row.enabled) {
+      // The blanks an applied file holds behind the width are padding the terminal never shows.
+      row.text.resize(std::min<std::size_t>(row.text.size(), screen.width_limit));
       row.label = variant ? PromptLineLabel(*variant, selected_, k) : std::string();
     } else {
       row.label = row.text;

@@ -15,7 +15,8 @@ namespace veltrix {
 // What one of the editor's eight label/edit rows shows.
 struct PromptRow {
   std::string label;
-  std::string text;
+  std::string text;  // an editable row's text is cut to `width`: no more than the line stores
+  int width = 0;     // how many characters the row's edit takes
   bool enabled = false;
 };
 

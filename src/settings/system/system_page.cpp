@@ -242,6 +242,7 @@ void SystemPage::ShowScreen() {
   const auto rows = editor_.Rows();
   for (int k = 0; k < kPromptRowsPerScreen; ++k) {
     row_labels_[k]->setText(FromRecord(rows[k].label));
+    row_edits_[k]->setMaxLength(rows[k].width);
     row_edits_[k]->setText(FromRecord(rows[k].text));
     row_edits_[k]->setCursorPosition(0);
     row_labels_[k]->setEnabled(rows[k].enabled);
