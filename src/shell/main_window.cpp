@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -242,7 +243,7 @@ void MainWindow::ExecuteCommand(int command_id) {
   if (destroying_) return;
   const CommandDef* command = FindCommand(command_id);
   if (command == nullptr || !action(command_id)->isEnabled()) return;
-  statusBar()->showMessage(Text(CommandDescription(command_id)).left(255));
+  ShowCommandStatus(Text(CommandDescription(command_id)).left(255));
   if (!commands_->CheckProduct(command_id)) {
     product_box_->setFocus();
     return;
@@ -279,11 +280,24 @@ void MainWindow::ExecuteCommand(int command_id) {
   }
 }
 
+void MainWindow::ShowCommandStatus(const QString& text) {
+  command_status_ = text;
+  statusBar()->showMessage(text);
+}
+
+bool MainWindow::event(QEvent* event) {
+  if (event->type() == QEvent::StatusTip && static_cast<QStatusTipEvent*>(event)->tip().isEmpty()) {
+    statusBar()->showMessage(command_status_);
+    return true;
+  }
+  return QMainWindow::event(event);
+}
+
 void MainWindow::RunSessionCommand(int command_id) {
   const bool was_shown = session_->host_screen_shown();
   std::optional<std::string> status = session_->Run(command_id);
   ApplyEnabling();
-  if (status) statusBar()->showMessage(QString::fromStdString(*status));
+  if (status) ShowCommandStatus(QString::fromStdString(*status));
   if (session_->host_screen_shown() != was_shown) ShowHostScreen(session_->host_screen_shown());
 }
 

@@ -77,11 +77,16 @@ class MainWindow : public QMainWindow {
   void ExecuteCommand(int command_id);
 
  protected:
+  // An empty status tip (the pointer left a menu item or a toolbar button) shows the last
+  // command's text again instead of clearing the status bar.
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // Shows a command's text in the status bar and keeps it for when a status tip ends.
+  void ShowCommandStatus(const QString& text);
   void CreateActions();
   void CreateMenus();
   void CreateToolBar();
@@ -112,6 +117,7 @@ class MainWindow : public QMainWindow {
   SummaryView* summary_ = nullptr;
   QWidget* host_placeholder_ = nullptr;
   QPointer<QWidget> host_screen_;
+  QString command_status_;
 };
 
 }  // namespace veltrix

@@ -235,6 +235,21 @@ class MainWindowTest : public QObject {
         std::make_unique<MainWindow>(MainWindow::Ports{prompt_.get(), chooser_.get()}, registry_);
   }
 
+  // Started from a toolbar button, a command shows its description as from the menu; leaving
+  // the button (its empty status tip) does not wipe it.
+  void toolbarCommandsShowTheirDescription() {
+    window_->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+    QWidget* button = window_->tool_bar()->widgetForAction(window_->action(kCmdConnect));
+    QTest::mouseMove(button);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(prompt_->shown.size(), size_t(1));  // no session in this window
+    QTest::mouseMove(window_->summary_view());
+    QStatusTipEvent leave{QString()};
+    QApplication::sendEvent(button, &leave);
+    QCOMPARE(window_->statusBar()->currentMessage(), QString("Connect to host"));
+  }
+
   void clientAreaSitsTwoPixelsBelowTheToolbar() {
     window_->resize(800, 600);
     window_->show();
