@@ -45,7 +45,7 @@ int RunSetCommand(std::span<const std::string> args, CliIo& io) {
   if (!doc) return kExitUsage;
   // Saving such a file would replace what it holds by defaults, or empty its pages (previous
   // layout): leave that to convert, which the user asks for knowingly.
-  if (report.refused || report.file_size != kSettingsFileSize) {
+  if (!IsWholeAcceptedFile(report)) {
     return Fail(io, "set: '" + path + "' is not a complete settings file; nothing written");
   }
   if (report.converted) {

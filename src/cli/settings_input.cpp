@@ -25,16 +25,7 @@ std::unique_ptr<Document> LoadSettingsInput(const std::string& path, CliIo& io,
     Fail(io, "cannot open '" + path + "' for reading");
     return nullptr;
   }
-  if (found.file_size != kSettingsFileSize) {
-    Warn(io, "'" + path + "' is " + std::to_string(found.file_size) + " bytes, not " +
-                 std::to_string(kSettingsFileSize) + "; read as far as it goes");
-  }
-  if (found.refused) {
-    Warn(io, "'" + path +
-                 "' has no accepted format tag, version or product; read as the defaults of "
-                 "product 1");
-  }
-  if (found.converted) Warn(io, "'" + path + "' has the previous layout; converted");
+  for (const std::string& finding : OpenFindings(found)) Warn(io, "'" + path + "': " + finding);
   if (report) *report = found;
   return doc;
 }

@@ -91,6 +91,24 @@ SettingsFileReport ApplyOpenRules(Document& doc) {
   return report;
 }
 
+bool IsWholeAcceptedFile(const SettingsFileReport& report) {
+  return !report.refused && report.file_size == kSettingsFileSize;
+}
+
+std::vector<std::string> OpenFindings(const SettingsFileReport& report) {
+  std::vector<std::string> findings;
+  if (report.file_size != kSettingsFileSize) {
+    findings.push_back("it is " + std::to_string(report.file_size) + " bytes, not " +
+                       std::to_string(kSettingsFileSize) + "; read as far as it goes");
+  }
+  if (report.refused) {
+    findings.push_back(
+        "it has no accepted format tag, version or product; read as the defaults of product 1");
+  }
+  if (report.converted) findings.push_back("it has the previous layout; converted");
+  return findings;
+}
+
 bool ReadSettingsFile(Document& doc, const std::string& path) {
   return ReadSettingsFile(doc, path, nullptr);
 }

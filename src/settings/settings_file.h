@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "settings/document.h"
 
@@ -18,6 +19,13 @@ struct SettingsFileReport {
   bool refused = false;        // tag, version or product not accepted: defaults of product 1
   bool converted = false;      // a previous-layout ('V') file, converted in place
 };
+
+// A whole settings file of an accepted tag, version and product: saving over it loses nothing.
+bool IsWholeAcceptedFile(const SettingsFileReport& report);
+
+// What Open's rules did to the file, one clause each ("it is 20 bytes, not 580984; read as far
+// as it goes"); empty for a whole, accepted file of the current layout.
+std::vector<std::string> OpenFindings(const SettingsFileReport& report);
 
 // Reads the settings file at `path` into `doc` with every rule of Open: short files read as far
 // as they go, refused tags/versions/products replaced by the defaults of product 1, the previous

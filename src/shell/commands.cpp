@@ -19,7 +19,11 @@ std::string_view Title() { return StringResource(kWindowTitleId); }
 
 SettingsFileIo SettingsFileIo::Real() {
   return SettingsFileIo{
-      [](Document& doc, const std::string& path) { return ReadSettingsFile(doc, path); },
+      [](Document& doc, const std::string& path) -> std::optional<SettingsFileReport> {
+        SettingsFileReport report;
+        if (!ReadSettingsFile(doc, path, &report)) return std::nullopt;
+        return report;
+      },
       [](Document& doc, const std::string& path) { return WriteSettingsFileTo(doc, path); }};
 }
 
@@ -54,6 +58,7 @@ bool DocumentCommands::OfferToSave() {
 void DocumentCommands::New() {
   if (!OfferToSave()) return;
   doc_.file_name.clear();
+  file_is_foreign_ = false;
   doc_.modified = false;
   SetDefaults(doc_, doc_.product());
   open_settings_sheet_();
@@ -62,6 +67,7 @@ void DocumentCommands::New() {
 bool DocumentCommands::Open() {
   if (!OfferToSave()) return false;
   doc_.file_name.clear();
+  file_is_foreign_ = false;
   doc_.modified = false;
   if (!OpenSettingsFile()) return false;
   open_settings_sheet_();
@@ -83,6 +89,7 @@ bool DocumentCommands::SaveAs() {
 bool DocumentCommands::ChangeProduct(int index) {
   if (index == doc_.product() || index < 0 || index > kProductCount) return false;
   doc_.file_name.clear();
+  file_is_foreign_ = false;
   doc_.modified = false;
   SetDefaults(doc_, index);
   return true;
@@ -93,17 +100,41 @@ bool DocumentCommands::QueryClose() { return OfferToSave(); }
 bool DocumentCommands::OpenSettingsFile() {
   std::optional<std::string> path = chooser_.ChooseFileToOpen(SettingsFilter(), doc_.file_name);
   if (!path || path->empty()) return false;
-  if (!io_.read(doc_, *path)) {
+  const std::optional<SettingsFileReport> report = io_.read(doc_, *path);
+  if (!report) {
     prompt_.ShowMessage(kErrorCaption, "Could not open the settings file \"" + *path + "\".",
                         PromptIcon::kExclamation);
     return false;
   }
   doc_.file_name = *path;
+  file_is_foreign_ = !IsWholeAcceptedFile(*report);
+  if (const auto findings = OpenFindings(*report); !findings.empty()) {
+    std::string text = "\"" + *path + "\" was not opened as it stands:";
+    for (const std::string& finding : findings) text += "\n- " + finding;
+    if (file_is_foreign_) text += "\n\nSave asks before it replaces this file.";
+    prompt_.ShowMessage(Title(), text, PromptIcon::kExclamation);
+  }
   return true;
+}
+
+bool DocumentCommands::ConfirmReplacingForeignFile() {
+  const std::string question = "\"" + doc_.file_name +
+                               "\" was not a whole settings file when it was opened.\n"
+                               "Replace it with these settings?";
+  switch (prompt_.AskYesNoCancel(Title(), question)) {
+    case PromptAnswer::kYes:
+      return WriteSettingsFile();
+    case PromptAnswer::kNo:
+      return SaveSettingsFileAs();
+    case PromptAnswer::kCancel:
+      return false;
+  }
+  return false;
 }
 
 bool DocumentCommands::SaveSettingsFile() {
   if (doc_.file_name.empty()) return SaveSettingsFileAs();
+  if (file_is_foreign_) return ConfirmReplacingForeignFile();
   return WriteSettingsFile();
 }
 
@@ -116,7 +147,10 @@ bool DocumentCommands::SaveSettingsFileAs() {
 
 bool DocumentCommands::WriteSettingsFile() {
   if (doc_.file_name.empty()) return false;
-  if (io_.write(doc_, doc_.file_name)) return true;
+  if (io_.write(doc_, doc_.file_name)) {
+    file_is_foreign_ = false;
+    return true;
+  }
   prompt_.ShowMessage(kErrorCaption, "Could not save the settings file \"" + doc_.file_name + "\".",
                       PromptIcon::kExclamation);
   return false;

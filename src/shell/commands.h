@@ -2,10 +2,12 @@
 #define VELTRIX_SHELL_COMMANDS_H_
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "settings/document.h"
+#include "settings/settings_file.h"
 #include "shell/ports.h"
 
 namespace veltrix {
@@ -19,7 +21,8 @@ inline constexpr std::string_view kErrorCaption = "Error";
 
 // Reading and writing a settings file at a path; the real functions by default, fakes in tests.
 struct SettingsFileIo {
-  std::function<bool(Document&, const std::string&)> read;
+  // Nothing when the file cannot be opened; else what Open's rules found.
+  std::function<std::optional<SettingsFileReport>(Document&, const std::string&)> read;
   std::function<bool(Document&, const std::string&)> write;
 
   static SettingsFileIo Real();
@@ -57,6 +60,10 @@ class DocumentCommands {
   bool WriteSettingsFile();
 
  private:
+  // Asks before Save replaces a file that was not a whole, accepted settings file when it was
+  // opened: Yes replaces it, No saves under another name. False when nothing is to be written.
+  bool ConfirmReplacingForeignFile();
+
   // While modified, asks "Save the program ?"; Yes saves. False on Cancel and when the save
   // fails or its file dialog is cancelled, so unsaved changes are never dropped.
   bool OfferToSave();
@@ -66,6 +73,8 @@ class DocumentCommands {
   FileChooser& chooser_;
   std::function<void()> open_settings_sheet_;
   SettingsFileIo io_;
+  // The open file was not a whole, accepted settings file: Save asks before replacing it.
+  bool file_is_foreign_ = false;
 };
 
 }  // namespace veltrix

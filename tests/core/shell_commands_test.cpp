@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "shell/command_table.h"
@@ -16,23 +17,28 @@ constexpr std::size_t kSomeByte = 200;
 // A file system in memory: path -> the record byte kSomeByte it holds.
 struct FakeFiles {
   std::map<std::string, std::uint8_t> files;
+  std::map<std::string, SettingsFileReport> reports;  // default: a whole, accepted file
   bool fail_writes = false;
   int writes = 0;
 
   SettingsFileIo Io() {
-    return SettingsFileIo{[this](Document& doc, const std::string& path) {
-                            auto it = files.find(path);
-                            if (it == files.end()) return false;
-                            doc.record[kProductOffset] = 2;
-                            doc.record[kSomeByte] = it->second;
-                            return true;
-                          },
-                          [this](Document& doc, const std::string& path) {
-                            ++writes;
-                            if (fail_writes) return false;
-                            files[path] = doc.record[kSomeByte];
-                            return true;
-                          }};
+    return SettingsFileIo{
+        [this](Document& doc, const std::string& path) -> std::optional<SettingsFileReport> {
+          auto it = files.find(path);
+          if (it == files.end()) return std::nullopt;
+          doc.record[kProductOffset] = 2;
+          doc.record[kSomeByte] = it->second;
+          if (reports.count(path) != 0) return reports[path];
+          SettingsFileReport whole;
+          whole.file_size = whole.bytes_read = kSettingsFileSize;
+          return whole;
+        },
+        [this](Document& doc, const std::string& path) {
+          ++writes;
+          if (fail_writes) return false;
+          files[path] = doc.record[kSomeByte];
+          return true;
+        }};
   }
 };
 
@@ -206,6 +212,42 @@ TEST_F(DocumentCommandsTest, OpenWorksWithoutAProductAndReadsTheFile) {
   EXPECT_EQ(sheets_, 1);
   EXPECT_EQ(chooser_.last_filter.description, "Settings (*.QVL)");
   EXPECT_EQ(chooser_.last_filter.pattern, "*.QVL");
+}
+
+// A file that is not a whole settings file is read by Open's rules, the user is told, and Save
+// asks before replacing it: No saves under another name, Yes replaces it, and from then on it is
+// a settings file like any other.
+TEST_F(DocumentCommandsTest, AForeignFileIsReportedAndNotReplacedWithoutAQuestion) {
+  files_.files["notes.QVL"] = 1;
+  files_.reports["notes.QVL"] = SettingsFileReport{20, 20, true, false};
+  chooser_.open_result = "notes.QVL";
+  ASSERT_TRUE(commands_.Open());
+  ASSERT_EQ(prompt_.shown.size(), 1u);
+  EXPECT_EQ(prompt_.shown[0].text,
+            "\"notes.QVL\" was not opened as it stands:\n"
+            "- it is 20 bytes, not 580984; read as far as it goes\n"
+            "- it has no accepted format tag, version or product; read as the defaults of "
+            "product 1\n\nSave asks before it replaces this file.");
+
+  prompt_.answers = {PromptAnswer::kCancel, PromptAnswer::kNo, PromptAnswer::kYes};
+  EXPECT_FALSE(commands_.Save());
+  EXPECT_EQ(files_.writes, 0);
+  chooser_.save_result = "other.QVL";
+  EXPECT_TRUE(commands_.Save());
+  EXPECT_EQ(files_.files.count("other.QVL"), 1u);
+  EXPECT_EQ(files_.files["notes.QVL"], 1);  // untouched
+  EXPECT_EQ(prompt_.shown.back().text,
+            "\"notes.QVL\" was not a whole settings file when it was opened.\n"
+            "Replace it with these settings?");
+
+  chooser_.open_result = "notes.QVL";
+  ASSERT_TRUE(commands_.Open());
+  doc_->record[kSomeByte] = 7;
+  EXPECT_TRUE(commands_.Save());  // Yes
+  EXPECT_EQ(files_.files["notes.QVL"], 7);
+  const std::size_t asked = prompt_.shown.size();
+  EXPECT_TRUE(commands_.Save());
+  EXPECT_EQ(prompt_.shown.size(), asked);
 }
 
 TEST_F(DocumentCommandsTest, CancelledOpenKeepsContentsButForgetsNameAndFlag) {
