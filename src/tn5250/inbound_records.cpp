@@ -56,29 +56,29 @@ int InboundRecords::CollectFieldData(std::vector<std::uint8_t>& out,
       out.push_back(static_cast<std::uint8_t>(f.row + 1));
       out.push_back(static_cast<std::uint8_t>(f.column + 1));
     }
-    // Cells are walked from the first one; a field reaching past the screen ends there.
+    // Cells are walked from the first one through the last, on into the plane's rows below the
+    // screen when the field reaches past it; the plane's end stops a field.
     const CellAddress first{f.row, f.column};
     int count = std::max(f.DataLength(), 1);
-    const int screen_left = ps.Rows() * ps.Columns() - ps.Linear(first);
-    count = std::max(0, std::min(count, screen_left));
+    const int plane_left = kPlaneRows * ps.Columns() - ps.Linear(first);
+    count = std::max(0, std::min(count, plane_left));
     if (options.trim) {
       while (count > 1) {
         const int i = ps.Linear(first) + count - 1;
-        const std::uint8_t c = ps.Character(i / ps.Columns(), i % ps.Columns());
+        const std::uint8_t c = ps.PlaneCharacter(i / ps.Columns(), i % ps.Columns());
         if (c != 0 && c != kBlank) break;
         --count;
       }
     }
     for (int k = 0; k < count; ++k) {
       const int i = ps.Linear(first) + k;
-      std::uint8_t c = ps.Character(i / ps.Columns(), i % ps.Columns());
+      std::uint8_t c = ps.PlaneCharacter(i / ps.Columns(), i % ps.Columns());
       if (options.nul_as_blank && c == 0) c = kBlank;
       out.push_back(DisplayToHost(host_.emulation_type, c));
     }
     if (options.sign && f.IsSignedNumeric() && count > 0 && f.length >= 1) {
       const int sign = ps.Linear(first) + f.length - 1;
-      if (sign < ps.Rows() * ps.Columns() &&
-          ps.Character(sign / ps.Columns(), sign % ps.Columns()) == kMinus) {
+      if (ps.PlaneCharacter(sign / ps.Columns(), sign % ps.Columns()) == kMinus) {
         out.back() = static_cast<std::uint8_t>((out.back() & 0x0F) | 0xD0);
       }
     }

@@ -111,7 +111,7 @@ bool Keyboard::Accepts(const FieldRecord& field, std::uint8_t c) const {
     case kShiftDigits:
       return IsDigit(c);
     case kShiftSignedNumeric:
-      return IsDigit(c) && FieldIndex(field) < field.length - 1;
+      return IsDigit(c) && FieldIndex(field) != field.length - 1;  // never the sign cell
     default:
       return true;
   }

@@ -51,6 +51,12 @@ class PresentationSpace {
   }
 
   std::uint8_t Character(int row, int column) const;
+  // A character of the plane, which goes on below the screen to row kPlaneRows - 1 (a field
+  // reaching past the screen's last row has its cells there); 0 beyond the plane.
+  std::uint8_t PlaneCharacter(int row, int column) const {
+    const bool in_plane = row >= 0 && row < kPlaneRows && column >= 0 && column < columns_;
+    return in_plane ? characters_[Index(row, column)] : 0;
+  }
   std::uint8_t Attribute(int row, int column) const;
   std::span<const std::uint8_t, kPlaneSize> CharacterPlane() const { return characters_; }
   std::span<const std::uint8_t, kPlaneSize> AttributePlane() const { return attributes_; }
