@@ -7,6 +7,8 @@ packages=(
   qt6-base-dev qt6-serialport-dev libxkbcommon-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   fontconfig fonts-dejavu-core fonts-wqy-microhei
+  # Faces that used to take over the fixed-pitch texts: the tests run with them installed.
+  fonts-noto-mono fonts-urw-base35 fonts-droid-fallback
   xvfb xauth socat
   clang-14 libclang-rt-14-dev clang-format-14
 )

@@ -10,6 +10,7 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
+#include "resources/fixed_font_qt.h"
 #include "shell/about_text.h"
 #include "shell/tool_icons_qt.h"
 
@@ -22,8 +23,7 @@ QString Text(std::string_view text) {
 
 // The licence text's fixed-pitch font, about 16 pixels per line and 8 per character.
 QFont LicenceFont() {
-  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font.setStyleHint(QFont::TypeWriter);
+  QFont font = FixedPitchFont();
   font.setPixelSize(13);
   return font;
 }

@@ -6,6 +6,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "resources/fixed_font_qt.h"
 #include "tn5250/host_keys_qt.h"
 #include "tn5250/host_screen_text.h"
 
@@ -133,9 +134,7 @@ void HostScreenWidget::resizeEvent(QResizeEvent* event) {
 void HostScreenWidget::UpdateFont() {
   // A fixed-pitch face with wide coverage; characters it lacks (ideographs, Hangul, kana) come
   // from the system's fallback fonts.
-  font_ = QFont(QStringLiteral("DejaVu Sans Mono"));
-  font_.setStyleHint(QFont::TypeWriter);
-  font_.setFixedPitch(true);
+  font_ = FixedPitchFont();
   font_.setPixelSize(std::max(metrics_.character_height - 2, 8));
   QFontMetrics fm(font_);
   int advance = fm.horizontalAdvance(QLatin1Char('M'));

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -48,6 +49,7 @@ class SystemPageTest : public QObject {
     QCOMPARE(screens->currentIndex(), 0);
     QCOMPARE(screens->itemText(0), QString("Main Menu (15*2)").leftJustified(30));
     QCOMPARE(Edit("prompt_edit_1")->text(), QString("1. Telnet").leftJustified(15));
+    QVERIFY(QFontInfo(Edit("prompt_edit_1")->font()).fixedPitch());
   }
 
   // The correction rules themselves are tested in the core; here, typed key by key: a corrected

@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 
+#include "resources/fixed_font_qt.h"
 #include "settings/rewriting_edit_qt.h"
 
 namespace veltrix {
@@ -121,7 +122,7 @@ QWidget* SystemPage::BuildRightSide() {
   screens_ = new QComboBox;
   screens_->setObjectName("prompt_screens");
   // The terminal's texts are fixed-pitch: show them so, so that their widths can be judged.
-  const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  const QFont fixed = FixedPitchFont();
   screens_->setFont(fixed);
   auto* screens_label = new QLabel(tr("Change Prompts and Messages :"));
   grid->addWidget(screens_label, 0, 0, 1, 2);
