@@ -2,8 +2,13 @@
 
 #include <QDialogButtonBox>
 #include <QFontMetrics>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <array>
 
 #include "shell/tool_icons_qt.h"
 
@@ -33,13 +38,18 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
   setModal(true);
 
   tabs_ = new QTabWidget(this);
-  const QSize page_size = PageSize(fontMetrics());
+  std::array<QScrollArea*, kSheetPageCount> areas{};
   for (int i = 0; i < kSheetPageCount; ++i) {
+    // A page larger than the sheet scrolls inside it: the sheet has one size, whatever a page
+    // holds, and fits the screen.
+    areas[i] = new QScrollArea;
+    areas[i]->setFrameShape(QFrame::NoFrame);
+    areas[i]->setWidgetResizable(true);
     auto* holder = new QWidget;
-    holder->setMinimumSize(page_size);
     holders_[i] = new QVBoxLayout(holder);
     holders_[i]->setContentsMargins(0, 0, 0, 0);
-    tabs_->addTab(holder, Text(kSheetPages[i].caption));
+    areas[i]->setWidget(holder);
+    tabs_->addTab(areas[i], Text(kSheetPages[i].caption));
   }
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -52,6 +62,21 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
 
   tabs_->setCurrentIndex(0);
   lifecycle_.Open();
+
+  // The pages' size: 420 x 250 dialog units, or what the first page needs when the font makes
+  // that more, cut to what the screen leaves around the sheet's tabs, buttons and frame.
+  QSize page_size = PageSize(fontMetrics());
+  if (pages_[0] != nullptr) page_size = page_size.expandedTo(pages_[0]->minimumSizeHint());
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    const QSize chrome = layout->sizeHint() - tabs_->currentWidget()->sizeHint() + QSize(16, 48);
+    const QSize room = screen->availableGeometry().size() - chrome;
+    // A page cut in height scrolls down: leave room beside it for the scroll bar.
+    if (page_size.height() > room.height()) {
+      page_size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    }
+    page_size = page_size.boundedTo(room).expandedTo(QSize(200, 120));
+  }
+  for (QScrollArea* area : areas) area->setFixedSize(page_size);
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { lifecycle_.Show(index); });
 }
 

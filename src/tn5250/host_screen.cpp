@@ -13,6 +13,17 @@ CellMetrics ComputeCellMetrics(int client_width, int client_height, int rows, in
   return m;
 }
 
+CellMetrics FitCellMetrics(int client_width, int client_height, int rows, int columns) {
+  CellMetrics m = ComputeCellMetrics(client_width, client_height, rows, columns);
+  if (columns > 0 && m.cell_width * columns > client_width) {
+    m.cell_width = std::max(client_width / columns, kSmallestCellWidth);
+  }
+  if (rows > 0 && m.row_height() * rows > client_height) {
+    m.character_height = std::max(client_height / rows - 2, kSmallestCharacterHeight);
+  }
+  return m;
+}
+
 PixelRect CellRect(const CellMetrics& metrics, int row, int column) {
   return PixelRect{metrics.cell_width * column, metrics.row_height() * row, metrics.cell_width,
                    metrics.row_height()};

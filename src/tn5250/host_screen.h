@@ -19,6 +19,15 @@ struct CellMetrics {
 // (at least 16). The height leaves room for one row more than the screen has.
 CellMetrics ComputeCellMetrics(int client_width, int client_height, int rows, int columns);
 
+// The smallest cell the window still draws when the screen would not fit otherwise.
+inline constexpr int kSmallestCellWidth = 4;
+inline constexpr int kSmallestCharacterHeight = 6;
+
+// ComputeCellMetrics, but every row and column stays inside the client area: where the minimum
+// cell (8 x 16) would push the last rows or columns out, the cell shrinks to fit, down to
+// kSmallestCellWidth x kSmallestCharacterHeight.
+CellMetrics FitCellMetrics(int client_width, int client_height, int rows, int columns);
+
 struct PixelRect {
   int x = 0;
   int y = 0;

@@ -19,7 +19,7 @@ HostScreenWidget::HostScreenWidget(QWidget* parent) : QFrame(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_InputMethodEnabled, false);
   setAutoFillBackground(false);
-  metrics_ = ComputeCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
+  metrics_ = FitCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
   UpdateFont();
 }
 
@@ -31,7 +31,7 @@ void HostScreenWidget::SetConnection(HostConnection* connection) {
   if (connection_) connection_->SetView(nullptr);
   connection_ = connection;
   if (connection_) connection_->SetView(this);
-  metrics_ = ComputeCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
+  metrics_ = FitCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
   UpdateFont();
   update();
 }
@@ -126,9 +126,14 @@ void HostScreenWidget::focusOutEvent(QFocusEvent* event) {
 
 void HostScreenWidget::resizeEvent(QResizeEvent* event) {
   QFrame::resizeEvent(event);
-  metrics_ = ComputeCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
+  metrics_ = FitCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
   UpdateFont();
   update();
+}
+
+QSize HostScreenWidget::minimumSizeHint() const {
+  const int frame = 2 * frameWidth();
+  return {Columns() * kSmallestCellWidth + frame, Rows() * (kSmallestCharacterHeight + 2) + frame};
 }
 
 void HostScreenWidget::UpdateFont() {

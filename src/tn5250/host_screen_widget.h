@@ -41,6 +41,8 @@ class HostScreenWidget : public QFrame, public SessionListener {
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  // Room for every row and column at the smallest cell: the window never hides row 24.
+  QSize minimumSizeHint() const override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

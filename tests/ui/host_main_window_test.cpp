@@ -69,6 +69,10 @@ void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
   QVERIFY(Enabled(kCmdStartCapture));
   QVERIFY(!Enabled(kCmdCapture));
   QTRY_VERIFY(parts_.screen->RowText(0).contains(QStringLiteral("Sign On")));
+  // In a small window every row still shows, the error line and the key legend included.
+  window_->resize(800, 500);
+  QTRY_VERIFY(parts_.screen->contentsRect().contains(parts_.screen->CellRectangle(23, 79)));
+  QVERIFY(window_->height() <= 500);
 
   window_->ExecuteCommand(kCmdDisconnect);
   QVERIFY(!parts_.connection->connected());

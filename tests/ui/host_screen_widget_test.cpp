@@ -120,7 +120,10 @@ void HostScreenWidgetTest::cellSizeFollowsTheWindow_data() {
   QTest::addColumn<int>("cell_width");
   QTest::addColumn<int>("row_height");
   QTest::newRow("640 x 480") << QSize(640, 480) << 8 << 19;
-  QTest::newRow("too low") << QSize(640, 200) << 8 << 18;
+  // Where the minimum cell would hide the last rows, the cell shrinks so that row 24 shows.
+  QTest::newRow("too low") << QSize(640, 200) << 8 << 8;
+  QTest::newRow("800 x 500 window") << QSize(780, 410) << 9 << 17;
+  QTest::newRow("narrow") << QSize(400, 480) << 5 << 19;
   QTest::newRow("large") << QSize(1280, 1024) << 16 << 41;
 }
 
@@ -136,6 +139,7 @@ void HostScreenWidgetTest::cellSizeFollowsTheWindow() {
   QCOMPARE(screen_->metrics().row_height(), row_height);
   QCOMPARE(screen_->CellRectangle(2, 3),
            QRect(3 * cell_width + edge, 2 * row_height + edge, cell_width, row_height));
+  QVERIFY(screen_->contentsRect().contains(screen_->CellRectangle(23, 79)));
 }
 
 void HostScreenWidgetTest::drawsRunsByTheirLowAttributeBits() {

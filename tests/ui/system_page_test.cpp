@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QtTest>
 #include <memory>
 
@@ -214,6 +215,24 @@ class SystemPageTest : public QObject {
     }
     QCOMPARE(doc_->record[29], std::uint8_t{9});
     QVERIFY(doc_->modified);
+  }
+
+  // The sheet has one size whatever the document holds, and fits the screen (also at 150%).
+  void sheetHasOneSizeAndFitsTheScreen() {
+    SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+    sheet.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&sheet));
+    const QSize fresh = sheet.size();
+    QVERIFY(sheet.frameGeometry().height() <= sheet.screen()->availableGeometry().height());
+    QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("settings_sheet.png")));
+    // An applied file: every text 40 characters long.
+    sheet.page(0)->findChild<QComboBox*>("prompt_screens")->setCurrentIndex(3);
+    static_cast<SystemPage*>(sheet.page(0))->Apply(*doc_);
+    SettingsSheetDialog applied(*doc_, SettingsPageRegistry::Installed());
+    applied.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&applied));
+    QCOMPARE(applied.size(), fresh);
+    QVERIFY(applied.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("settings_sheet_applied.png")));
   }
 
   // Renders the page for a look at its layout (kept in the build folder).

@@ -85,6 +85,7 @@ QWidget* SystemPage::BuildSecurityGroup() {
   auto* row = new QHBoxLayout;
   password_ = new QLineEdit;
   password_->setObjectName("password");
+  password_->setMinimumWidth(password_->fontMetrics().horizontalAdvance(QString(12, '0')));
   auto* label = new QLabel(tr("Password (1 ~ 9 digits) :"));
   label->setBuddy(password_);
   row->addWidget(label);
@@ -124,6 +125,9 @@ QWidget* SystemPage::BuildRightSide() {
   // The terminal's texts are fixed-pitch: show them so, so that their widths can be judged.
   const QFont fixed = FixedPitchFont();
   screens_->setFont(fixed);
+  // Sized by the longest name ("Emulation Settings (20*8)" padded to 30), not by the product's.
+  screens_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  screens_->setMinimumContentsLength(30);
   auto* screens_label = new QLabel(tr("Change Prompts and Messages :"));
   grid->addWidget(screens_label, 0, 0, 1, 2);
   grid->addWidget(screens_, 1, 0, 1, 2);
@@ -134,7 +138,10 @@ QWidget* SystemPage::BuildRightSide() {
     row_edits_[k] = new QLineEdit;
     row_edits_[k]->setObjectName(QStringLiteral("prompt_edit_%1").arg(k + 1));
     row_edits_[k]->setFont(fixed);
-    row_edits_[k]->setMinimumWidth(QFontMetrics(fixed).horizontalAdvance(QString(21, ' ')));
+    // Labels and edits keep their width on every screen: the column never moves.
+    const int line_width = QFontMetrics(fixed).horizontalAdvance(QString(21, ' '));
+    row_labels_[k]->setFixedWidth(line_width);
+    row_edits_[k]->setFixedWidth(line_width + 12);
     // With a buddy the label shows "&&" as one "&", as the terminal's labels expect.
     row_labels_[k]->setBuddy(row_edits_[k]);
     grid->addWidget(row_labels_[k], 2 + k, 0);
