@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QVBoxLayout>
@@ -32,6 +33,7 @@ HostIpDialog::HostIpDialog(HostIpForm& form, const std::string& active_entry, QW
     edit->setAlignment(Qt::AlignRight);
     connect(edit, &QLineEdit::textChanged, this,
             [this, i](const QString& text) { form_.EditChanged(i, text.toStdString()); });
+    edit->installEventFilter(this);
     row->addWidget(edit);
     edits_[i] = edit;
   }
@@ -55,9 +57,28 @@ void HostIpDialog::accept() {
   if (!form_.Confirm(texts, save_log_->isChecked())) {
     report_error_(this, QString::fromUtf8(kInvalidIpAddressMessage.data(),
                                           static_cast<int>(kInvalidIpAddressMessage.size())));
+    // The box that is wrong takes the focus, its text selected for typing over.
+    int wrong = 0;
+    while (wrong < 3 && ParseOctet(texts[wrong])) ++wrong;
+    edits_[wrong]->setFocus();
+    edits_[wrong]->selectAll();
     return;
   }
   QDialog::accept();
+}
+
+bool HostIpDialog::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->text() == ".") {
+    for (int i = 0; i < 3; ++i) {
+      if (watched != edits_[i]) continue;
+      // "127.0.0.1" typed into the first box fills all four.
+      edits_[i + 1]->setFocus();
+      edits_[i + 1]->selectAll();
+      return true;
+    }
+    return true;  // the last box: a dot has no place in an octet
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 }  // namespace veltrix

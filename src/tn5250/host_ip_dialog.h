@@ -29,6 +29,10 @@ class HostIpDialog : public QDialog {
 
   void accept() override;
 
+ protected:
+  // "." typed in an octet box moves on to the next box, as in every address field.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   HostIpForm& form_;
   ErrorReporter report_error_;

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QApplication>
 #include <QtTest>
 
 namespace veltrix {
@@ -31,14 +32,20 @@ void HostIpDialogTest::opensFromTheActiveEntryUnchecked() {
   QCOMPARE(dialog.save_log_box()->text(), QStringLiteral("Save Log"));
 }
 
+// Typed key by key into the first box, as into any address field: "." moves on to the next box.
 void HostIpDialogTest::editsUpdateTheOctetsAsTyped() {
   HostIpForm form;
   HostIpDialog dialog(form, "10.0.0.1");
-  dialog.octet_edit(3)->clear();
-  QTest::keyClicks(dialog.octet_edit(3), "42");
-  QCOMPARE(form.octets()[3], 42u);
+  dialog.show();
+  dialog.activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&dialog));
+  for (const QChar c : QStringLiteral("192.168.7.42")) {
+    QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
+  }
+  QCOMPARE(form.octets(), (HostOctets{192, 168, 7, 42}));
+  QCOMPARE(dialog.octet_edit(3)->text(), QStringLiteral("42"));
   dialog.octet_edit(2)->setText("999");
-  QCOMPARE(form.octets()[2], 0u);
+  QCOMPARE(form.octets()[2], 7u);  // not a number in 0..255: the octet keeps its value
 }
 
 // Which octets are bad is the form's rule (tested in the core); the dialog shows the message.
@@ -48,10 +55,14 @@ void HostIpDialogTest::badOctetShowsTheMessageAndStaysOpen() {
   HostIpDialog dialog(form, "127.0.0.1", nullptr,
                       [&shown](QWidget*, const QString& message) { shown << message; });
   dialog.show();
-  dialog.octet_edit(0)->setText("256");
+  dialog.activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&dialog));
+  dialog.octet_edit(2)->setText("256");
   dialog.accept();
   QCOMPARE(shown, QStringList{QStringLiteral("Invalid IP Address!")});
   QVERIFY(dialog.isVisible());
+  QTRY_VERIFY(dialog.octet_edit(2)->hasFocus());  // the box that is wrong
+  QCOMPARE(dialog.octet_edit(2)->selectedText(), QStringLiteral("256"));
   QCOMPARE(dialog.result(), 0);
 }
 
