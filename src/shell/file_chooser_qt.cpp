@@ -1,6 +1,8 @@
 #include "shell/file_chooser_qt.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QScreen>
 
 namespace veltrix {
 namespace {
@@ -17,29 +19,36 @@ QString NameFilter(const FileFilter& filter) {
   return description;
 }
 
-std::optional<std::string> Chosen(QFileDialog& dialog) {
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return dialog.selectedFiles().front().toStdString();
-}
-
 }  // namespace
+
+std::optional<std::string> QtFileChooser::Run(QFileDialog& dialog) {
+  QSize size(900, 560);
+  if (const QScreen* screen = dialog.screen()) {
+    size = size.boundedTo(screen->availableGeometry().size() * 9 / 10);
+  }
+  dialog.resize(size);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  const QString chosen = dialog.selectedFiles().front();
+  last_folder_ = QFileInfo(chosen).absolutePath();
+  return chosen.toStdString();
+}
 
 std::optional<std::string> QtFileChooser::ChooseFileToOpen(const FileFilter& filter,
                                                            std::string_view initial) {
-  QFileDialog dialog(parent_, QString(), QString(), NameFilter(filter));
+  QFileDialog dialog(parent_, QString(), last_folder_, NameFilter(filter));
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (!initial.empty()) dialog.selectFile(Text(initial));
-  return Chosen(dialog);
+  return Run(dialog);
 }
 
 std::optional<std::string> QtFileChooser::ChooseFileToSave(const FileFilter& filter,
                                                            std::string_view default_extension) {
-  QFileDialog dialog(parent_, QString(), QString(), NameFilter(filter));
+  QFileDialog dialog(parent_, QString(), last_folder_, NameFilter(filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(Text(default_extension));
-  return Chosen(dialog);
+  return Run(dialog);
 }
 
 }  // namespace veltrix

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -51,7 +52,7 @@ MainWindow::MainWindow(Ports ports, const SettingsPageRegistry& pages, QWidget* 
                                                  [this] { OpenSettingsSheet(); });
   session_ = std::make_unique<SessionCommands>(*prompt_);
 
-  setWindowTitle(Text(StringResource(kWindowTitleId)));
+  UpdateTitle();
   setWindowIcon(ProgramIcon());
   setObjectName(Text(StringResource(kApplicationNameId)));
   CreateActions();
@@ -237,6 +238,7 @@ void MainWindow::SelectProductInBox() { product_box_->setCurrentIndex(doc_->prod
 void MainWindow::OnProductChosen(int index) {
   if (commands_->ChangeProduct(index)) RebuildSummary();
   SelectProductInBox();
+  UpdateTitle();
 }
 
 void MainWindow::ExecuteCommand(int command_id) {
@@ -278,6 +280,14 @@ void MainWindow::ExecuteCommand(int command_id) {
       RunSessionCommand(command_id);
       break;
   }
+  if (!destroying_) UpdateTitle();
+}
+
+void MainWindow::UpdateTitle() {
+  const QString program = Text(StringResource(kWindowTitleId));
+  const QString file = QFileInfo(QString::fromStdString(doc_->file_name)).fileName();
+  setWindowTitle(file.isEmpty() ? program + "[*]" : file + "[*] - " + program);
+  setWindowModified(doc_->modified);
 }
 
 void MainWindow::ShowCommandStatus(const QString& text) {

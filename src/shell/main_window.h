@@ -85,6 +85,8 @@ class MainWindow : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // The title names the open file and marks unsaved changes ("terminal.QVL* - Veltrix - TN5250").
+  void UpdateTitle();
   // Shows a command's text in the status bar and keeps it for when a status tip ends.
   void ShowCommandStatus(const QString& text);
   void CreateActions();

@@ -1,8 +1,8 @@
 #include "tn5250/host_ip_dialog.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QApplication>
 #include <QtTest>
 
 namespace veltrix {

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -16,6 +17,7 @@
 
 #include "settings/settings_page.h"
 #include "shell/command_table.h"
+#include "shell/file_chooser_qt.h"
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 #include "shell/summary_view.h"
@@ -78,7 +80,8 @@ class MainWindowTest : public QObject {
   }
 
   void startUpState() {
-    QCOMPARE(window_->windowTitle(), QString("Veltrix - TN5250"));
+    QCOMPARE(window_->windowTitle(), QString("Veltrix - TN5250[*]"));
+    QVERIFY(!window_->isWindowModified());
     QCOMPARE(window_->product_box()->currentText(), QString("Select Product"));
     QCOMPARE(window_->product_box()->count(), 3);
     QCOMPARE(window_->summary_view()->topLevelItemCount(), 0);
@@ -167,6 +170,7 @@ class MainWindowTest : public QObject {
     OnNextSheet(true);
     window_->ExecuteCommand(kCmdConfigure);
     QVERIFY(window_->document().modified);
+    QVERIFY(window_->isWindowModified());  // the title marks unsaved changes
 
     window_->show();
     prompt_->answers = {PromptAnswer::kCancel};
@@ -186,6 +190,8 @@ class MainWindowTest : public QObject {
     chooser_->save_result = path.toStdString();
     window_->ExecuteCommand(kCmdSaveAs);
     QVERIFY(QFile::exists(path));
+    QCOMPARE(window_->windowTitle(), QString("terminal.QVL[*] - Veltrix - TN5250"));
+    QVERIFY(!window_->isWindowModified());
     QVERIFY(!window_->document().modified);
     QCOMPARE(QString::fromStdString(window_->document().file_name), path);
 
@@ -216,6 +222,31 @@ class MainWindowTest : public QObject {
     QCOMPARE(prompt_->shown.size(), size_t(2));
     QVERIFY(QString::fromStdString(prompt_->shown[1].text).contains("Replace it"));
     QCOMPARE(QFileInfo(path).size(), 20);
+  }
+
+  // The real file dialogs: each starts in the folder a file was last chosen in, and is large
+  // enough to read its columns.
+  void fileDialogsStartInTheLastFolder() {
+    QTemporaryDir folder;
+    QtFileChooser chooser(window_.get());
+    QString seen_folder;
+    QSize seen_size;
+    auto answer = [&](const QString& file) {
+      QTimer::singleShot(0, [&, file] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        seen_folder = dialog->directory().absolutePath();
+        seen_size = dialog->size();
+        dialog->selectFile(file);
+        QMetaObject::invokeMethod(dialog, "accept");
+      });
+    };
+    answer(QDir(folder.path()).filePath("a.QVL"));
+    QVERIFY(chooser.ChooseFileToSave({"Settings (*.QVL)", "*.QVL"}, "QVL"));
+    QVERIFY(seen_size.width() >= 640);
+    answer(QDir(folder.path()).filePath("b.QVL"));
+    QVERIFY(chooser.ChooseFileToSave({"Settings (*.QVL)", "*.QVL"}, "QVL"));
+    QCOMPARE(seen_folder, QDir(folder.path()).absolutePath());
   }
 
   void connectShowsTheHostScreenAndDisconnectTheTree() {
