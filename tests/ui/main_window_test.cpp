@@ -2,11 +2,13 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -118,6 +120,30 @@ class MainWindowTest : public QObject {
     QVERIFY(!item->child(1)->isExpanded());
     view.ShowSummary({});
     QCOMPARE(view.topLevelItemCount(), 0);
+  }
+
+  // Open branches stay open when the tree is rebuilt; Copy gives the branch as indented lines.
+  void treeKeepsOpenBranchesAndCopies() {
+    window_->product_box()->setCurrentIndex(1);
+    emit window_->product_box()->activated(1);
+    SummaryView* tree = window_->summary_view();
+    QTreeWidgetItem* system = tree->topLevelItem(1);
+    int branch = 0;
+    while (system->child(branch)->childCount() == 0) ++branch;  // Security
+    QVERIFY(system->child(branch)->text(0).startsWith("Security"));
+    tree->expandItem(system);
+    tree->expandItem(system->child(branch));
+    OnNextSheet(true);
+    window_->ExecuteCommand(kCmdConfigure);  // OK rebuilds the tree
+    QVERIFY(tree->topLevelItem(1)->isExpanded());
+    QVERIFY(tree->topLevelItem(1)->child(branch)->isExpanded());
+    QVERIFY(!tree->topLevelItem(0)->isExpanded());
+    tree->setCurrentItem(tree->topLevelItem(1)->child(branch));
+    tree->CopySelectedBranch();
+    const QString copied = QGuiApplication::clipboard()->text();
+    QVERIFY2(copied.startsWith(tree->topLevelItem(1)->child(branch)->text(0) + "\n  "),
+             qPrintable(copied));
+    QCOMPARE(copied.count('\n'), 1 + tree->topLevelItem(1)->child(branch)->childCount());
   }
 
   void productChoiceFillsTheTree() {
