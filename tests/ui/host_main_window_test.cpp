@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QDir>
 #include <QtTest>
 #include <memory>
 
@@ -73,6 +74,8 @@ void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
   window_->resize(800, 500);
   QTRY_VERIFY(parts_.screen->contentsRect().contains(parts_.screen->CellRectangle(23, 79)));
   QVERIFY(window_->height() <= 500);
+  // For a look at it (kept in the build folder).
+  QVERIFY(window_->grab().save(QDir(VELTRIX_BINARY_DIR).filePath("host_window_800x500.png")));
 
   window_->ExecuteCommand(kCmdDisconnect);
   QVERIFY(!parts_.connection->connected());
