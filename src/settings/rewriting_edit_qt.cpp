@@ -18,7 +18,7 @@ void BindRewritingEdit(QLineEdit* edit, RewritingRule rule, std::function<bool()
                    });
 }
 
-QString FromRecordText(const std::string& text) {
+QString FromRecordText(std::string_view text) {
   return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 

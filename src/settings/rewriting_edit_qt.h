@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace veltrix {
 
@@ -20,7 +21,7 @@ using RewritingRule = std::function<std::optional<std::string>(const std::string
 void BindRewritingEdit(QLineEdit* edit, RewritingRule rule, std::function<bool()> active);
 
 // The record's single-byte texts: one character per byte.
-QString FromRecordText(const std::string& text);
+QString FromRecordText(std::string_view text);
 std::string ToRecordText(const QString& text);
 
 }  // namespace veltrix

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "settings_test_files.h"
+#include "support/case_file.h"
 
 namespace veltrix {
 namespace {
@@ -22,30 +23,8 @@ using testing::ReadText;
 using testing::TempFolder;
 using testing::WriteBytes;
 
-struct Line {
-  int number;
-  std::string text;
-};
-
-struct Case {
-  std::string name;
-  std::vector<Line> lines;
-};
-
-std::vector<Case> ReadCases() {
-  std::ifstream in(std::string(VELTRIX_SOURCE_DIR) + "/tests/core/data/cli_transcripts.txt");
-  std::vector<Case> cases;
-  std::string text;
-  for (int number = 1; std::getline(in, text); ++number) {
-    if (text.empty() || text[0] == '#') continue;
-    if (text.rfind("case ", 0) == 0) {
-      cases.push_back({text.substr(5), {}});
-    } else if (!cases.empty()) {
-      cases.back().lines.push_back({number, text});
-    }
-  }
-  return cases;
-}
+using Case = testing::DataCase;
+using Line = testing::CaseLine;
 
 // Words split on blanks; "double quotes" keep blanks inside a word.
 std::vector<std::string> Words(const std::string& text) {
@@ -186,7 +165,8 @@ TEST_P(CliTranscript, Runs) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, CliTranscript, ::testing::ValuesIn(ReadCases()),
+INSTANTIATE_TEST_SUITE_P(Cases, CliTranscript,
+                         ::testing::ValuesIn(testing::ReadDataCases("cli_transcripts.txt")),
                          [](const auto& info) {
                            std::string name;
                            for (const char c : info.param.name) {

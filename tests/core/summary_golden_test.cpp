@@ -11,6 +11,7 @@
 #include "settings/reader/working_block.h"
 #include "settings_test_files.h"
 #include "shell/summary.h"
+#include "support/case_file.h"
 
 namespace veltrix {
 namespace {
@@ -24,23 +25,18 @@ struct SummaryGoldenCase {
 };
 
 std::vector<SummaryGoldenCase> ReadCases() {
-  std::ifstream in(std::string(VELTRIX_SOURCE_DIR) + "/tests/core/data/summary_cases.txt");
   std::vector<SummaryGoldenCase> cases;
-  std::string text;
-  for (int line = 1; std::getline(in, text); ++line) {
-    if (text.empty() || text[0] == '#') continue;
-    if (text.rfind("case ", 0) == 0) {
-      SummaryGoldenCase c;
-      c.line = line;
-      const std::size_t golden_end = text.find(' ', 5);
-      c.golden = text.substr(5, golden_end - 5);
-      const std::size_t product_end = text.find(' ', golden_end + 1);
-      c.product = std::stoi(text.substr(golden_end + 1, product_end - golden_end - 1));
-      c.branch = text.substr(product_end + 1);
-      cases.push_back(c);
-    } else if (!cases.empty()) {
-      cases.back().assignments.push_back(text);
-    }
+  for (const testing::DataCase& d : testing::ReadDataCases("summary_cases.txt")) {
+    // "GOLDEN PRODUCT BRANCH"
+    SummaryGoldenCase c;
+    c.line = d.number;
+    const std::size_t golden_end = d.name.find(' ');
+    const std::size_t product_end = d.name.find(' ', golden_end + 1);
+    c.golden = d.name.substr(0, golden_end);
+    c.product = std::stoi(d.name.substr(golden_end + 1, product_end - golden_end - 1));
+    c.branch = d.name.substr(product_end + 1);
+    for (const testing::CaseLine& l : d.lines) c.assignments.push_back(l.text);
+    cases.push_back(c);
   }
   return cases;
 }

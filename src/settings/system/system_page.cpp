@@ -22,9 +22,6 @@
 namespace veltrix {
 namespace {
 
-QString FromRecord(std::string_view text) { return FromRecordText(std::string(text)); }
-std::string ToRecord(const QString& text) { return ToRecordText(text); }
-
 QString Caption(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -188,7 +185,7 @@ void SystemPage::ConnectControls() {
   BindRewritingEdit(
       idle_, [this](const std::string& text) { return editor_.EditIdle(text).rewrite; }, active);
   connect(password_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (!loading_) editor_.EditPassword(ToRecord(text));
+    if (!loading_) editor_.EditPassword(ToRecordText(text));
   });
   for (std::size_t i = 0; i < kSecurityFlags.size(); ++i) {
     const FieldDef* field = kSecurityFlags[i].field;
@@ -211,7 +208,7 @@ void SystemPage::ConnectControls() {
   for (int k = 0; k < kPromptRowsPerScreen; ++k) {
     // Only the user's typing stores a line: showing a screen must not cut stored texts.
     connect(row_edits_[k], &QLineEdit::textEdited, this,
-            [this, k](const QString& text) { editor_.EditPromptLine(k, ToRecord(text)); });
+            [this, k](const QString& text) { editor_.EditPromptLine(k, ToRecordText(text)); });
   }
   connect(reset_, &QPushButton::clicked, this, [this] {
     editor_.Reset();
@@ -230,14 +227,14 @@ void SystemPage::LoadControls() {
   loading_ = true;
   power_on_->button(editor_.Value(kPowerOn) != 0 ? 1 : 0)->setChecked(true);
   auto_power_off_->setText(QString::number(editor_.Value(kAutoPowerOff)));
-  password_->setText(FromRecord(editor_.Password()));
+  password_->setText(FromRecordText(editor_.Password()));
   for (std::size_t i = 0; i < kSecurityFlags.size(); ++i) {
     security_[i]->setChecked(editor_.Value(*kSecurityFlags[i].field) != 0);
   }
   backlight_->button(editor_.Value(kBacklight) != 0 ? 1 : 0)->setChecked(true);
   idle_->setText(QString::number(editor_.Value(kTurnOffIfIdleFor)));
   screens_->clear();
-  for (const std::string& name : editor_.ScreenNames()) screens_->addItem(FromRecord(name));
+  for (const std::string& name : editor_.ScreenNames()) screens_->addItem(FromRecordText(name));
   screens_->setCurrentIndex(editor_.prompts().selected());
   download_via_->setCurrentIndex(static_cast<int>(editor_.Value(kDownloadVia)));
   baud_rate_->setCurrentIndex(static_cast<int>(editor_.Value(kBaudRate)));
@@ -249,9 +246,9 @@ void SystemPage::LoadControls() {
 void SystemPage::ShowScreen() {
   const auto rows = editor_.Rows();
   for (int k = 0; k < kPromptRowsPerScreen; ++k) {
-    row_labels_[k]->setText(FromRecord(rows[k].label));
+    row_labels_[k]->setText(FromRecordText(rows[k].label));
     row_edits_[k]->setMaxLength(rows[k].width);
-    row_edits_[k]->setText(FromRecord(rows[k].text));
+    row_edits_[k]->setText(FromRecordText(rows[k].text));
     row_edits_[k]->setCursorPosition(0);
     row_labels_[k]->setEnabled(rows[k].enabled);
     row_edits_[k]->setEnabled(rows[k].enabled);
