@@ -80,6 +80,7 @@ void BM_FloodTheHostWindow(benchmark::State& state) {
       return form.Confirm({"127", "0", "0", "1"}, false);
     });
     connection.ConnectToHost(*doc);
+    while (connection.connecting()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 
     const long memory_before = ResidentKb();
     int paints = 0;

@@ -29,11 +29,24 @@ HostSessionParts InstallHostSession(MainWindow& window) {
 
   HostConnectionQt* connection = parts.connection;
   SessionHandlers handlers;
-  handlers.connect = [w, connection] { return connection->ConnectToHost(w->document()); };
+  handlers.connect = [w, connection] {
+    ConnectAttempt attempt;
+    attempt.started = connection->ConnectToHost(w->document());
+    const HostConnection& c = connection->connection();
+    attempt.connected = c.connected();
+    attempt.status = ConnectingText(c.address(), c.port());
+    return attempt;
+  };
   handlers.disconnect = [connection] { connection->DisconnectFromHost(); };
   window.SetSessionHandlers(std::move(handlers));
   QObject::connect(connection, &HostConnectionQt::disconnectRequested, w,
                    [w] { w->ExecuteCommand(kCmdDisconnect); });
+  QObject::connect(connection, &HostConnectionQt::connectionOpened, w, [w, connection] {
+    const HostConnection& c = connection->connection();
+    w->ConnectionOpened(QString::fromStdString(ConnectedText(c.address(), c.port())));
+  });
+  QObject::connect(connection, &HostConnectionQt::connectionFailed, w,
+                   [w](const QString& text) { w->ConnectionFailed(text); });
   return parts;
 }
 

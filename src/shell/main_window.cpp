@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -61,6 +62,13 @@ MainWindow::MainWindow(Ports ports, const SettingsPageRegistry& pages, QWidget* 
   CreateClientArea();
   statusBar()->setObjectName("status_bar");
   statusBar()->setSizeGripEnabled(true);
+  cancel_connect_ = new QPushButton(tr("Cancel"), this);
+  cancel_connect_->setObjectName("cancel_connect");
+  cancel_connect_->setToolTip(tr("Stop connecting"));
+  cancel_connect_->setFocusPolicy(Qt::NoFocus);
+  cancel_connect_->hide();
+  statusBar()->addPermanentWidget(cancel_connect_);
+  connect(cancel_connect_, &QPushButton::clicked, this, [this] { ExecuteCommand(kCmdDisconnect); });
   ApplyEnabling();
   RebuildSummary();
   SelectProductInBox();
@@ -306,10 +314,32 @@ bool MainWindow::event(QEvent* event) {
 void MainWindow::RunSessionCommand(int command_id) {
   const bool was_shown = session_->host_screen_shown();
   std::optional<std::string> status = session_->Run(command_id);
-  ApplyEnabling();
   if (status) ShowCommandStatus(QString::fromStdString(*status));
+  ShowSessionState();
   if (session_->host_screen_shown() != was_shown) ShowHostScreen(session_->host_screen_shown());
 }
+
+void MainWindow::ShowSessionState() {
+  ApplyEnabling();
+  cancel_connect_->setVisible(session_->connecting());
+}
+
+void MainWindow::ConnectionOpened(const QString& status) {
+  if (!session_->connecting()) return;
+  session_->ConnectionOpened();
+  ShowCommandStatus(status);
+  ShowSessionState();
+  ShowHostScreen(true);
+}
+
+void MainWindow::ConnectionFailed(const QString& status) {
+  if (!session_->connecting()) return;
+  session_->ConnectionFailed();
+  ShowCommandStatus(status);
+  ShowSessionState();
+}
+
+void MainWindow::AddStatusWidget(QWidget* widget) { statusBar()->addPermanentWidget(widget); }
 
 void MainWindow::RunDownload(int mode) {
   download_mode_ = mode;

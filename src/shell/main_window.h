@@ -15,6 +15,7 @@
 
 class QAction;
 class QComboBox;
+class QPushButton;
 class QStackedWidget;
 class QToolBar;
 
@@ -62,6 +63,11 @@ class MainWindow : public QMainWindow {
 
   void EnableConnectionCommands(bool connected);
   void EnableCaptureCommands(bool capturing);
+  // The result of a connection still being made when Connect returned, with its status text.
+  void ConnectionOpened(const QString& status);
+  void ConnectionFailed(const QString& status);
+  // Adds a widget to the right of the status bar (the terminal's status while connected).
+  void AddStatusWidget(QWidget* widget);
 
   // Shows the settings sheet modally, then rebuilds the summary.
   void OpenSettingsSheet();
@@ -95,6 +101,7 @@ class MainWindow : public QMainWindow {
   void CreateClientArea();
   void PlaceOnScreen();
   void RunSessionCommand(int command_id);
+  void ShowSessionState();
   void RunDownload(int mode);
   void ApplyEnabling();
   void SelectProductInBox();
@@ -120,6 +127,7 @@ class MainWindow : public QMainWindow {
   QWidget* host_placeholder_ = nullptr;
   QPointer<QWidget> host_screen_;
   QString command_status_;
+  QPushButton* cancel_connect_ = nullptr;  // in the status bar while connecting
 };
 
 }  // namespace veltrix

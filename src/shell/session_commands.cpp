@@ -37,15 +37,35 @@ std::optional<std::string> SessionCommands::Connect() {
     SayNotAvailable("The host session");
     return std::nullopt;
   }
-  if (!handlers_.connect()) return std::nullopt;
+  ConnectAttempt attempt = handlers_.connect();
+  if (!attempt.started) return std::nullopt;
+  if (attempt.connected) {
+    ConnectionOpened();
+    return std::nullopt;
+  }
+  connecting_ = true;
+  enabling_ = CommandEnabling{};
+  enabling_.connect = false;
+  enabling_.disconnect = true;
+  return attempt.status;
+}
+
+void SessionCommands::ConnectionOpened() {
+  connecting_ = false;
   host_screen_shown_ = true;
+  enabling_ = CommandEnabling{};
   enabling_.EnableConnectionCommands(true);
   enabling_.EnableCaptureCommands(false);
-  return std::nullopt;
+}
+
+void SessionCommands::ConnectionFailed() {
+  connecting_ = false;
+  enabling_.EnableConnectionCommands(false);
 }
 
 std::optional<std::string> SessionCommands::Disconnect() {
   if (handlers_.disconnect) handlers_.disconnect();
+  connecting_ = false;
   host_screen_shown_ = false;
   enabling_.EnableConnectionCommands(false);
   return std::nullopt;

@@ -14,11 +14,18 @@ namespace veltrix {
 inline constexpr std::string_view kReadyToCapture = "Ready to capture";
 std::string CapturedScreensText(int count);  // "Captured : %d screens"
 
+// What a connect handler did with the Connect command.
+struct ConnectAttempt {
+  bool started = false;    // false: the dialog was cancelled or the address refused
+  bool connected = false;  // the session already stands; otherwise its result comes later
+  std::string status;      // the status-bar text while connecting
+};
+
 // What the host session and the capture store do for the Telnet commands. The session code
 // registers them; a command whose handler is missing says it is not available in this build.
 struct SessionHandlers {
-  std::function<bool()> connect;        // true when a session is up
-  std::function<void()> disconnect;     // also closes a screen file being captured to
+  std::function<ConnectAttempt()> connect;
+  std::function<void()> disconnect;     // also gives up connecting and closes a capture file
   std::function<bool()> start_capture;  // true when a screen file was created
   std::function<void()> capture;        // appends the current screen
   std::function<void()> stop_capture;
@@ -38,6 +45,13 @@ class SessionCommands {
   std::optional<std::string> Run(int command_id);
 
   const CommandEnabling& enabling() const { return enabling_; }
+  // The result of a connection that was still being made when Connect returned: the host screen
+  // comes with the commands of a connected session, or Connect is offered again.
+  void ConnectionOpened();
+  void ConnectionFailed();
+  // While connecting only Disconnect (which gives up) is on.
+  bool connecting() const { return connecting_; }
+
   // For a session that changes state by itself.
   void EnableConnectionCommands(bool connected) { enabling_.EnableConnectionCommands(connected); }
   void EnableCaptureCommands(bool capturing) { enabling_.EnableCaptureCommands(capturing); }
@@ -57,6 +71,7 @@ class SessionCommands {
   SessionHandlers handlers_;
   CommandEnabling enabling_;
   bool host_screen_shown_ = false;
+  bool connecting_ = false;
   int capture_count_ = 0;
 };
 

@@ -26,6 +26,25 @@ void StoreConnectedAddress(Document& doc, std::string_view address) {
   WriteText(doc.record, kHostIpOrName, address, 0);
 }
 
+std::string HostPortText(std::string_view address, std::uint16_t port) {
+  return std::string(address) + ":" + std::to_string(port);
+}
+
+std::string ConnectingText(std::string_view address, std::uint16_t port) {
+  return "Connecting to " + HostPortText(address, port) + "...";
+}
+
+std::string ConnectedText(std::string_view address, std::uint16_t port) {
+  return "Connected to " + HostPortText(address, port);
+}
+
+std::string ConnectFailedText(std::string_view address, std::uint16_t port,
+                              std::string_view reason) {
+  std::string text = std::string(kCannotConnectMessage) + " to " + HostPortText(address, port);
+  if (!reason.empty()) text += ": " + std::string(reason);
+  return text;
+}
+
 HostConnection::HostConnection(HostLink& link, SessionLog& log, SessionMessages& messages)
     : link_(link), log_(log), messages_(messages), session_(std::make_unique<Session>()) {
   session_->SetListener(this);
@@ -33,14 +52,13 @@ HostConnection::HostConnection(HostLink& link, SessionLog& log, SessionMessages&
 
 HostConnection::~HostConnection() { Disconnect(); }
 
-bool HostConnection::Connect(Document& doc, const HostOctets& octets, bool save_log) {
+bool HostConnection::Connect(const Document& doc, const HostOctets& octets, bool save_log) {
   Disconnect();
   log_.set_save_log(save_log);
   if (!HostAddressValue(octets)) {
     messages_.ShowError(kInvalidHostIpMessage);
     return false;
   }
-  const std::string address = FormatHostAddress(octets);
   HostSettings settings = ReadHostSettings(doc);
   SessionConfig config{settings.emulation_type, settings.local_name};
   // The engine keeps its field records across connections, so keep it while the language and
@@ -51,44 +69,55 @@ bool HostConnection::Connect(Document& doc, const HostOctets& octets, bool save_
   }
   session_->Connect();
   keyboard_.Reset();
-  if (!link_.Open(address, settings.port)) {
-    Disconnect();
-    messages_.ShowError(kCannotConnectMessage);
-    return false;
-  }
-  connected_ = true;
-  log_.LogConnect();
-  StoreConnectedAddress(doc, address);
-  if (view_) view_->OnScreenChanged(ScreenChange{});
+  address_ = FormatHostAddress(octets);
+  port_ = settings.port;
+  state_ = State::kConnecting;
+  link_.Open(address_, port_);
   return true;
 }
 
-void HostConnection::Disconnect() {
-  if (!connected_) return;
-  connected_ = false;
+void HostConnection::Opened() {
+  if (state_ != State::kConnecting) return;
+  state_ = State::kConnected;
+  log_.LogConnect();
+  if (view_) view_->OnScreenChanged(ScreenChange{});
+}
+
+void HostConnection::OpenFailed(std::string_view reason) {
+  if (state_ != State::kConnecting) return;
+  state_ = State::kIdle;
   link_.Close();
-  log_.LogClose();
+  log_.LogConnectFailed(ConnectFailedText(address_, port_, reason));
+  messages_.ShowError(kCannotConnectMessage);
+}
+
+void HostConnection::Disconnect() {
+  const State was = state_;
+  state_ = State::kIdle;
+  if (was == State::kIdle) return;
+  link_.Close();
+  if (was == State::kConnected) log_.LogClose();
 }
 
 void HostConnection::Received(std::span<const std::uint8_t> bytes) {
-  if (!connected_) return;
+  if (!connected()) return;
   log_.LogReceive(bytes);
   session_->Receive(bytes);
 }
 
 void HostConnection::HostClosed() {
-  if (!connected_) return;
+  if (!connected()) return;
   log_.LogReceive({});
   messages_.ShowError(kCannotConnectMessage);
 }
 
 void HostConnection::ReceiveFailed() {
-  if (!connected_) return;
+  if (!connected()) return;
   log_.LogReceive({});
 }
 
 bool HostConnection::KeyDown(PcKey key) {
-  if (!connected_) return false;
+  if (!connected()) return false;
   std::optional<PcKeyboard::Input> input = keyboard_.KeyDown(key);
   if (!input) return false;
   session_->KeyInput(static_cast<HostKey>(input->key_code));
@@ -96,7 +125,7 @@ bool HostConnection::KeyDown(PcKey key) {
 }
 
 bool HostConnection::Character(char32_t c) {
-  if (!connected_) return false;
+  if (!connected()) return false;
   std::optional<PcKeyboard::Input> input = keyboard_.Character(c);
   if (!input) return false;
   std::optional<std::uint8_t> display = UnicodeToDisplayByte(emulation_type(), input->character);
@@ -106,7 +135,7 @@ bool HostConnection::Character(char32_t c) {
 }
 
 void HostConnection::OnSend(std::span<const std::uint8_t> bytes) {
-  if (!connected_) return;
+  if (!connected()) return;
   log_.LogSend(bytes);
   link_.Send(bytes);
 }

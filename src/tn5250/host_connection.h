@@ -25,8 +25,9 @@ inline constexpr std::string_view kCannotConnectMessage = "Can not establish con
 class HostLink {
  public:
   virtual ~HostLink() = default;
-  // Connects to address:port and waits for the result.
-  virtual bool Open(const std::string& address, std::uint16_t port) = 0;
+  // Starts connecting to address:port without waiting; the link reports the result through
+  // HostConnection::Opened or HostConnection::OpenFailed (possibly before Open returns).
+  virtual void Open(const std::string& address, std::uint16_t port) = 0;
   virtual void Send(std::span<const std::uint8_t> bytes) = 0;
   // Shuts the connection down in both directions and closes it.
   virtual void Close() = 0;
@@ -50,6 +51,14 @@ HostSettings ReadHostSettings(const Document& doc);
 // After a successful connection the address goes into host entry 0, whatever entry is active.
 void StoreConnectedAddress(Document& doc, std::string_view address);
 
+// The status-bar texts of connecting ("10.0.0.5:23").
+std::string HostPortText(std::string_view address, std::uint16_t port);
+std::string ConnectingText(std::string_view address, std::uint16_t port);
+std::string ConnectedText(std::string_view address, std::uint16_t port);
+// What the user needs to fix a failed connection: where to and the system's reason.
+std::string ConnectFailedText(std::string_view address, std::uint16_t port,
+                              std::string_view reason);
+
 // One host session: the connection steps, the logged traffic in both directions, the keyboard and
 // the TN5250 engine. Everything runs on the caller's thread; received bytes are handed in by
 // whoever reads the link.
@@ -61,11 +70,16 @@ class HostConnection : private SessionListener {
   // Screen changes, the alarm and keyboard lock changes go on to the view.
   void SetView(SessionListener* view) { view_ = view; }
 
-  // Connects after the connect dialog was confirmed: checks the address, resets the engine, opens
-  // the link to `TelnetPort` and stores the address in host entry 0. False (with the message
-  // shown) when the session could not be set up.
-  bool Connect(Document& doc, const HostOctets& octets, bool save_log);
-  // Closes everything that is open; safe to call when nothing is.
+  // Starts connecting after the connect dialog was confirmed: checks the address, resets the
+  // engine and opens the link to `TelnetPort`. False (with the message shown) when the address
+  // is refused; otherwise the link's answer comes through Opened or OpenFailed.
+  bool Connect(const Document& doc, const HostOctets& octets, bool save_log);
+  // The link is open: the session stands (the caller stores the address in host entry 0).
+  void Opened();
+  // The link could not be opened: the failure with its reason goes to the log, the session ends
+  // and "Can not establish connection" is shown.
+  void OpenFailed(std::string_view reason);
+  // Closes everything that is open, or gives up connecting; safe to call when nothing is.
   void Disconnect();
 
   // A chunk received from the host (logged, then handed to the engine).
@@ -82,7 +96,11 @@ class HostConnection : private SessionListener {
   bool KeyDown(PcKey key);
   bool Character(char32_t c);
 
-  bool connected() const { return connected_; }
+  bool connected() const { return state_ == State::kConnected; }
+  bool connecting() const { return state_ == State::kConnecting; }
+  // Where the session connects or is connected to.
+  const std::string& address() const { return address_; }
+  std::uint16_t port() const { return port_; }
   const Session& session() const { return *session_; }
   int emulation_type() const { return session_->Config().emulation_type; }
 
@@ -97,8 +115,12 @@ class HostConnection : private SessionListener {
   SessionMessages& messages_;
   SessionListener* view_ = nullptr;
   std::unique_ptr<Session> session_;
+  enum class State { kIdle, kConnecting, kConnected };
+
   PcKeyboard keyboard_;
-  bool connected_ = false;
+  State state_ = State::kIdle;
+  std::string address_;
+  std::uint16_t port_ = 0;
 };
 
 }  // namespace veltrix

@@ -8,11 +8,6 @@
 #include "tn5250/host_ip_dialog.h"
 
 namespace veltrix {
-namespace {
-
-constexpr int kConnectTimeoutMs = 15000;
-
-}  // namespace
 
 HostConnectionQt::HostConnectionQt(QWidget* message_parent, QObject* parent)
     : QObject(parent),
@@ -25,6 +20,11 @@ HostConnectionQt::HostConnectionQt(QWidget* message_parent, QObject* parent)
     return dialog.exec() == QDialog::Accepted;
   };
   show_error_ = [this](const QString& text) { ShowErrorBox(message_parent_, text); };
+  connect_timer_ = new QTimer(this);
+  connect_timer_->setSingleShot(true);
+  connect(connect_timer_, &QTimer::timeout, this, [this] {
+    FailConnecting(QStringLiteral("no answer within %1 seconds").arg(kConnectTimeoutMs / 1000));
+  });
 }
 
 HostConnectionQt::~HostConnectionQt() { connection_.Disconnect(); }
@@ -35,30 +35,51 @@ void HostConnectionQt::SetLogDirectory(const std::filesystem::path& directory) {
 
 bool HostConnectionQt::ConnectToHost(Document& doc) {
   if (!run_dialog_(form_, ReadHostSettings(doc).active_entry)) return false;
+  connect_doc_ = &doc;
   return connection_.Connect(doc, form_.octets(), form_.save_log());
 }
 
-void HostConnectionQt::DisconnectFromHost() { connection_.Disconnect(); }
+void HostConnectionQt::DisconnectFromHost() {
+  connect_timer_->stop();
+  connection_.Disconnect();
+}
 
-bool HostConnectionQt::Open(const std::string& address, std::uint16_t port) {
+void HostConnectionQt::Open(const std::string& address, std::uint16_t port) {
   Close();
   ending_ = false;
+  ++attempt_;
   socket_ = new QTcpSocket(this);
   socket_->setReadBufferSize(kReadBufferBytes);
+  connect(socket_, &QTcpSocket::connected, this, &HostConnectionQt::OnSocketConnected);
+  connect(socket_, &QTcpSocket::errorOccurred, this, &HostConnectionQt::OnSocketError);
+  connect_timer_->start(kConnectTimeoutMs);
   socket_->connectToHost(QHostAddress(QString::fromStdString(address)), port);
-  if (!socket_->waitForConnected(kConnectTimeoutMs)) {
-    socket_->abort();
-    socket_->deleteLater();
-    socket_ = nullptr;
-    return false;
-  }
+}
+
+void HostConnectionQt::OnSocketConnected() {
+  connect_timer_->stop();
+  if (!socket_ || !connection_.connecting()) return;
   socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
   connect(socket_, &QTcpSocket::readyRead, this, &HostConnectionQt::ReadSlice);
   connect(socket_, &QTcpSocket::disconnected, this, &HostConnectionQt::OnSocketDisconnected);
-  connect(socket_, &QTcpSocket::errorOccurred, this, &HostConnectionQt::OnSocketError);
+  connection_.Opened();
+  if (connect_doc_ != nullptr) StoreConnectedAddress(*connect_doc_, connection_.address());
+  emit connectionOpened();
   // Data may already be waiting.
   ScheduleSlice();
-  return true;
+}
+
+void HostConnectionQt::FailConnecting(const QString& reason) {
+  connect_timer_->stop();
+  if (!connection_.connecting()) return;
+  if (socket_ != nullptr) socket_->disconnect(this);  // one failure per attempt
+  const std::string why = reason.toStdString();
+  // The status bar names the host first; the message box then comes outside the socket's signal.
+  emit connectionFailed(QString::fromStdString(
+      ConnectFailedText(connection_.address(), connection_.port(), why)));
+  QTimer::singleShot(0, this, [this, why, attempt = attempt_] {
+    if (attempt == attempt_) connection_.OpenFailed(why);
+  });
 }
 
 void HostConnectionQt::Send(std::span<const std::uint8_t> bytes) {
@@ -117,6 +138,10 @@ void HostConnectionQt::DrainAll() {
 void HostConnectionQt::OnSocketDisconnected() { EndFromHost(true); }
 
 void HostConnectionQt::OnSocketError(QAbstractSocket::SocketError error) {
+  if (connection_.connecting()) {
+    FailConnecting(socket_ != nullptr ? socket_->errorString() : QString());
+    return;
+  }
   // A host that closes is reported by the disconnected signal that follows.
   if (error == QAbstractSocket::RemoteHostClosedError) return;
   EndFromHost(false);

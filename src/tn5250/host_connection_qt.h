@@ -13,6 +13,7 @@
 #include "tn5250/host_ip.h"
 #include "tn5250/session_log.h"
 
+class QTimer;
 class QWidget;
 
 namespace veltrix {
@@ -29,14 +30,18 @@ class HostConnectionQt : public QObject, private HostLink, private SessionMessag
   explicit HostConnectionQt(QWidget* message_parent = nullptr, QObject* parent = nullptr);
   ~HostConnectionQt() override;
 
-  // Telnet "Connect...": shows the connect dialog and connects. True when the session is up.
+  // Telnet "Connect...": shows the connect dialog and starts connecting without waiting. True
+  // when connecting started; connectionOpened or connectionFailed follows. `doc` gets the
+  // address in host entry 0 once the connection stands, so it must outlive the attempt.
   bool ConnectToHost(Document& doc);
-  // Telnet "Disconnect": closes everything that is open; safe when nothing is.
+  // Telnet "Disconnect": closes everything that is open or gives up connecting; safe when
+  // nothing is.
   void DisconnectFromHost();
 
   HostConnection& connection() { return connection_; }
   const HostConnection& connection() const { return connection_; }
   bool connected() const { return connection_.connected(); }
+  bool connecting() const { return connection_.connecting(); }
   const std::filesystem::path& log_directory() const { return log_sink_.directory(); }
 
   // Runs the connect dialog on the form; true when it was confirmed. Tests replace it.
@@ -54,20 +59,29 @@ class HostConnectionQt : public QObject, private HostLink, private SessionMessag
   static constexpr qint64 kReadBufferBytes = 64 * 1024;
   // One receive takes at most this much, as the terminal's receive buffer does.
   static constexpr qint64 kReceiveBytes = 1024;
+  // A host that does not answer within this time counts as unreachable.
+  static constexpr int kConnectTimeoutMs = 15000;
 
  signals:
   // The connection ended from the host side (closed or failed): the main window runs its
   // Disconnect command.
   void disconnectRequested();
+  // The connection stands (the address is in host entry 0).
+  void connectionOpened();
+  // The connection could not be made: `text` names the host, the port and the system's reason.
+  // "Can not establish connection" is shown after it.
+  void connectionFailed(const QString& text);
 
  private:
   // HostLink
-  bool Open(const std::string& address, std::uint16_t port) override;
+  void Open(const std::string& address, std::uint16_t port) override;
   void Send(std::span<const std::uint8_t> bytes) override;
   void Close() override;
   // SessionMessages
   void ShowError(std::string_view text) override;
 
+  void OnSocketConnected();
+  void FailConnecting(const QString& reason);
   void ReadSlice();
   void ScheduleSlice();
   void DrainAll();
@@ -82,6 +96,9 @@ class HostConnectionQt : public QObject, private HostLink, private SessionMessag
   HostConnection connection_;
   HostIpForm form_;
   QTcpSocket* socket_ = nullptr;
+  QTimer* connect_timer_ = nullptr;
+  Document* connect_doc_ = nullptr;
+  int attempt_ = 0;  // a failure reported late must not end a newer attempt
   DialogRunner run_dialog_;
   ErrorSink show_error_;
   bool slice_scheduled_ = false;

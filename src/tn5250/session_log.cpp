@@ -74,6 +74,16 @@ void SessionLog::LogConnect() {
   WriteStamped("Connect:");
 }
 
+void SessionLog::LogConnectFailed(std::string_view text) {
+  open_ = false;
+  if (!save_log_) return;
+  open_ = sink_.Create();
+  WriteStamped("Failed:");
+  WriteLogLine(text);
+  if (open_) sink_.Close();
+  open_ = false;
+}
+
 void SessionLog::LogSend(std::span<const std::uint8_t> bytes) {
   WriteStamped("Send:");
   if (open_ && save_log_) sink_.Write(LogDataLine(bytes));

@@ -85,6 +85,9 @@ class SessionLog {
 
   // After a successful connect: with "Save Log" on, creates the file and writes "Connect:".
   void LogConnect();
+  // After a failed connect: with "Save Log" on, the file holds "Failed:" and what failed, so
+  // the user can tell where to and why.
+  void LogConnectFailed(std::string_view text);
   // Before bytes go to the host: "Send:" and the data line.
   void LogSend(std::span<const std::uint8_t> bytes);
   // After a receive: "Recv:" and the data line (empty when the host closed or an error came).

@@ -13,12 +13,11 @@ namespace {
 
 class FakeLink : public HostLink {
  public:
-  bool Open(const std::string& a, std::uint16_t p) override {
+  void Open(const std::string& a, std::uint16_t p) override {
     ++opens;
     address = a;
     port = p;
-    open = can_open;
-    return can_open;
+    open = true;
   }
   void Send(std::span<const std::uint8_t> bytes) override {
     sent.insert(sent.end(), bytes.begin(), bytes.end());
@@ -28,7 +27,6 @@ class FakeLink : public HostLink {
     open = false;
   }
 
-  bool can_open = true;
   bool open = false;
   int opens = 0;
   int closes = 0;
@@ -73,6 +71,13 @@ class HostConnectionTest : public ::testing::Test {
     WriteNumber(doc->record, *active, 2);
     WriteNumber(doc->record, *port, 2323);
   }
+  // Connects as the program does: the link answers, then the address goes into entry 0.
+  bool Connect() {
+    if (!connection.Connect(*doc, {127, 0, 0, 1}, true)) return false;
+    connection.Opened();
+    StoreConnectedAddress(*doc, connection.address());
+    return connection.connected();
+  }
   std::string Entry(int i) const { return ReadText(doc->record, *FindField("HostIpOrName"), i); }
 
   std::unique_ptr<Document> doc;
@@ -91,7 +96,7 @@ TEST_F(HostConnectionTest, ReadsTheActiveEntryAndPort) {
 }
 
 TEST_F(HostConnectionTest, ConnectOpensThePortAndStoresTheAddressInEntryZero) {
-  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  ASSERT_TRUE(Connect());
   EXPECT_TRUE(connection.connected());
   EXPECT_EQ("127.0.0.1", link.address);
   EXPECT_EQ(2323, link.port);
@@ -108,17 +113,38 @@ TEST_F(HostConnectionTest, TheNoAddressValueIsRefusedBeforeAnyConnection) {
   EXPECT_EQ("old.host", Entry(0));
 }
 
-TEST_F(HostConnectionTest, AFailedConnectionShowsItsMessageAndLogsNothing) {
-  link.can_open = false;
-  EXPECT_FALSE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+TEST_F(HostConnectionTest, AFailedConnectionShowsItsMessageAndLogsWhereToAndWhy) {
+  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  EXPECT_TRUE(connection.connecting());
+  EXPECT_TRUE(messages.shown.empty());
+  connection.OpenFailed("Connection refused");
   EXPECT_FALSE(connection.connected());
+  EXPECT_FALSE(connection.connecting());
+  EXPECT_EQ(1, link.closes);
   EXPECT_EQ(std::vector<std::string>{"Can not establish connection"}, messages.shown);
-  EXPECT_EQ("", sink.text);
+  EXPECT_EQ(
+      "Failed:20261123123\r\n"
+      "Can not establish connection to 127.0.0.1:2323: Connection refused\r\n",
+      sink.text);
   EXPECT_EQ("old.host", Entry(0));
+  // A late answer of the given-up attempt changes nothing.
+  connection.Opened();
+  EXPECT_FALSE(connection.connected());
+}
+
+TEST_F(HostConnectionTest, GivingUpWhileConnectingLogsNothing) {
+  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  connection.Disconnect();
+  connection.OpenFailed("late");
+  connection.Opened();
+  EXPECT_FALSE(connection.connected());
+  EXPECT_EQ(1, link.closes);
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ("", sink.text);
 }
 
 TEST_F(HostConnectionTest, TrafficIsLoggedAndAnsweredThroughTheLink) {
-  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  ASSERT_TRUE(Connect());
   const std::uint8_t do_terminal_type[] = {0xFF, 0xFD, 0x18};
   connection.Received(do_terminal_type);
   EXPECT_EQ((std::vector<std::uint8_t>{0xFF, 0xFB, 0x18}), link.sent);
@@ -142,7 +168,7 @@ TEST_F(HostConnectionTest, TrafficIsLoggedAndAnsweredThroughTheLink) {
 }
 
 TEST_F(HostConnectionTest, AReceiveErrorIsLoggedWithoutAMessage) {
-  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, true));
+  ASSERT_TRUE(Connect());
   connection.ReceiveFailed();
   connection.Disconnect();
   EXPECT_TRUE(messages.shown.empty());

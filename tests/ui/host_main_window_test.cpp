@@ -1,5 +1,8 @@
 #include <QAction>
 #include <QDir>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTcpServer>
 #include <QtTest>
 #include <memory>
 
@@ -23,11 +26,14 @@ class HostMainWindowTest : public QObject {
   void init();
   void cleanup();
   void connectShowsTheHostScreenAndDisconnectTheTree();
+  void refusedConnectionSaysWhereAndWhy();
+  void connectingCanBeCancelled();
   void hostClosingRunsTheDisconnectCommand();
   void cancelledDialogChangesNothing();
 
  private:
   bool Enabled(int command) const { return window_->action(command)->isEnabled(); }
+  QString Status() const { return window_->statusBar()->currentMessage(); }
   void PrepareDialog(bool confirm) {
     parts_.connection->SetDialogRunner([confirm](HostIpForm& form, const std::string& entry) {
       form.Open(entry);
@@ -63,7 +69,13 @@ void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
   QVERIFY(!Enabled(kCmdDisconnect));
   PrepareDialog(true);
   window_->ExecuteCommand(kCmdConnect);
-  QVERIFY(parts_.connection->connected());
+  // Connecting does not hold the window; only Disconnect (giving up) is on meanwhile.
+  QCOMPARE(Status(), QStringLiteral("Connecting to 127.0.0.1:%1...").arg(server_->port()));
+  QVERIFY(!Enabled(kCmdConnect));
+  QVERIFY(Enabled(kCmdDisconnect));
+  QVERIFY(!Enabled(kCmdStartCapture));
+  QTRY_VERIFY(parts_.connection->connected());
+  QCOMPARE(Status(), QStringLiteral("Connected to 127.0.0.1:%1").arg(server_->port()));
   QVERIFY(parts_.screen->isVisible());
   QVERIFY(!Enabled(kCmdConnect));
   QVERIFY(Enabled(kCmdDisconnect));
@@ -83,6 +95,39 @@ void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
   QVERIFY(Enabled(kCmdConnect));
   QVERIFY(!Enabled(kCmdDisconnect));
   QVERIFY(!Enabled(kCmdStartCapture));
+}
+
+void HostMainWindowTest::refusedConnectionSaysWhereAndWhy() {
+  // A port that nobody listens on: take one and close it again.
+  QTcpServer probe;
+  QVERIFY(probe.listen(QHostAddress::LocalHost, 0));
+  const quint16 port = probe.serverPort();
+  probe.close();
+  WriteNumber(window_->document().record, *FindField("TelnetPort"), port);
+  PrepareDialog(true);
+  window_->ExecuteCommand(kCmdConnect);
+  QTRY_VERIFY(!prompt_.shown.empty());
+  QCOMPARE(QString::fromStdString(prompt_.shown.front().text),
+           QStringLiteral("Can not establish connection"));
+  QCOMPARE(Status(),
+           QStringLiteral("Can not establish connection to 127.0.0.1:%1: Connection refused").arg(port));
+  QVERIFY(Enabled(kCmdConnect));
+  QVERIFY(!Enabled(kCmdDisconnect));
+  QVERIFY(!parts_.screen->isVisible());
+}
+
+void HostMainWindowTest::connectingCanBeCancelled() {
+  PrepareDialog(true);
+  window_->ExecuteCommand(kCmdConnect);
+  auto* cancel = window_->findChild<QPushButton*>(QStringLiteral("cancel_connect"));
+  QVERIFY(cancel != nullptr && cancel->isVisible());
+  QTest::mouseClick(cancel, Qt::LeftButton);
+  QVERIFY(!cancel->isVisible());
+  QVERIFY(Enabled(kCmdConnect));
+  QTest::qWait(100);  // the answer of the given-up attempt changes nothing
+  QVERIFY(!parts_.connection->connected());
+  QVERIFY(!parts_.screen->isVisible());
+  QVERIFY(prompt_.shown.empty());
 }
 
 void HostMainWindowTest::hostClosingRunsTheDisconnectCommand() {

@@ -19,7 +19,7 @@ namespace {
 // A link that connects to nothing and keeps what is sent.
 class NullLink : public HostLink {
  public:
-  bool Open(const std::string&, std::uint16_t) override { return true; }
+  void Open(const std::string&, std::uint16_t) override {}
   void Send(std::span<const std::uint8_t> bytes) override {
     sent.insert(sent.end(), bytes.begin(), bytes.end());
   }
@@ -113,6 +113,7 @@ void HostScreenWidgetTest::Open(int emulation_type) {
   WriteNumber(doc_->record, *FindField("EmulationType"),
               static_cast<std::uint32_t>(emulation_type));
   QVERIFY(connection_->Connect(*doc_, {127, 0, 0, 1}, false));
+  connection_->Opened();
 }
 
 void HostScreenWidgetTest::cellSizeFollowsTheWindow_data() {

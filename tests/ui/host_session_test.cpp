@@ -104,7 +104,9 @@ bool HostSessionTest::Connect(bool save_log, quint16 port) {
     form.Open(entry);
     return form.Confirm({"127", "0", "0", "1"}, save_log);
   });
-  return host_->ConnectToHost(*doc_);
+  if (!host_->ConnectToHost(*doc_)) return false;
+  QTest::qWaitFor([this] { return !host_->connecting(); });
+  return host_->connected();
 }
 
 QStringList HostSessionTest::LogLines() const {
@@ -219,9 +221,14 @@ void HostSessionTest::refusedConnectionShowsItsMessage() {
   const quint16 port = probe.serverPort();
   probe.close();
   QVERIFY(!Connect(true, port));
-  QCOMPARE(errors_, QStringList{QStringLiteral("Can not establish connection")});
+  QTRY_COMPARE(errors_, QStringList{QStringLiteral("Can not establish connection")});
   QVERIFY(!host_->connected());
-  QVERIFY(!QFile::exists(dir_->filePath(QStringLiteral("Logs/Quarvel-TN.log"))));
+  // The log says where to and why.
+  const QStringList lines = LogLines();
+  QCOMPARE(lines.size(), 2);
+  QVERIFY(lines[0].startsWith(QStringLiteral("Failed:")));
+  QCOMPARE(lines[1], QStringLiteral("Can not establish connection to 127.0.0.1:%1: Connection refused")
+                         .arg(port));
 }
 
 // A host writing screens as fast as loopback takes them: the session keeps up and stays

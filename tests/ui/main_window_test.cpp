@@ -280,7 +280,7 @@ class MainWindowTest : public QObject {
     window_->SetHostScreenWidget(host);
     QVERIFY(!host->isVisibleTo(window_.get()));
     bool up = false;
-    window_->SetSessionHandlers(SessionHandlers{[&] { return up = true; }, [&] { up = false; },
+    window_->SetSessionHandlers(SessionHandlers{[&] { return ConnectAttempt{up = true, true}; }, [&] { up = false; },
                                                 [] { return true; }, [] {}, [] {}});
     window_->ExecuteCommand(kCmdConnect);
     QVERIFY(up);
@@ -306,7 +306,7 @@ class MainWindowTest : public QObject {
     MainWindow* window = window_.get();
     host->on_death = [window] { window->ExecuteCommand(kCmdDisconnect); };
     window_->SetHostScreenWidget(host);
-    window_->SetSessionHandlers(SessionHandlers{[] { return true; }, [] {}, {}, {}, {}});
+    window_->SetSessionHandlers(SessionHandlers{[] { return ConnectAttempt{true, true}; }, [] {}, {}, {}, {}});
     window_->ExecuteCommand(kCmdConnect);
     window_.reset();  // must not crash
     window_ =
@@ -365,7 +365,7 @@ class MainWindowTest : public QObject {
   void focusedHostScreenTakesTheAcceleratorKeys() {
     auto* host = new KeyProbe;
     window_->SetHostScreenWidget(host);
-    window_->SetSessionHandlers(SessionHandlers{[] { return true; }, [] {}, {}, {}, {}});
+    window_->SetSessionHandlers(SessionHandlers{[] { return ConnectAttempt{true, true}; }, [] {}, {}, {}, {}});
     window_->show();
     window_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window_.get()));
