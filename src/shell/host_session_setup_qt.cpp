@@ -5,6 +5,7 @@
 #include "tn5250/host_connection_qt.h"
 #include "tn5250/host_ip_dialog.h"
 #include "tn5250/host_screen_widget.h"
+#include "tn5250/terminal_status_widget.h"
 
 namespace veltrix {
 
@@ -15,6 +16,11 @@ HostSessionParts InstallHostSession(MainWindow& window) {
   parts.connection = new HostConnectionQt(parts.screen, parts.screen);
   parts.screen->SetConnection(&parts.connection->connection());
   window.SetHostScreenWidget(parts.screen);
+  parts.status = new TerminalStatusWidget(parts.connection->connection());
+  window.AddStatusWidget(parts.status);
+  TerminalStatusWidget* status = parts.status;
+  QObject::connect(parts.screen, &HostScreenWidget::terminalChanged, status,
+                   &TerminalStatusWidget::Refresh);
 
   MainWindow* w = &window;
   auto show_error = [w](const QString& text) {
@@ -37,13 +43,17 @@ HostSessionParts InstallHostSession(MainWindow& window) {
     attempt.status = ConnectingText(c.address(), c.port());
     return attempt;
   };
-  handlers.disconnect = [connection] { connection->DisconnectFromHost(); };
+  handlers.disconnect = [connection, status] {
+    connection->DisconnectFromHost();
+    status->Refresh();
+  };
   window.SetSessionHandlers(std::move(handlers));
   QObject::connect(connection, &HostConnectionQt::disconnectRequested, w,
                    [w] { w->ExecuteCommand(kCmdDisconnect); });
-  QObject::connect(connection, &HostConnectionQt::connectionOpened, w, [w, connection] {
+  QObject::connect(connection, &HostConnectionQt::connectionOpened, w, [w, connection, status] {
     const HostConnection& c = connection->connection();
     w->ConnectionOpened(QString::fromStdString(ConnectedText(c.address(), c.port())));
+    status->Refresh();
   });
   QObject::connect(connection, &HostConnectionQt::connectionFailed, w,
                    [w](const QString& text) { w->ConnectionFailed(text); });

@@ -5,12 +5,14 @@ namespace veltrix {
 
 class HostConnectionQt;
 class HostScreenWidget;
+class TerminalStatusWidget;
 class MainWindow;
 
 // The host session's parts inside the main window (owned by the window).
 struct HostSessionParts {
   HostScreenWidget* screen = nullptr;
   HostConnectionQt* connection = nullptr;
+  TerminalStatusWidget* status = nullptr;  // in the status bar while connected
 };
 
 // Puts the host session into the main window: the host screen (hidden until connected), the

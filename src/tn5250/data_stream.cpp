@@ -406,6 +406,13 @@ void DataStreamInterpreter::DoControlCharacters(std::uint8_t cc1, std::uint8_t c
     host_.SetKeyboardLocked(false);
   }
   if (cc2 & 0x04) host_.SoundAlarm();
+  // The message-waiting indicator: 0x01 turns it on, 0x02 off. The terminal shows it beside the
+  // screen, so a change counts as a screen change.
+  const bool waiting = (cc2 & 0x02) == 0 && ((cc2 & 0x01) != 0 || host_.message_waiting);
+  if (waiting != host_.message_waiting) {
+    host_.message_waiting = waiting;
+    host_.changed = true;
+  }
 }
 
 void DataStreamInterpreter::PlaceCursor() {

@@ -3,6 +3,7 @@
 #include "settings/emulation/emulation_settings.h"
 #include "settings/network/network_settings.h"
 #include "tn5250/display_text.h"
+#include "tn5250/double_byte.h"
 
 namespace veltrix {
 namespace {
@@ -116,6 +117,17 @@ void HostConnection::ReceiveFailed() {
   log_.LogReceive({});
 }
 
+TerminalStatus HostConnection::Status() const {
+  TerminalStatus status;
+  if (!connected()) return status;
+  status.host = HostPortText(address_, port_);
+  status.keyboard = session_->KeyboardLocked() ? "Input inhibited" : "Ready";
+  status.cursor = "Row " + std::to_string(session_->CursorRow() + 1) + " Col " +
+                  std::to_string(session_->CursorColumn() + 1);
+  if (session_->MessageWaiting()) status.message = "Message waiting";
+  return status;
+}
+
 bool HostConnection::KeyDown(PcKey key) {
   if (!connected()) return false;
   std::optional<PcKeyboard::Input> input = keyboard_.KeyDown(key);
@@ -128,10 +140,11 @@ bool HostConnection::Character(char32_t c) {
   if (!connected()) return false;
   std::optional<PcKeyboard::Input> input = keyboard_.Character(c);
   if (!input) return false;
-  std::optional<std::uint8_t> display = UnicodeToDisplayByte(emulation_type(), input->character);
-  if (!display) return false;  // the host language has no single-byte code for it
-  session_->TypeCharacter(*display);
-  return true;
+  // A character without a single-byte code (an input method's text) goes as a double-byte one.
+  const TypedCode code = TypedCodeOf(emulation_type(), input->character);
+  if (code.size == 1) session_->TypeCharacter(code.first);
+  if (code.size == 2) session_->TypeDoubleByte(code.first, code.second);
+  return code.size != 0;
 }
 
 void HostConnection::OnSend(std::span<const std::uint8_t> bytes) {

@@ -59,6 +59,17 @@ std::string ConnectedText(std::string_view address, std::uint16_t port);
 std::string ConnectFailedText(std::string_view address, std::uint16_t port,
                               std::string_view reason);
 
+// The terminal's status line while connected, as a 5250 display shows it: where to, whether the
+// keyboard takes input, the cursor (counted from 1) and the message-waiting indicator. Empty texts
+// when not connected.
+struct TerminalStatus {
+  std::string host;      // "10.0.0.5:23"
+  std::string keyboard;  // "Input inhibited" or "Ready"
+  std::string cursor;    // "Row 6 Col 53"
+  std::string message;   // "Message waiting" or empty
+  bool operator==(const TerminalStatus&) const = default;
+};
+
 // One host session: the connection steps, the logged traffic in both directions, the keyboard and
 // the TN5250 engine. Everything runs on the caller's thread; received bytes are handed in by
 // whoever reads the link.
@@ -94,7 +105,13 @@ class HostConnection : private SessionListener {
   // What a key changed on the screen goes to the view's OnScreenChanged. False when the key went
   // nowhere (not connected, no host key, no code in the host language).
   bool KeyDown(PcKey key);
+  // A typed character, also one of an input method's text: a character without a single-byte
+  // code in the host language goes as its double-byte character.
   bool Character(char32_t c);
+  // A click on a screen cell (see Session::PointAt).
+  void PointAt(int row, int column) {
+    if (connected()) session_->PointAt(row, column);
+  }
 
   bool connected() const { return state_ == State::kConnected; }
   bool connecting() const { return state_ == State::kConnecting; }
@@ -102,6 +119,7 @@ class HostConnection : private SessionListener {
   const std::string& address() const { return address_; }
   std::uint16_t port() const { return port_; }
   const Session& session() const { return *session_; }
+  TerminalStatus Status() const;
   int emulation_type() const { return session_->Config().emulation_type; }
 
  private:

@@ -54,6 +54,7 @@ struct HostContext {
   bool repaint = false;  // cleared at the start of each record
   bool changed = false;  // the screen changed since the session last reported it
   bool move_cursor = false;
+  bool message_waiting = false;  // set and reset by Write to Display's CC2 bits 7 and 6
 };
 
 }  // namespace veltrix

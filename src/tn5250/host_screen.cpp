@@ -41,32 +41,23 @@ std::vector<PaintRun> RowRuns(std::span<const std::uint8_t> attributes) {
   return runs;
 }
 
-bool IsLeadByte(int emulation_type, std::uint8_t b) {
-  switch (emulation_type) {
-    case 1:  // Traditional Chinese
-    case 2:  // Simplified Chinese
-    case 3:  // Korean
-      return b >= 0x81 && b <= 0xFE;
-    case 4:  // Japanese: half-width katakana (0xA1-0xDF) stand alone
-      return (b >= 0x81 && b <= 0x9F) || (b >= 0xE0 && b <= 0xFC);
-    default:
-      return false;
-  }
-}
-
-std::vector<CellGlyph> RowGlyphs(int emulation_type, std::span<const std::uint8_t> characters) {
+std::vector<CellGlyph> RowGlyphs(const PresentationSpace& ps, int row) {
   std::vector<CellGlyph> glyphs;
-  glyphs.reserve(characters.size());
-  const int count = static_cast<int>(characters.size());
-  for (int c = 0; c < count; ++c) {
-    std::uint8_t b = characters[c];
-    if (b == 0) b = ' ';
-    if (IsLeadByte(emulation_type, b) && c + 1 < count && characters[c + 1] != 0) {
-      glyphs.push_back(CellGlyph{c, 2, b, characters[c + 1]});
+  const int columns = ps.Columns();
+  glyphs.reserve(static_cast<std::size_t>(columns));
+  // A pair begun in the last column of the row above ends in this row's first cell.
+  int c = (row > 0 && ps.IsPairStart(row - 1, columns - 1)) ? 1 : 0;
+  if (c == 1) glyphs.push_back(CellGlyph{0, 1, ' ', 0});
+  for (; c < columns; ++c) {
+    std::uint8_t b = ps.Character(row, c);
+    if (ps.IsPairStart(row, c)) {
+      const CellAddress second = ps.Advance({row, c});
+      glyphs.push_back(
+          CellGlyph{c, c + 1 < columns ? 2 : 1, b, ps.Character(second.row, second.column), true});
       ++c;
-    } else {
-      glyphs.push_back(CellGlyph{c, 1, b, 0});
+      continue;
     }
+    glyphs.push_back(CellGlyph{c, 1, b == 0 ? std::uint8_t{' '} : b, 0});
   }
   return glyphs;
 }

@@ -5,6 +5,8 @@
 #include <span>
 #include <vector>
 
+#include "tn5250/presentation_space.h"
+
 namespace veltrix {
 
 // Cell size of the host screen for a client area, recomputed on every size change.
@@ -58,16 +60,14 @@ struct CellGlyph {
   int width = 1;           // cells
   std::uint8_t lead = 0;   // the display byte (the first byte of a double-byte pair)
   std::uint8_t trail = 0;  // second byte of a double-byte pair
+  bool pair = false;       // a double-byte character (one cell wide when cut by the row's end)
 };
 
-// True when `byte` starts a double-byte character in the PC code page of the host language
-// (`EmulationType` 1 Traditional Chinese, 2 Simplified Chinese, 3 Korean, 4 Japanese).
-bool IsLeadByte(int emulation_type, std::uint8_t byte);
-
-// Splits a row of display codes into the characters to draw. An empty cell (0) is a blank; a lead
-// byte with its trail byte in the next cell is one two-cell character; a lead byte in the last
-// cell, or followed by an empty cell, is drawn as a single cell.
-std::vector<CellGlyph> RowGlyphs(int emulation_type, std::span<const std::uint8_t> characters);
+// Splits a screen row into the characters to draw, double-byte pairs where the presentation
+// space marked them: a pair is one two-cell character (one cell when it starts in the last
+// column, the cell that ends it in the next row then drawing nothing); an empty cell (0) is a
+// blank.
+std::vector<CellGlyph> RowGlyphs(const PresentationSpace& ps, int row);
 
 }  // namespace veltrix
 

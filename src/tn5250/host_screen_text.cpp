@@ -6,7 +6,7 @@
 namespace veltrix {
 
 char32_t GlyphCharacter(int emulation_type, const CellGlyph& glyph) {
-  if (glyph.width == 2) {
+  if (glyph.pair) {
     char32_t c = DoubleByteToUnicode(emulation_type, glyph.lead, glyph.trail);
     return c == 0 ? U'\uFFFD' : c;
   }

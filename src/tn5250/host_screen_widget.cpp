@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -17,7 +19,8 @@ HostScreenWidget::HostScreenWidget(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("Client"));
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setAttribute(Qt::WA_InputMethodEnabled, false);
+  // Input methods (Chinese, Japanese, Korean) commit their text to the host screen.
+  setAttribute(Qt::WA_InputMethodEnabled, true);
   setAutoFillBackground(false);
   metrics_ = FitCellMetrics(contentsRect().width(), contentsRect().height(), Rows(), Columns());
   UpdateFont();
@@ -53,13 +56,11 @@ QString HostScreenWidget::RowText(int row) const {
   if (!connection_) return {};
   const PresentationSpace& ps = connection_->session().Screen();
   if (row < 0 || row >= ps.Rows()) return {};
-  auto chars = ps.CharacterPlane().subspan(static_cast<std::size_t>(row) * kPlaneColumns,
-                                           static_cast<std::size_t>(ps.Columns()));
   auto attrs = ps.AttributePlane().subspan(static_cast<std::size_t>(row) * kPlaneColumns,
                                            static_cast<std::size_t>(ps.Columns()));
   QString text;
   const int language = connection_->emulation_type();
-  for (const CellGlyph& g : RowGlyphs(language, chars)) {
+  for (const CellGlyph& g : RowGlyphs(ps, row)) {
     // Cells that are not displayed read as blanks, as they look.
     char32_t c = (attrs[g.column] & 0x07) == 0x07 ? U' ' : GlyphCharacter(language, g);
     text += QString::fromUcs4(&c, 1);
@@ -68,7 +69,45 @@ QString HostScreenWidget::RowText(int row) const {
   return text;
 }
 
+void HostScreenWidget::OnKeyboardLockChanged(bool) { emit terminalChanged(); }
+
+std::optional<CellAddress> HostScreenWidget::CellAt(const QPoint& point) const {
+  const QPoint p = point - contentsRect().topLeft();
+  if (p.x() < 0 || p.y() < 0 || metrics_.cell_width <= 0 || metrics_.row_height() <= 0) {
+    return std::nullopt;
+  }
+  const CellAddress cell{p.y() / metrics_.row_height(), p.x() / metrics_.cell_width};
+  if (cell.row >= Rows() || cell.column >= Columns()) return std::nullopt;
+  return cell;
+}
+
+void HostScreenWidget::mousePressEvent(QMouseEvent* event) {
+  setFocus(Qt::MouseFocusReason);
+  const std::optional<CellAddress> cell = CellAt(event->position().toPoint());
+  if (connection_ && event->button() == Qt::LeftButton && cell) {
+    connection_->PointAt(cell->row, cell->column);
+  }
+  event->accept();
+}
+
+void HostScreenWidget::inputMethodEvent(QInputMethodEvent* event) {
+  if (connection_) {
+    for (uint c : event->commitString().toUcs4()) connection_->Character(static_cast<char32_t>(c));
+  }
+  event->accept();
+}
+
+QVariant HostScreenWidget::inputMethodQuery(Qt::InputMethodQuery query) const {
+  // The candidate window opens at the cursor.
+  if (query == Qt::ImCursorRectangle && connection_) {
+    return CellRectangle(connection_->session().CursorRow(), connection_->session().CursorColumn());
+  }
+  if (query == Qt::ImEnabled) return connection_ != nullptr && connection_->connected();
+  return QFrame::inputMethodQuery(query);
+}
+
 void HostScreenWidget::OnScreenChanged(const ScreenChange& change) {
+  if (change.kind != ScreenChange::Kind::kNothing) emit terminalChanged();
   switch (change.kind) {
     case ScreenChange::Kind::kNothing:
       return;
@@ -175,8 +214,7 @@ void HostScreenWidget::paintEvent(QPaintEvent* event) {
     if (y > dirty.bottom() || y + rh < dirty.top()) continue;
     const std::size_t base = static_cast<std::size_t>(r) * kPlaneColumns;
     auto attrs = ps.AttributePlane().subspan(base, static_cast<std::size_t>(columns));
-    auto chars = ps.CharacterPlane().subspan(base, static_cast<std::size_t>(columns));
-    std::vector<CellGlyph> glyphs = RowGlyphs(language, chars);
+    std::vector<CellGlyph> glyphs = RowGlyphs(ps, r);
     std::size_t g = 0;
     for (const PaintRun& run : RowRuns(attrs)) {
       const int x = cw * run.first_column;
@@ -189,7 +227,7 @@ void HostScreenWidget::paintEvent(QPaintEvent* event) {
       painter.setPen(run.reverse() ? Qt::white : Qt::black);
       for (; g < glyphs.size() && glyphs[g].column < end_column; ++g) {
         const CellGlyph& glyph = glyphs[g];
-        if (glyph.width == 1 && glyph.lead == ' ') continue;
+        if (!glyph.pair && glyph.lead == ' ') continue;
         char32_t c = GlyphCharacter(language, glyph);
         QString text = QString::fromUcs4(&c, 1);
         const int gx = cw * glyph.column;

@@ -3,6 +3,7 @@
 
 #include <QFont>
 #include <QFrame>
+#include <optional>
 
 #include "tn5250/host_connection.h"
 #include "tn5250/host_screen.h"
@@ -32,10 +33,17 @@ class HostScreenWidget : public QFrame, public SessionListener {
   // SessionListener: the engine's screen changes and alarm.
   void OnScreenChanged(const ScreenChange& change) override;
   void OnAlarm() override;
+  void OnKeyboardLockChanged(bool locked) override;
+
+  // The cell under a point of the widget, if any.
+  std::optional<CellAddress> CellAt(const QPoint& point) const;
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
  signals:
   // Emitted at most once per paint cycle (tests and the status bar count them).
   void painted();
+  // The cursor, the keyboard state or the message-waiting indicator may have changed.
+  void terminalChanged();
 
  protected:
   bool event(QEvent* event) override;
@@ -44,6 +52,10 @@ class HostScreenWidget : public QFrame, public SessionListener {
   // Room for every row and column at the smallest cell: the window never hides row 24.
   QSize minimumSizeHint() const override;
   void keyPressEvent(QKeyEvent* event) override;
+  // An input method's committed text is typed like keyboard text.
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  // A click on an input cell moves the cursor there.
+  void mousePressEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;

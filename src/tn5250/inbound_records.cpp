@@ -4,6 +4,7 @@
 #include <array>
 
 #include "tn5250/code_tables.h"
+#include "tn5250/double_byte.h"
 
 namespace veltrix {
 
@@ -13,6 +14,8 @@ constexpr std::array<std::uint8_t, 10> kHeader = {0x00, 0x00, 0x12, 0xA0, 0x00,
                                                   0x00, 0x04, 0x00, 0x00, 0x03};
 constexpr std::uint8_t kMinus = '-';
 constexpr std::uint8_t kBlank = 0x20;
+constexpr std::uint8_t kShiftOut = 0x0E;
+constexpr std::uint8_t kShiftIn = 0x0F;
 constexpr std::size_t kMaxRecord = 0xFFFF;
 
 // The two READ MDT FIELDS commands differ only in how a NUL in a field is sent.
@@ -39,6 +42,30 @@ void InboundRecords::FinishRecord() {
   host_.out.SendRecord(record_);
 }
 
+template <typename Cell, typename PairAt>
+bool InboundRecords::AppendDoubleByteRun(std::vector<std::uint8_t>& out, int& k, int count,
+                                         const Cell& cell, const PairAt& pair_at) const {
+  // Double-byte characters go back as the host wrote them: shift-out, the host's pairs,
+  // shift-in, in the cells that hold them. A run without its shift cells (blanks on both
+  // sides, inside the field) or with a pair the language cannot convert back stays single bytes.
+  int end = k;
+  while (end + 1 < count && pair_at(end)) end += 2;
+  if (k < 1 || end >= count || cell(k - 1) != kBlank || cell(end) != kBlank) return false;
+  std::vector<std::uint8_t> run;
+  for (int j = k; j < end; j += 2) {
+    std::uint8_t a = cell(j);
+    std::uint8_t b = cell(j + 1);
+    if (!ConvertDoubleByteToHost(host_.emulation_type, a, b)) return false;
+    run.push_back(a);
+    run.push_back(b);
+  }
+  out.back() = kShiftOut;  // the blank before the run
+  out.insert(out.end(), run.begin(), run.end());
+  out.push_back(kShiftIn);
+  k = end;
+  return true;
+}
+
 int InboundRecords::CollectFieldData(std::vector<std::uint8_t>& out,
                                      const FieldDataOptions& options) const {
   const std::size_t start_size = out.size();
@@ -62,17 +89,26 @@ int InboundRecords::CollectFieldData(std::vector<std::uint8_t>& out,
     int count = std::max(f.DataLength(), 1);
     const int plane_left = kPlaneRows * ps.Columns() - ps.Linear(first);
     count = std::max(0, std::min(count, plane_left));
+    const int base = ps.Linear(first);
+    auto cell = [&](int k) {
+      const int i = base + k;
+      return ps.PlaneCharacter(i / ps.Columns(), i % ps.Columns());
+    };
+    auto pair_at = [&](int k) {
+      const int i = base + k;
+      return ps.IsPairStart(i / ps.Columns(), i % ps.Columns());
+    };
     if (options.trim) {
       while (count > 1) {
-        const int i = ps.Linear(first) + count - 1;
-        const std::uint8_t c = ps.PlaneCharacter(i / ps.Columns(), i % ps.Columns());
+        const std::uint8_t c = cell(count - 1);
         if (c != 0 && c != kBlank) break;
+        if (count >= 3 && pair_at(count - 3)) break;  // the shift-in behind a double-byte run
         --count;
       }
     }
     for (int k = 0; k < count; ++k) {
-      const int i = ps.Linear(first) + k;
-      std::uint8_t c = ps.PlaneCharacter(i / ps.Columns(), i % ps.Columns());
+      if (pair_at(k) && AppendDoubleByteRun(out, k, count, cell, pair_at)) continue;
+      std::uint8_t c = cell(k);
       if (options.nul_as_blank && c == 0) c = kBlank;
       out.push_back(DisplayToHost(host_.emulation_type, c));
     }

@@ -41,6 +41,9 @@ class InboundRecords {
   void SendQueryReply();
 
  private:
+  template <typename Cell, typename PairAt>
+  bool AppendDoubleByteRun(std::vector<std::uint8_t>& out, int& k, int count, const Cell& cell,
+                           const PairAt& pair_at) const;
   void StartRecord();
   void FinishRecord();
 

@@ -73,6 +73,63 @@ ScreenChange::Kind Keyboard::CharacterInput(std::uint8_t c) {
   return TypeCharacter(c);
 }
 
+ScreenChange::Kind Keyboard::DoubleByteInput(std::uint8_t first, std::uint8_t second) {
+  host_.out.Trace({TraceCode::kIbmWrite});
+  PresentationSpace& ps = host_.ps;
+  const FieldRecord field = host_.fields.Current();
+  const int index = FieldIndex(field);
+  if (host_.keyboard_locked || !field.IsField() || index < 0 || !Accepts(field, 'A')) {
+    host_.SoundAlarm();
+    return ScreenChange::Kind::kNothing;
+  }
+  // Right after a double-byte character the cursor rests on its shift-in cell: the new one takes
+  // that cell and the next, and the shift-in moves behind it. Otherwise a shift-out cell, the
+  // character and a shift-in cell are written. Shift cells show as blanks, as the host's do.
+  const CellAddress before_pair = ps.Retreat(ps.Retreat(ps.Cursor()));
+  const bool extends = index >= 3 && ps.Character(ps.CursorRow(), ps.CursorColumn()) == kBlank &&
+                       ps.IsPairStart(before_pair.row, before_pair.column);
+  const int cells = extends ? 3 : 4;
+  if (index + cells > field.DataLength()) {
+    host_.SoundAlarm();
+    return ScreenChange::Kind::kNothing;
+  }
+  ps.SetCurrentAttribute(ps.Attribute(ps.CursorRow(), ps.CursorColumn()));
+  if (!extends) ps.WriteAtCursor(kBlank);
+  ps.PutPairAtCursor(first, second);
+  const CellAddress shift_in = ps.Cursor();
+  ps.WriteAtCursor(kBlank);
+  ps.SetCursor(shift_in.row, shift_in.column);
+  MarkModified();
+  return ScreenChange::Kind::kWhole;
+}
+
+ScreenChange::Kind Keyboard::PointAt(CellAddress to) {
+  PresentationSpace& ps = host_.ps;
+  if (host_.keyboard_locked || !ps.InScreen(to.row, to.column)) return ScreenChange::Kind::kNothing;
+  // Only a cell of an input field takes the cursor; elsewhere a click does nothing.
+  const auto records = host_.fields.Records();
+  int target = -1;
+  for (int i = 0; i < static_cast<int>(records.size()) && target < 0; ++i) {
+    const FieldRecord& f = records[i];
+    const int offset = ps.Linear(to) - ps.Linear({f.row, f.column});
+    if (f.IsField() && !f.IsBypass() && offset >= 0 && offset < f.length) target = i;
+  }
+  if (target < 0) return ScreenChange::Kind::kNothing;
+  const FieldRecord& current = host_.fields.Current();
+  const bool same_field = current.IsField() && current.row == records[target].row &&
+                          current.column == records[target].column;
+  if (!same_field && !CurrentFieldComplete()) {
+    host_.SoundAlarm();
+    return ScreenChange::Kind::kNothing;
+  }
+  ps.SetCursor(to.row, to.column);
+  if (!same_field) {
+    host_.fields.SetPosition(target);
+    host_.fields.CurrentFromPosition();
+  }
+  return ScreenChange::Kind::kCaret;
+}
+
 CellAddress Keyboard::FieldCell(const FieldRecord& field, int index) const {
   const int columns = host_.ps.Columns();
   const int linear = field.row * columns + field.column + index;

@@ -19,6 +19,10 @@ class Keyboard {
 
   ScreenChange::Kind KeyInput(HostKey key);
   ScreenChange::Kind CharacterInput(std::uint8_t c);
+  // A double-byte character in the PC code of the host language (an input method's text).
+  ScreenChange::Kind DoubleByteInput(std::uint8_t first, std::uint8_t second);
+  // A click on a cell: moves the cursor there when the cell belongs to an input field.
+  ScreenChange::Kind PointAt(CellAddress to);
 
   // Whether c counts as a printable character (letter, digit, punctuation or blank).
   static bool IsPrintable(std::uint8_t c);

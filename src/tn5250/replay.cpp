@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "tn5250/display_text.h"
+#include "tn5250/double_byte.h"
 
 namespace veltrix {
 
@@ -98,6 +99,18 @@ bool ParseReplayKeys(std::string_view text, int emulation_type, std::vector<KeyS
         return false;
       }
       const std::string_view name = text.substr(i + 1, close - i - 1);
+      int row = 0;
+      int column = 0;
+      char tail = 0;
+      if (name.starts_with("Point ") &&
+          std::sscanf(std::string(name).c_str(), "Point %d %d%c", &row, &column, &tail) == 2) {
+        KeyStroke point;
+        point.row = row;
+        point.column = column;
+        keys.push_back(point);
+        i = close + 1;
+        continue;
+      }
       bool found = false;
       for (const KeyName& k : kKeyNames) {
         if (k.name == name) {
@@ -115,14 +128,29 @@ bool ParseReplayKeys(std::string_view text, int emulation_type, std::vector<KeyS
     }
     const std::size_t at = i;
     const char32_t c = NextUtf8(text, i);
-    const auto display = UnicodeToDisplayByte(emulation_type, c);
-    if (!display) {
+    const TypedCode code = TypedCodeOf(emulation_type, c);
+    if (code.size == 0) {
       error = "character at offset " + std::to_string(at) + " cannot be typed in this language";
       return false;
     }
-    keys.push_back({true, *display, HostKey::kEnter});
+    KeyStroke stroke{true, code.first, HostKey::kEnter};
+    stroke.is_pair = code.size == 2;
+    stroke.second = code.second;
+    keys.push_back(stroke);
   }
   return true;
+}
+
+void Press(Session& session, const KeyStroke& stroke) {
+  if (stroke.row >= 0) {
+    session.PointAt(stroke.row, stroke.column);
+  } else if (stroke.is_pair) {
+    session.TypeDoubleByte(stroke.character, stroke.second);
+  } else if (stroke.is_character) {
+    session.TypeCharacter(stroke.character);
+  } else {
+    session.KeyInput(stroke.key);
+  }
 }
 
 ReplayRun::ReplayRun(const SessionConfig& config) : session_(config, this) {}
@@ -138,13 +166,7 @@ void ReplayRun::Run(std::span<const ReplayStep> steps, std::size_t chunk_size) {
     for (std::size_t at = 0; at < host.size(); at += size) {
       session_.Receive(host.subspan(at, std::min(size, host.size() - at)));
     }
-    for (const KeyStroke& k : step.keys) {
-      if (k.is_character) {
-        session_.TypeCharacter(k.character);
-      } else {
-        session_.KeyInput(k.key);
-      }
-    }
+    for (const KeyStroke& k : step.keys) Press(session_, k);
   }
 }
 
@@ -169,6 +191,7 @@ std::string ReplayRun::Text() const {
   for (std::uint8_t b : sent_) out += " " + Hex2(b);
   out += "\n";
   out += session_.KeyboardLocked() ? "keyboard locked\n" : "keyboard unlocked\n";
+  if (session_.MessageWaiting()) out += "message waiting\n";
   out += "read mode " + std::to_string(static_cast<int>(session_.CurrentReadMode())) + "\n";
   out += "alarms " + std::to_string(alarms_) + "\n";
   for (const TraceEvent& t : traces_) out += "trace " + TraceLine(t) + "\n";

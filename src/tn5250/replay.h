@@ -12,18 +12,28 @@
 
 namespace veltrix {
 
-// One key stroke of a replay: a printable character (display code) or a key.
+// One key stroke of a replay: a printable character (display code), a key, a double-byte
+// character (PC code in character and second) or a pointer click on a cell (row >= 0).
 struct KeyStroke {
   bool is_character = false;
   std::uint8_t character = 0;
   HostKey key = HostKey::kEnter;
+  bool is_pair = false;
+  std::uint8_t second = 0;
+  int row = -1;
+  int column = -1;
 };
+
+// Hands one stroke to the session.
+void Press(Session& session, const KeyStroke& stroke);
 
 // Parses replay keys: text is typed as it stands (UTF-8, converted to the host language's
 // display code), key names in angle brackets (<Enter> <Tab> <Home> <End> <Delete> <Backspace>
 // <FieldPlus> <FieldMinus> <Reset> <PageUp> <PageDown> <F1>..<F12> <Up> <Down> <Left>
-// <Right>) and "<<" for a literal "<". Gives false with a message on an unknown key name or a
-// character the host language cannot type.
+// <Right>), "<Point ROW COLUMN>" for a click on a cell (counted from 0) and "<<" for a literal
+// "<". A character without a single-byte code is typed as a double-byte character when the
+// language has one. Gives false with a message on an unknown key name or a character the host
+// language cannot type.
 bool ParseReplayKeys(std::string_view text, int emulation_type, std::vector<KeyStroke>& keys,
                      std::string& error);
 

@@ -15,9 +15,14 @@ void Session::Connect() { engine_->Connect(); }
 void Session::Receive(std::span<const std::uint8_t> bytes) { engine_->Receive(bytes); }
 void Session::KeyInput(HostKey key) { engine_->KeyInput(key); }
 void Session::TypeCharacter(std::uint8_t c) { engine_->TypeCharacter(c); }
+void Session::TypeDoubleByte(std::uint8_t first, std::uint8_t second) {
+  engine_->TypeDoubleByte(first, second);
+}
+void Session::PointAt(int row, int column) { engine_->PointAt(row, column); }
 const PresentationSpace& Session::Screen() const { return engine_->host.ps; }
 const FieldTable& Session::Fields() const { return engine_->host.fields; }
 bool Session::KeyboardLocked() const { return engine_->host.keyboard_locked; }
+bool Session::MessageWaiting() const { return engine_->host.message_waiting; }
 ReadMode Session::CurrentReadMode() const { return engine_->host.read_mode; }
 bool Session::EchoFlag() const { return engine_->telnet.echo(); }
 bool Session::SuppressGoAheadFlag() const { return engine_->telnet.suppress_go_ahead(); }

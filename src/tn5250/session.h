@@ -45,6 +45,13 @@ class Session {
   // A printable character, given in the display code of the host language (ISO-8859-1 for the
   // single-byte languages, ISO-8859-7 for Greek, JIS X 0201 for Japanese).
   void TypeCharacter(std::uint8_t display_character);
+  // A double-byte character, given in the PC double-byte code of the host language, typed into
+  // the current field between a shift-out and a shift-in cell (a character typed right after
+  // another one shares its shift cells).
+  void TypeDoubleByte(std::uint8_t first, std::uint8_t second);
+  // A pointer click on a cell: the cursor goes there when the cell is in an input field and the
+  // keyboard is free, under the same completeness rule as the arrow keys.
+  void PointAt(int row, int column);
 
   // Read access for painting, capture and tests.
   const PresentationSpace& Screen() const;
@@ -52,6 +59,7 @@ class Session {
   int CursorRow() const { return Screen().CursorRow(); }
   int CursorColumn() const { return Screen().CursorColumn(); }
   bool KeyboardLocked() const;
+  bool MessageWaiting() const;
   ReadMode CurrentReadMode() const;
   bool EchoFlag() const;
   bool SuppressGoAheadFlag() const;

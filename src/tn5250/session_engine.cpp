@@ -55,6 +55,7 @@ void SessionEngine::Connect() {
   host.fields.ClearCurrent();
   host.read_mode = ReadMode::kNone;
   host.SetKeyboardLocked(true);
+  host.message_waiting = false;
   host.changed = false;
   telnet.Reset();
 }
@@ -82,6 +83,16 @@ void SessionEngine::KeyInput(HostKey key) {
 void SessionEngine::TypeCharacter(std::uint8_t c) {
   const CellAddress before = host.ps.Cursor();
   Report(keyboard.CharacterInput(c), before);
+}
+
+void SessionEngine::TypeDoubleByte(std::uint8_t first, std::uint8_t second) {
+  const CellAddress before = host.ps.Cursor();
+  Report(keyboard.DoubleByteInput(first, second), before);
+}
+
+void SessionEngine::PointAt(int row, int column) {
+  const CellAddress before = host.ps.Cursor();
+  Report(keyboard.PointAt({row, column}), before);
 }
 
 }  // namespace veltrix

@@ -30,6 +30,8 @@ class SessionEngine : public EngineOutput, public TelnetPeer {
   void Receive(std::span<const std::uint8_t> bytes);
   void KeyInput(HostKey key);
   void TypeCharacter(std::uint8_t c);
+  void TypeDoubleByte(std::uint8_t first, std::uint8_t second);
+  void PointAt(int row, int column);
 
   SessionConfig config;
   SessionListener* listener;

@@ -128,6 +128,34 @@ TEST(DoubleByteTest, UnknownDisplayCodeHasNoCharacter) {
   EXPECT_EQ(DoubleByteToUnicode(2, 0x81, 0x40), 0u);  // below the GB lead bytes in use
 }
 
+// Typed text needs the way back: every character of a language's table types as a PC code that
+// shows that character, and every PC code goes back to a host pair that converts to it.
+TEST(DoubleByteTest, EveryTableConvertsBackAndTypes) {
+  for (int language = 1; language <= 4; ++language) {
+    const auto table = double_byte_tables::ForEmulationType(language);
+    int checked = 0;
+    for (std::size_t i = 0; i < table.pc_codes.size(); ++i) {
+      const char32_t c = table.code_points[i];
+      std::uint8_t first = 0, second = 0;
+      ASSERT_TRUE(UnicodeToDoubleByte(language, c, first, second))
+          << language << " " << static_cast<unsigned>(c);
+      EXPECT_EQ(DoubleByteToUnicode(language, first, second), c);
+      std::uint8_t host1 = static_cast<std::uint8_t>(table.pc_codes[i] >> 8);
+      std::uint8_t host2 = static_cast<std::uint8_t>(table.pc_codes[i]);
+      ASSERT_TRUE(ConvertDoubleByteToHost(language, host1, host2));
+      ASSERT_TRUE(ConvertDoubleByte(language, host1, host2));
+      EXPECT_EQ((host1 << 8) | host2, table.pc_codes[i]);
+      ++checked;
+    }
+    EXPECT_GT(checked, 1000) << language;
+  }
+  std::uint8_t first = 0, second = 0;
+  EXPECT_FALSE(UnicodeToDoubleByte(0, U'\u4E2D', first, second));  // single-byte language
+  EXPECT_EQ(2, TypedCodeOf(1, U'\u4E2D').size);
+  EXPECT_EQ(1, TypedCodeOf(1, U'A').size);
+  EXPECT_EQ(0, TypedCodeOf(0, U'\u4E2D').size);
+}
+
 TEST(DoubleByteTest, CodePointToUtf8) {
   struct Case {
     char32_t code_point;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "settings/field_registry.h"
+#include "tn5250_test_util.h"
 
 namespace veltrix {
 namespace {
@@ -192,8 +193,31 @@ TEST_F(HostConnectionTest, KeysDoNothingWhileNotConnected) {
   EXPECT_TRUE(link.sent.empty());
 }
 
+// The status line: where to, the keyboard, the cursor from 1, and the host's message-waiting
+// indicator (Write to Display CC2 0x01 on, 0x02 off).
+TEST_F(HostConnectionTest, StatusLineFollowsTheSession) {
+  EXPECT_EQ(TerminalStatus{}, connection.Status());
+  ASSERT_TRUE(Connect());
+  EXPECT_EQ((TerminalStatus{"127.0.0.1:2323", "Input inhibited", "Row 1 Col 1", ""}),
+            connection.Status());
+  auto screen = [this](std::uint8_t cc2) {
+    auto framed = testing::Record({0x04, 0x11, 0x00, cc2, 0x11, 0x06, 0x35});
+    framed.push_back(0xFF);
+    framed.push_back(0xEF);
+    connection.Received(framed);
+  };
+  screen(0x49);  // unlock, message waiting on, cursor stays at the address
+  EXPECT_EQ((TerminalStatus{"127.0.0.1:2323", "Ready", "Row 6 Col 53", "Message waiting"}),
+            connection.Status());
+  screen(0x4A);
+  EXPECT_EQ("", connection.Status().message);
+  connection.Disconnect();
+  EXPECT_EQ(TerminalStatus{}, connection.Status());
+}
+
 TEST_F(HostConnectionTest, WithoutSaveLogNothingIsWritten) {
   ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, false));
+  connection.Opened();
   const std::uint8_t bytes[] = {0xFF, 0xFD, 0x18};
   connection.Received(bytes);
   connection.Disconnect();

@@ -51,41 +51,36 @@ TEST(RowRuns, CutWhereTheLowThreeBitsChange) {
   EXPECT_EQ(8, runs[4].first_column);
 }
 
-TEST(RowGlyphs, SingleByteRowsHaveOneGlyphPerCell) {
-  std::vector<std::uint8_t> row = {'A', 0, 0xE9, 0xA4};
-  std::vector<CellGlyph> glyphs = RowGlyphs(0, row);
-  ASSERT_EQ(4u, glyphs.size());
-  EXPECT_EQ(' ', glyphs[1].lead);
-  EXPECT_EQ(0xA4, glyphs[3].lead);
-  EXPECT_EQ(1, glyphs[3].width);
-}
-
-TEST(RowGlyphs, DoubleBytePairsTakeTwoCells) {
-  std::vector<std::uint8_t> row = {'A', 0xA4, 0x40, 0xB0, 0, 0xC1};
-  std::vector<CellGlyph> glyphs = RowGlyphs(1, row);
-  ASSERT_EQ(5u, glyphs.size());
-  EXPECT_EQ(1, glyphs[1].column);
+// Pairs come from the presentation space's marks, never from the byte values: the same bytes
+// written as single cells stay single glyphs.
+TEST(RowGlyphs, PairsFollowThePresentationSpacesMarks) {
+  PresentationSpace ps;
+  ps.Reset();
+  ps.PutPair(1, 0, 0xA4, 0x40);
+  ps.PutPair(3, 0, 0xB0, 0xA1, /*mark=*/false);
+  ps.PutPair(kScreenColumns - 1, 0, 0xA4, 0x41);  // runs into the next row
+  std::vector<CellGlyph> glyphs = RowGlyphs(ps, 0);
+  ASSERT_EQ(static_cast<std::size_t>(kScreenColumns - 1), glyphs.size());
+  EXPECT_EQ(' ', glyphs[0].lead);  // an empty cell
+  EXPECT_TRUE(glyphs[1].pair);
   EXPECT_EQ(2, glyphs[1].width);
   EXPECT_EQ(0x40, glyphs[1].trail);
-  // A lead byte before an empty cell or at the row's end stands alone.
-  EXPECT_EQ(1, glyphs[2].width);
-  EXPECT_EQ(1, glyphs[4].width);
-  EXPECT_EQ(5, glyphs[4].column);
-}
-
-TEST(RowGlyphs, JapaneseHalfWidthKatakanaAreSingleCells) {
-  std::vector<std::uint8_t> row = {0xB1, 0x82, 0xA0};
-  std::vector<CellGlyph> glyphs = RowGlyphs(4, row);
-  ASSERT_EQ(2u, glyphs.size());
-  EXPECT_EQ(1, glyphs[0].width);
-  EXPECT_EQ(2, glyphs[1].width);
+  EXPECT_FALSE(glyphs[2].pair);
+  EXPECT_EQ(0xB0, glyphs[2].lead);
+  EXPECT_TRUE(glyphs.back().pair);
+  EXPECT_EQ(1, glyphs.back().width);
+  EXPECT_EQ(0x41, glyphs.back().trail);
+  // The next row's first cell ends that pair and shows nothing of its own.
+  std::vector<CellGlyph> next = RowGlyphs(ps, 1);
+  ASSERT_EQ(static_cast<std::size_t>(kScreenColumns), next.size());
+  EXPECT_EQ(' ', next[0].lead);
 }
 
 TEST(GlyphCharacter, SingleAndDoubleByteGlyphs) {
   EXPECT_EQ(U'A', GlyphCharacter(0, CellGlyph{0, 1, 'A', 0}));
   EXPECT_EQ(U'\u0391', GlyphCharacter(5, CellGlyph{0, 1, 0xC1, 0}));
   // A pair that the language's double-byte table does not know.
-  EXPECT_EQ(U'\uFFFD', GlyphCharacter(1, CellGlyph{0, 2, 0x81, 0x30}));
+  EXPECT_EQ(U'\uFFFD', GlyphCharacter(1, CellGlyph{0, 2, 0x81, 0x30, true}));
 }
 
 }  // namespace

@@ -145,11 +145,7 @@ class EnginePipe : public veltrix::SessionListener {
     }
   }
   void Press(const veltrix::KeyStroke& stroke) {
-    if (stroke.is_character) {
-      station.TypeCharacter(stroke.character);
-    } else {
-      station.KeyInput(stroke.key);
-    }
+    veltrix::Press(station, stroke);
     std::vector<std::uint8_t> sent;
     sent.swap(to_host);
     Deliver(host.Receive(sent));

@@ -1,5 +1,7 @@
 #include <QAction>
 #include <QDir>
+#include <QInputMethodEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTcpServer>
@@ -28,12 +30,17 @@ class HostMainWindowTest : public QObject {
   void connectShowsTheHostScreenAndDisconnectTheTree();
   void refusedConnectionSaysWhereAndWhy();
   void connectingCanBeCancelled();
+  void statusBarAndPointerFollowTheTerminal();
   void hostClosingRunsTheDisconnectCommand();
   void cancelledDialogChangesNothing();
 
  private:
   bool Enabled(int command) const { return window_->action(command)->isEnabled(); }
   QString Status() const { return window_->statusBar()->currentMessage(); }
+  QString Label(const char* name) const {
+    auto* label = window_->findChild<QLabel*>(QString::fromLatin1(name));
+    return label != nullptr && label->isVisibleTo(window_.get()) ? label->text() : QString();
+  }
   void PrepareDialog(bool confirm) {
     parts_.connection->SetDialogRunner([confirm](HostIpForm& form, const std::string& entry) {
       form.Open(entry);
@@ -109,8 +116,9 @@ void HostMainWindowTest::refusedConnectionSaysWhereAndWhy() {
   QTRY_VERIFY(!prompt_.shown.empty());
   QCOMPARE(QString::fromStdString(prompt_.shown.front().text),
            QStringLiteral("Can not establish connection"));
-  QCOMPARE(Status(),
-           QStringLiteral("Can not establish connection to 127.0.0.1:%1: Connection refused").arg(port));
+  QCOMPARE(
+      Status(),
+      QStringLiteral("Can not establish connection to 127.0.0.1:%1: Connection refused").arg(port));
   QVERIFY(Enabled(kCmdConnect));
   QVERIFY(!Enabled(kCmdDisconnect));
   QVERIFY(!parts_.screen->isVisible());
@@ -128,6 +136,41 @@ void HostMainWindowTest::connectingCanBeCancelled() {
   QVERIFY(!parts_.connection->connected());
   QVERIFY(!parts_.screen->isVisible());
   QVERIFY(prompt_.shown.empty());
+}
+
+void HostMainWindowTest::statusBarAndPointerFollowTheTerminal() {
+  PrepareDialog(true);
+  window_->ExecuteCommand(kCmdConnect);
+  QTRY_COMPARE(Label("terminal_keyboard"), QStringLiteral("Ready"));
+  QCOMPARE(Label("terminal_host"), QStringLiteral("127.0.0.1:%1").arg(server_->port()));
+  QCOMPARE(Label("terminal_cursor"), QStringLiteral("Row 6 Col 53"));
+  const Session& session = parts_.connection->connection().session();
+  QVERIFY(session.Fields().Count() >= 2);
+  const FieldRecord password = session.Fields().Records()[1];
+
+  // A click on an input cell puts the cursor there; a click on text outside the fields does not.
+  QTest::mouseClick(parts_.screen, Qt::LeftButton, {},
+                    parts_.screen->CellRectangle(password.row, password.column + 2).center());
+  QCOMPARE(session.CursorRow(), password.row);
+  QCOMPARE(session.CursorColumn(), password.column + 2);
+  QCOMPARE(Label("terminal_cursor"),
+           QStringLiteral("Row %1 Col %2").arg(password.row + 1).arg(password.column + 3));
+  QTest::mouseClick(parts_.screen, Qt::LeftButton, {}, parts_.screen->CellRectangle(0, 0).center());
+  QCOMPARE(session.CursorColumn(), password.column + 2);
+
+  // An input method's committed text is typed as keys are.
+  QInputMethodEvent commit;
+  commit.setCommitString(QStringLiteral("ab"));
+  QCoreApplication::sendEvent(parts_.screen, &commit);
+  QCOMPARE(session.Screen().Character(password.row, password.column + 2), std::uint8_t{'a'});
+  QCOMPARE(session.Screen().Character(password.row, password.column + 3), std::uint8_t{'b'});
+
+  // For a look at the window as placed on the screen, status bar included.
+  QVERIFY(window_->grab().save(QDir(VELTRIX_BINARY_DIR).filePath("host_window.png")));
+  QTest::keyClick(parts_.screen, Qt::Key_Return);
+  QTRY_COMPARE(Label("terminal_keyboard"), QStringLiteral("Input inhibited"));
+  window_->ExecuteCommand(kCmdDisconnect);
+  QCOMPARE(Label("terminal_host"), QString());
 }
 
 void HostMainWindowTest::hostClosingRunsTheDisconnectCommand() {

@@ -227,8 +227,9 @@ void HostSessionTest::refusedConnectionShowsItsMessage() {
   const QStringList lines = LogLines();
   QCOMPARE(lines.size(), 2);
   QVERIFY(lines[0].startsWith(QStringLiteral("Failed:")));
-  QCOMPARE(lines[1], QStringLiteral("Can not establish connection to 127.0.0.1:%1: Connection refused")
-                         .arg(port));
+  QCOMPARE(
+      lines[1],
+      QStringLiteral("Can not establish connection to 127.0.0.1:%1: Connection refused").arg(port));
 }
 
 // A host writing screens as fast as loopback takes them: the session keeps up and stays

@@ -280,8 +280,11 @@ class MainWindowTest : public QObject {
     window_->SetHostScreenWidget(host);
     QVERIFY(!host->isVisibleTo(window_.get()));
     bool up = false;
-    window_->SetSessionHandlers(SessionHandlers{[&] { return ConnectAttempt{up = true, true}; }, [&] { up = false; },
-                                                [] { return true; }, [] {}, [] {}});
+    window_->SetSessionHandlers(SessionHandlers{[&] {
+                                                  return ConnectAttempt{up = true, true};
+                                                },
+                                                [&] { up = false; }, [] { return true; }, [] {},
+                                                [] {}});
     window_->ExecuteCommand(kCmdConnect);
     QVERIFY(up);
     QVERIFY(host->isVisibleTo(window_.get()));
@@ -306,7 +309,13 @@ class MainWindowTest : public QObject {
     MainWindow* window = window_.get();
     host->on_death = [window] { window->ExecuteCommand(kCmdDisconnect); };
     window_->SetHostScreenWidget(host);
-    window_->SetSessionHandlers(SessionHandlers{[] { return ConnectAttempt{true, true}; }, [] {}, {}, {}, {}});
+    window_->SetSessionHandlers(SessionHandlers{[] {
+                                                  return ConnectAttempt{true, true};
+                                                },
+                                                [] {},
+                                                {},
+                                                {},
+                                                {}});
     window_->ExecuteCommand(kCmdConnect);
     window_.reset();  // must not crash
     window_ =
@@ -365,7 +374,13 @@ class MainWindowTest : public QObject {
   void focusedHostScreenTakesTheAcceleratorKeys() {
     auto* host = new KeyProbe;
     window_->SetHostScreenWidget(host);
-    window_->SetSessionHandlers(SessionHandlers{[] { return ConnectAttempt{true, true}; }, [] {}, {}, {}, {}});
+    window_->SetSessionHandlers(SessionHandlers{[] {
+                                                  return ConnectAttempt{true, true};
+                                                },
+                                                [] {},
+                                                {},
+                                                {},
+                                                {}});
     window_->show();
     window_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window_.get()));
