@@ -75,8 +75,8 @@ void HostConnectionQt::FailConnecting(const QString& reason) {
   if (socket_ != nullptr) socket_->disconnect(this);  // one failure per attempt
   const std::string why = reason.toStdString();
   // The status bar names the host first; the message box then comes outside the socket's signal.
-  emit connectionFailed(QString::fromStdString(
-      ConnectFailedText(connection_.address(), connection_.port(), why)));
+  emit connectionFailed(
+      QString::fromStdString(ConnectFailedText(connection_.address(), connection_.port(), why)));
   QTimer::singleShot(0, this, [this, why, attempt = attempt_] {
     if (attempt == attempt_) connection_.OpenFailed(why);
   });
