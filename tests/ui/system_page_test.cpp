@@ -224,7 +224,14 @@ class SystemPageTest : public QObject {
     QVERIFY(QTest::qWaitForWindowExposed(&sheet));
     const QSize fresh = sheet.size();
     QVERIFY(sheet.frameGeometry().height() <= sheet.screen()->availableGeometry().height());
-    QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("settings_sheet.png")));
+    // One picture per screen of prompts, for a look at each.
+    auto* screens = sheet.page(0)->findChild<QComboBox*>("prompt_screens");
+    for (int i = 0; i < screens->count(); ++i) {
+      screens->setCurrentIndex(i);
+      QVERIFY(sheet.grab().save(
+          QDir(VELTRIX_BINARY_DIR).filePath(QStringLiteral("settings_sheet_%1.png").arg(i))));
+    }
+    screens->setCurrentIndex(0);
     // An applied file: every text 40 characters long.
     sheet.page(0)->findChild<QComboBox*>("prompt_screens")->setCurrentIndex(3);
     static_cast<SystemPage*>(sheet.page(0))->Apply(*doc_);
