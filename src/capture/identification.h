@@ -1,0 +1,89 @@
+#ifndef VELTRIX_CAPTURE_IDENTIFICATION_H_
+#define VELTRIX_CAPTURE_IDENTIFICATION_H_
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "settings/document.h"
+
+namespace veltrix {
+
+inline constexpr std::string_view kIdentifyFailedMessage =
+    "Can not find enough characteristics to differentiate the host screens.";
+inline constexpr int kMaxPages = static_cast<int>(kPageCount);
+// " Screen buffer full !! \r\n Accept at most %d screens. " (caption "Screen").
+std::string ScreenBufferFullText(int most);
+
+struct HostScreenSize {
+  int rows = 24;
+  int columns = 80;
+};
+// The host screen the screens were captured from: 27 x 132 when any screen holds a character
+// beyond row 24 or column 80, else 24 x 80 (the image keeps no size of its own).
+HostScreenSize HostScreenSizeOf(std::span<const PageRecord> screens);
+
+struct ScreenCell {
+  int row = 0;
+  int column = 0;
+  bool operator==(const ScreenCell&) const = default;
+};
+
+// One attempt: K cells from a start cell with a fixed step.
+struct CellRun {
+  int strategy = 0;  // 0 diagonal, 1 along a row, 2 down a column
+  ScreenCell start;
+  int row_step = 0;
+  int column_step = 0;
+  ScreenCell Cell(int j) const {
+    return {start.row + j * row_step, start.column + j * column_step};
+  }
+};
+// Every run the search tries, in order. Each run's K cells lie on the host screen.
+std::vector<CellRun> CandidateRuns(int k, HostScreenSize size);
+
+struct Identification {
+  bool ok = false;
+  CellRun run;                                     // the run that told the screens apart
+  std::vector<ScreenCell> cells;                   // its K cells
+  std::vector<std::vector<std::uint8_t>> strings;  // per screen, the K characters
+  std::vector<int> duplicate_of;                   // per screen: the screen it repeats, or -1
+  std::vector<int> pages;                          // the screens that become pages, at most 50
+  bool buffer_full = false;                        // the 50th page was reached
+};
+
+// The search: the first run whose characters tell every two different screens apart; identical
+// screens are duplicates of the first of them. Works on at most 100 screens.
+Identification IdentifyScreens(std::span<const PageRecord> screens, int k, HostScreenSize size);
+
+// Writes a successful identification into the document: all 50 page records are cleared, the
+// pages copied in order with their characteristic strings, the cells stored with the first
+// page, K and `TotalPages` set.
+void StoreIdentification(Document& doc, std::span<const PageRecord> screens,
+                         const Identification& id, int k);
+
+// Why an identification came out as it did.
+struct PairDistinction {  // success: what tells two pages apart
+  int a = 0;
+  int b = 0;
+  ScreenCell cell;
+  std::uint8_t first = 0;
+  std::uint8_t second = 0;
+};
+struct PairDifference {  // failure: two different screens no run can tell apart
+  int a = 0;
+  int b = 0;
+  std::vector<ScreenCell> cells;  // where they do differ on the host screen
+};
+struct Explanation {
+  std::vector<PairDistinction> told_apart;
+  std::vector<PairDifference> inseparable;
+};
+Explanation ExplainIdentification(std::span<const PageRecord> screens, int k, HostScreenSize size,
+                                  const Identification& id);
+
+}  // namespace veltrix
+
+#endif  // VELTRIX_CAPTURE_IDENTIFICATION_H_

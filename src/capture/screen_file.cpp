@@ -1,0 +1,127 @@
+#include "capture/screen_file.h"
+
+#include <iterator>
+
+namespace veltrix {
+
+std::array<std::uint8_t, kScreenFileHeaderSize> ScreenFileHeader() {
+  std::array<std::uint8_t, kScreenFileHeaderSize> header{};
+  for (std::size_t i = 0; i < kScreenFileTag.size(); ++i) {
+    header[i] = static_cast<std::uint8_t>(kScreenFileTag[i]);
+  }
+  return header;
+}
+
+std::uint8_t ImageCell(const PageRecord& page, int row, int column) {
+  if (row < 0 || column < 0 || row >= static_cast<int>(kScreenImageRows) ||
+      column >= static_cast<int>(kScreenImageRowBytes)) {
+    return 0;
+  }
+  return page[kScreenImageOffset + static_cast<std::size_t>(row) * kScreenImageRowBytes +
+              static_cast<std::size_t>(column)];
+}
+
+std::vector<FieldEntry> FieldEntries(const PageRecord& page) {
+  std::vector<FieldEntry> entries;
+  for (int i = 0; i < kMaxFieldEntries; ++i) {
+    const std::size_t at = kFieldEntriesOffset + static_cast<std::size_t>(i) * kFieldEntrySize;
+    if (page[at] == 0) break;
+    FieldEntry e;
+    e.number = page[at];
+    e.column = page[at + 2];
+    e.row = page[at + 3];
+    e.format1 = page[at + 4];
+    e.format2 = page[at + 5];
+    e.attribute = page[at + 8];
+    e.length = page[at + 12] | page[at + 13] << 8;
+    entries.push_back(e);
+  }
+  return entries;
+}
+
+std::optional<LoadedScreens> ParseScreenFile(std::span<const std::uint8_t> bytes) {
+  if (bytes.size() < kScreenFileHeaderSize ||
+      (bytes.size() - kScreenFileHeaderSize) % kPageRecordSize != 0) {
+    return std::nullopt;
+  }
+  LoadedScreens loaded;
+  loaded.screens_in_file = (bytes.size() - kScreenFileHeaderSize) / kPageRecordSize;
+  const std::size_t n = std::min(loaded.screens_in_file, kMaxLoadedScreens);
+  loaded.screens.resize(n);
+  for (std::size_t k = 0; k < n; ++k) {
+    const auto from = bytes.subspan(kScreenFileHeaderSize + k * kPageRecordSize, kPageRecordSize);
+    std::copy(from.begin(), from.end(), loaded.screens[k].begin());
+  }
+  return loaded;
+}
+
+std::optional<LoadedScreens> ReadScreenFile(const std::filesystem::path& path, std::string& error) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) {
+    error = "cannot open '" + path.string() + "'";
+    return std::nullopt;
+  }
+  // Only a size that fits the layout is read whole: the check comes first.
+  in.seekg(0, std::ios::end);
+  const std::streamoff size = in.tellg();
+  if (size < 0) {
+    error = "cannot read '" + path.string() + "'";
+    return std::nullopt;
+  }
+  const auto bytes = static_cast<std::size_t>(size);
+  if (bytes < kScreenFileHeaderSize || (bytes - kScreenFileHeaderSize) % kPageRecordSize != 0) {
+    error = std::string(kVersionErrorMessage);
+    return std::nullopt;
+  }
+  const std::size_t wanted =
+      kScreenFileHeaderSize +
+      std::min((bytes - kScreenFileHeaderSize) / kPageRecordSize, kMaxLoadedScreens) *
+          kPageRecordSize;
+  std::vector<std::uint8_t> data(wanted);
+  in.seekg(0);
+  in.read(reinterpret_cast<char*>(data.data()), static_cast<std::streamsize>(wanted));
+  if (in.gcount() != static_cast<std::streamsize>(wanted)) {
+    error = "cannot read '" + path.string() + "'";
+    return std::nullopt;
+  }
+  std::optional<LoadedScreens> loaded = ParseScreenFile(data);
+  if (loaded) loaded->screens_in_file = (bytes - kScreenFileHeaderSize) / kPageRecordSize;
+  return loaded;
+}
+
+std::string FirstScreensReadText(std::size_t in_file) {
+  return "The file holds " + std::to_string(in_file) + " screens; the first " +
+         std::to_string(kMaxLoadedScreens) + " were read.";
+}
+
+bool CaptureFile::Start(const std::filesystem::path& path) {
+  Stop();
+  file_.open(path, std::ios::binary | std::ios::trunc);
+  if (!file_) {
+    file_ = std::ofstream();
+    return false;
+  }
+  path_ = path;
+  const auto header = ScreenFileHeader();
+  file_.write(reinterpret_cast<const char*>(header.data()), header.size());
+  file_.flush();
+  if (!file_) {
+    Stop();
+    return false;
+  }
+  return true;
+}
+
+bool CaptureFile::Append(const PageRecord& page) {
+  if (!file_.is_open()) return false;
+  file_.write(reinterpret_cast<const char*>(page.data()), page.size());
+  file_.flush();
+  return static_cast<bool>(file_);
+}
+
+void CaptureFile::Stop() {
+  if (file_.is_open()) file_.close();
+  file_.clear();
+}
+
+}  // namespace veltrix
