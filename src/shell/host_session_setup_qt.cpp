@@ -1,5 +1,10 @@
 #include "shell/host_session_setup_qt.h"
 
+#include <QTimer>
+#include <filesystem>
+#include <memory>
+
+#include "capture/screen_file.h"
 #include "shell/command_table.h"
 #include "shell/main_window.h"
 #include "tn5250/host_connection_qt.h"
@@ -34,8 +39,11 @@ HostSessionParts InstallHostSession(MainWindow& window) {
   });
 
   HostConnectionQt* connection = parts.connection;
+  // The screen file being captured to, shared by the Telnet commands.
+  auto capture = std::make_shared<CaptureFile>();
   SessionHandlers handlers;
-  handlers.connect = [w, connection] {
+  handlers.connect = [w, connection, capture] {
+    capture->Stop();  // a new connection starts without capturing
     ConnectAttempt attempt;
     attempt.started = connection->ConnectToHost(w->document());
     const HostConnection& c = connection->connection();
@@ -43,10 +51,36 @@ HostSessionParts InstallHostSession(MainWindow& window) {
     attempt.status = ConnectingText(c.address(), c.port());
     return attempt;
   };
-  handlers.disconnect = [connection, status] {
+  handlers.disconnect = [connection, status, capture] {
     connection->DisconnectFromHost();
+    capture->Stop();
     status->Refresh();
   };
+  handlers.start_capture = [w, capture] {
+    const std::optional<std::string> name =
+        w->chooser().ChooseFileToSave({std::string(kScreenFileFilter), "*.SCR"}, "SCR");
+    if (!name) return false;
+    if (!capture->Start(std::filesystem::path(*name))) {
+      w->prompt().ShowMessage("Error", kCreateFileFailedMessage, PromptIcon::kExclamation);
+      return false;
+    }
+    return true;
+  };
+  handlers.capture = [w, connection, capture] {
+    // The copy waits for the end of a record the host is still sending: one whole screen.
+    connection->connection().CaptureScreen([w, capture](const PageRecord& page) {
+      if (!capture->capturing() || capture->Append(page)) return;
+      // A full disk must not lose screens unnoticed: say so and stop capturing.
+      const std::string file = capture->path().string();
+      capture->Stop();
+      w->prompt().ShowMessage(
+          "Error",
+          "Writing the screen file " + file + " failed; it is incomplete. Capture stopped.",
+          PromptIcon::kExclamation);
+      QTimer::singleShot(0, w, [w] { w->ExecuteCommand(kCmdStopCapture); });
+    });
+  };
+  handlers.stop_capture = [capture] { capture->Stop(); };
   window.SetSessionHandlers(std::move(handlers));
   QObject::connect(connection, &HostConnectionQt::disconnectRequested, w,
                    [w] { w->ExecuteCommand(kCmdDisconnect); });

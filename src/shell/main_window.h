@@ -50,6 +50,7 @@ class MainWindow : public QMainWindow {
 
   Document& document() { return *doc_; }
   UserPrompt& prompt() { return *prompt_; }
+  FileChooser& chooser() { return *chooser_; }
 
   void SetSessionHandlers(SessionHandlers handlers);
   // Download settings (1210) and Download Program (1220) call this with the download mode.

@@ -40,6 +40,9 @@ class DataStreamInterpreter {
   // Notes `code` at the first record byte of the command or order being carried out.
   void Trace(TraceCode code) { host_.out.Trace({code, item_offset_}); }
 
+  // True between two records: no part of a record is waiting for the rest of it.
+  bool BetweenRecords() const { return state_ == State::kHeader && item_count_ == 0; }
+
   HostContext& host() { return host_; }
   InboundRecords& inbound() { return inbound_; }
   bool double_byte() const { return double_byte_; }

@@ -95,6 +95,7 @@ void HostConnection::OpenFailed(std::string_view reason) {
 void HostConnection::Disconnect() {
   const State was = state_;
   state_ = State::kIdle;
+  captures_.clear();
   if (was == State::kIdle) return;
   link_.Close();
   if (was == State::kConnected) log_.LogClose();
@@ -104,6 +105,22 @@ void HostConnection::Received(std::span<const std::uint8_t> bytes) {
   if (!connected()) return;
   log_.LogReceive(bytes);
   session_->Receive(bytes);
+  if (!captures_.empty()) DeliverCaptures();
+}
+
+void HostConnection::CaptureScreen(std::function<void(const PageRecord&)> done) {
+  if (!connected()) return;
+  captures_.push_back(std::move(done));
+  DeliverCaptures();
+}
+
+void HostConnection::DeliverCaptures() {
+  if (!session_->BetweenRecords()) return;
+  auto page = std::make_unique<PageRecord>();
+  session_->CopyScreenRecord(*page);
+  std::vector<std::function<void(const PageRecord&)>> waiting;
+  waiting.swap(captures_);
+  for (auto& done : waiting) done(*page);
 }
 
 void HostConnection::HostClosed() {

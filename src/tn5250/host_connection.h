@@ -2,11 +2,13 @@
 #define VELTRIX_TN5250_HOST_CONNECTION_H_
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "settings/document.h"
 #include "tn5250/host_ip.h"
@@ -101,6 +103,10 @@ class HostConnection : private SessionListener {
   // A receive error: logs the empty receive; the caller then disconnects.
   void ReceiveFailed();
 
+  // Capture: `done` gets the screen as a page record once it is one whole picture (now, or after
+  // the rest of a record the host is still sending). Only while connected.
+  void CaptureScreen(std::function<void(const PageRecord&)> done);
+
   // The keyboard, only while connected.
   // What a key changed on the screen goes to the view's OnScreenChanged. False when the key went
   // nowhere (not connected, no host key, no code in the host language).
@@ -127,6 +133,7 @@ class HostConnection : private SessionListener {
   void OnScreenChanged(const ScreenChange& change) override;
   void OnAlarm() override;
   void OnKeyboardLockChanged(bool locked) override;
+  void DeliverCaptures();
 
   HostLink& link_;
   SessionLog& log_;
@@ -139,6 +146,7 @@ class HostConnection : private SessionListener {
   State state_ = State::kIdle;
   std::string address_;
   std::uint16_t port_ = 0;
+  std::vector<std::function<void(const PageRecord&)>> captures_;  // waiting for a whole screen
 };
 
 }  // namespace veltrix

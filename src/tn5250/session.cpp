@@ -1,5 +1,7 @@
 #include "tn5250/session.h"
 
+#include <algorithm>
+
 #include "tn5250/session_engine.h"
 
 namespace veltrix {
@@ -22,6 +24,24 @@ void Session::PointAt(int row, int column) { engine_->PointAt(row, column); }
 const PresentationSpace& Session::Screen() const { return engine_->host.ps; }
 const FieldTable& Session::Fields() const { return engine_->host.fields; }
 bool Session::KeyboardLocked() const { return engine_->host.keyboard_locked; }
+bool Session::BetweenRecords() const { return engine_->interpreter.BetweenRecords(); }
+
+void Session::CopyScreenRecord(PageRecord& page) const {
+  constexpr std::size_t kImageOffset = 80;
+  constexpr std::size_t kFieldsOffset = 4304;
+  constexpr std::size_t kMaxFields = 255;
+  page.fill(0);
+  const auto plane = Screen().CharacterPlane();
+  std::copy(plane.begin(), plane.end(), page.begin() + kImageOffset);
+  std::size_t at = kFieldsOffset;
+  for (const FieldRecord& f : Fields().Records()) {
+    if (at + kFieldRecordSize > kFieldsOffset + kMaxFields * kFieldRecordSize) break;
+    const auto bytes = f.Serialize();
+    std::copy(bytes.begin(), bytes.end(), page.begin() + static_cast<std::ptrdiff_t>(at));
+    at += kFieldRecordSize;
+  }
+}
+
 bool Session::MessageWaiting() const { return engine_->host.message_waiting; }
 ReadMode Session::CurrentReadMode() const { return engine_->host.read_mode; }
 bool Session::EchoFlag() const { return engine_->telnet.echo(); }

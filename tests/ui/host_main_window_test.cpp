@@ -1,13 +1,17 @@
 #include <QAction>
 #include <QDir>
+#include <QFileInfo>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTcpServer>
+#include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
 
+#include "capture/identification.h"
+#include "capture/screen_file.h"
 #include "demo_host/demo_host_server.h"
 #include "settings/field_registry.h"
 #include "shell/command_table.h"
@@ -31,6 +35,7 @@ class HostMainWindowTest : public QObject {
   void refusedConnectionSaysWhereAndWhy();
   void connectingCanBeCancelled();
   void statusBarAndPointerFollowTheTerminal();
+  void capturesThreeScreensIntoAFile();
   void hostClosingRunsTheDisconnectCommand();
   void cancelledDialogChangesNothing();
 
@@ -171,6 +176,51 @@ void HostMainWindowTest::statusBarAndPointerFollowTheTerminal() {
   QTRY_COMPARE(Label("terminal_keyboard"), QStringLiteral("Input inhibited"));
   window_->ExecuteCommand(kCmdDisconnect);
   QCOMPARE(Label("terminal_host"), QString());
+}
+
+void HostMainWindowTest::capturesThreeScreensIntoAFile() {
+  QTemporaryDir dir;
+  const QString path = dir.filePath(QStringLiteral("three.SCR"));
+  chooser_.save_result = path.toStdString();
+  PrepareDialog(true);
+  window_->ExecuteCommand(kCmdConnect);
+  QTRY_VERIFY(parts_.screen->RowText(0).contains(QStringLiteral("Sign On")));
+  QTRY_VERIFY(!parts_.connection->connection().session().KeyboardLocked());
+  window_->ExecuteCommand(kCmdStartCapture);
+  QCOMPARE(Status(), QStringLiteral("Ready to capture"));
+  QCOMPARE(chooser_.last_filter.description, std::string("Host Session Screens (*.SCR)"));
+  QCOMPARE(chooser_.last_extension, std::string("SCR"));
+  QVERIFY(Enabled(kCmdCapture) && Enabled(kCmdStopCapture) && !Enabled(kCmdStartCapture));
+  window_->ExecuteCommand(kCmdCapture);
+  QCOMPARE(Status(), QStringLiteral("Captured : 1 screens"));
+  QTest::keyClicks(parts_.screen, QStringLiteral("bob"));
+  QTest::keyClick(parts_.screen, Qt::Key_Return);
+  QTRY_VERIFY(parts_.screen->RowText(0).contains(QStringLiteral("Main Menu")));
+  QTRY_VERIFY(!parts_.connection->connection().session().KeyboardLocked());
+  window_->ExecuteCommand(kCmdCapture);
+  QTest::keyClicks(parts_.screen, QStringLiteral("1"));
+  QTest::keyClick(parts_.screen, Qt::Key_Return);
+  QTRY_VERIFY(parts_.screen->RowText(6).contains(QStringLiteral("ITEM0001")));
+  window_->ExecuteCommand(kCmdCapture);
+  QCOMPARE(Status(), QStringLiteral("Captured : 3 screens"));
+  window_->ExecuteCommand(kCmdStopCapture);
+  QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture));
+  QCOMPARE(QFileInfo(path).size(), qint64(20 + 3 * 10424));
+
+  // The file's three screens are told apart.
+  std::string error;
+  const auto loaded = ReadScreenFile(path.toStdString(), error);
+  QVERIFY(loaded.has_value());
+  const Identification id = IdentifyScreens(loaded->screens, 20, HostScreenSizeOf(loaded->screens));
+  QVERIFY(id.ok);
+  QCOMPARE(id.pages.size(), std::size_t{3});
+
+  // Disconnecting while capturing closes the file; the next connection starts without capture.
+  window_->ExecuteCommand(kCmdStartCapture);
+  window_->ExecuteCommand(kCmdDisconnect);
+  window_->ExecuteCommand(kCmdConnect);
+  QTRY_VERIFY(parts_.connection->connected());
+  QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture) && !Enabled(kCmdStopCapture));
 }
 
 void HostMainWindowTest::hostClosingRunsTheDisconnectCommand() {
