@@ -43,6 +43,9 @@ int RunGetCommand(std::span<const std::string> args, CliIo& io);
 int RunSetCommand(std::span<const std::string> args, CliIo& io);
 int RunDiffCommand(std::span<const std::string> args, CliIo& io);
 int RunSummaryCommand(std::span<const std::string> args, CliIo& io);
+// Defined in screen_commands.cpp.
+int RunScreensCommand(std::span<const std::string> args, CliIo& io);
+int RunIdentifyCommand(std::span<const std::string> args, CliIo& io);
 // Defined in replay_command.cpp.
 int RunReplayCommand(std::span<const std::string> args, CliIo& io);
 

@@ -23,6 +23,12 @@ constexpr Command kCommands[] = {
     {"replay", "[--emulation N] [--local-name NAME] [--keys KEYS] [--json] STREAM",
      "feed host bytes (a file, - for standard input) to a TN5250 session, type KEYS, print it",
      RunReplayCommand},
+    {"screens", "FILE.SCR [--json]",
+     "print each captured screen of a screen file: its rows, then its fields", RunScreensCommand},
+    {"identify", "FILE.SCR [--json] [--into DOC.QVL] [--explain]",
+     "tell a screen file's screens apart as Load does; --into stores the pages in DOC; exit 1 when "
+     "they cannot be told apart",
+     RunIdentifyCommand},
 };
 
 }  // namespace
@@ -42,7 +48,8 @@ void PrintHelp(std::ostream& out) {
     out << "  " << c.name << ' ' << c.usage << "\n      " << c.description << '\n';
   }
   out << "\nNumbers are decimal, texts plain text, byte strings hexadecimal pairs (0D 41).\n"
-         "Exit status: 0 success, 1 the files differ (diff), 2 bad usage or unreadable input.\n";
+         "Exit status: 0 success, 1 the files differ (diff) or the screens cannot be told apart\n"
+         "(identify), 2 bad usage or unreadable input.\n";
 }
 
 int Fail(CliIo& io, std::string_view message) {

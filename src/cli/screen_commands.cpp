@@ -1,0 +1,250 @@
+// veltrix-cli screens and identify: what a screen file holds and how its screens are told apart.
+#include <cstdio>
+#include <ostream>
+
+#include "capture/identification.h"
+#include "capture/screen_file.h"
+#include "cli/cli_args.h"
+#include "cli/cli_command.h"
+#include "cli/settings_input.h"
+#include "settings/field.h"
+#include "settings/screen/screen_pages.h"
+#include "tn5250/display_text.h"
+
+namespace veltrix::cli {
+namespace {
+
+std::string Hex(std::span<const std::uint8_t> bytes) {
+  static constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string out;
+  for (std::uint8_t b : bytes) {
+    out += kDigits[b >> 4];
+    out += kDigits[b & 0x0F];
+  }
+  return out;
+}
+
+std::string Json(std::string_view text) {
+  std::string out = "\"";
+  for (char c : text) {
+    if (c == '"' || c == '\\') out += '\\';
+    if (static_cast<unsigned char>(c) < 0x20) {
+      char buf[8];
+      std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned char>(c));
+      out += buf;
+      continue;
+    }
+    out += c;
+  }
+  return out + "\"";
+}
+
+// A row of a screen image as text: empty cells as blanks.
+std::string RowText(const PageRecord& page, int row, int columns) {
+  std::string text;
+  for (int c = 0; c < columns; ++c) {
+    const std::uint8_t b = ImageCell(page, row, c);
+    AppendUtf8(text, b == 0 ? U' ' : DisplayByteToUnicode(0, b));
+  }
+  return text;
+}
+
+std::string CellText(const ScreenCell& cell) {
+  return "row " + std::to_string(cell.row) + " column " + std::to_string(cell.column);
+}
+
+std::string CharacterText(std::uint8_t b) {
+  std::string text = "'";
+  AppendUtf8(text, b == 0 ? U' ' : DisplayByteToUnicode(0, b));
+  return text + "'" + (b == 0 ? " (empty)" : "");
+}
+
+std::optional<LoadedScreens> LoadScreens(const std::string& path, CliIo& io, const char* command,
+                                         bool json, int& exit_code) {
+  std::string error;
+  std::optional<LoadedScreens> loaded = ReadScreenFile(path, error);
+  if (loaded) {
+    if (loaded->screens_in_file > loaded->screens.size()) {
+      Warn(io, FirstScreensReadText(loaded->screens_in_file));
+    }
+    return loaded;
+  }
+  if (error == kVersionErrorMessage) {
+    io.out << (json ? "{\"error\": " + Json(error) + "}" : error) << '\n';
+    exit_code = kExitDiffers;
+  } else {
+    exit_code = Fail(io, std::string(command) + ": " + error);
+  }
+  return std::nullopt;
+}
+
+void PrintExplanationText(const Explanation& why, std::ostream& out) {
+  for (const PairDistinction& d : why.told_apart) {
+    out << "screens " << d.a + 1 << " and " << d.b + 1 << " are told apart at " << CellText(d.cell)
+        << ": " << CharacterText(d.first) << " / " << CharacterText(d.second) << '\n';
+  }
+  constexpr std::size_t kShown = 12;
+  for (const PairDifference& d : why.inseparable) {
+    out << "screens " << d.a + 1 << " and " << d.b + 1 << " differ only at";
+    for (std::size_t i = 0; i < d.cells.size() && i < kShown; ++i) {
+      out << (i == 0 ? " " : ", ") << CellText(d.cells[i]);
+    }
+    if (d.cells.size() > kShown) out << " and " << d.cells.size() - kShown << " more cells";
+    out << ", where no run of characteristic cells reaches; capture one of them differently\n";
+  }
+}
+
+std::string ExplanationJson(const Explanation& why) {
+  std::string out = "{\"told_apart\": [";
+  for (std::size_t i = 0; i < why.told_apart.size(); ++i) {
+    const PairDistinction& d = why.told_apart[i];
+    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a) +
+           ", \"b\": " + std::to_string(d.b) + ", \"row\": " + std::to_string(d.cell.row) +
+           ", \"column\": " + std::to_string(d.cell.column) + ", \"first\": \"" +
+           Hex({&d.first, 1}) + "\", \"second\": \"" + Hex({&d.second, 1}) + "\"}";
+  }
+  out += "], \"inseparable\": [";
+  for (std::size_t i = 0; i < why.inseparable.size(); ++i) {
+    const PairDifference& d = why.inseparable[i];
+    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a) +
+           ", \"b\": " + std::to_string(d.b) + ", \"cells\": [";
+    for (std::size_t j = 0; j < d.cells.size(); ++j) {
+      out += (j ? ", [" : "[") + std::to_string(d.cells[j].row) + ", " +
+             std::to_string(d.cells[j].column) + "]";
+    }
+    out += "]}";
+  }
+  return out + "]}";
+}
+
+}  // namespace
+
+int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
+  constexpr std::string_view kFlags[] = {"--json"};
+  const ParsedArgs parsed = ParseArgs(args, {}, kFlags);
+  if (!parsed.error.empty()) return Fail(io, "screens: " + parsed.error);
+  if (std::string error = ExpectPositional(parsed, 1, 1); !error.empty()) {
+    return Fail(io, "screens: " + error + " (screens FILE.SCR [--json])");
+  }
+  const bool json = parsed.has_flag("--json");
+  int exit_code = kExitOk;
+  const auto loaded = LoadScreens(parsed.positional[0], io, "screens", json, exit_code);
+  if (!loaded) return exit_code;
+  const HostScreenSize size = HostScreenSizeOf(loaded->screens);
+  if (json) io.out << "{\"screens\": [";
+  for (std::size_t s = 0; s < loaded->screens.size(); ++s) {
+    const PageRecord& page = loaded->screens[s];
+    if (json) {
+      io.out << (s ? ", " : "") << "{\"rows\": [";
+      for (int r = 0; r < size.rows; ++r)
+        io.out << (r ? ", " : "") << Json(RowText(page, r, size.columns));
+      io.out << "], \"fields\": [";
+    } else {
+      io.out << "screen " << s + 1 << '\n';
+      for (int r = 0; r < size.rows; ++r) io.out << RowText(page, r, size.columns) << '\n';
+    }
+    const std::vector<FieldEntry> fields = FieldEntries(page);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+      const FieldEntry& f = fields[i];
+      const std::uint8_t ffw[] = {f.format1, f.format2};
+      if (json) {
+        io.out << (i ? ", " : "") << "{\"number\": " << f.number << ", \"row\": " << f.row
+               << ", \"column\": " << f.column << ", \"length\": " << f.length << ", \"ffw\": \""
+               << Hex(ffw) << "\", \"attribute\": \"" << Hex({&f.attribute, 1}) << "\"}";
+      } else {
+        io.out << "field number=" << f.number << " row=" << f.row << " column=" << f.column
+               << " length=" << f.length << " ffw=" << Hex(ffw)
+               << " attribute=" << Hex({&f.attribute, 1}) << '\n';
+      }
+    }
+    if (json) io.out << "]}";
+  }
+  if (json) io.out << "]}\n";
+  return kExitOk;
+}
+
+int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
+  constexpr std::string_view kValues[] = {"--into"};
+  constexpr std::string_view kFlags[] = {"--json", "--explain"};
+  const ParsedArgs parsed = ParseArgs(args, kValues, kFlags);
+  if (!parsed.error.empty()) return Fail(io, "identify: " + parsed.error);
+  if (std::string error = ExpectPositional(parsed, 1, 1); !error.empty()) {
+    return Fail(
+        io, "identify: " + error + " (identify FILE.SCR [--json] [--into DOC.QVL] [--explain])");
+  }
+  const bool json = parsed.has_flag("--json");
+  const bool explain = parsed.has_flag("--explain");
+  std::unique_ptr<Document> doc;
+  const std::string* into = parsed.value("--into");
+  if (into != nullptr) {
+    doc = LoadSettingsInput(*into, io);
+    if (!doc) return kExitUsage;
+  }
+  int exit_code = kExitOk;
+  const auto loaded = LoadScreens(parsed.positional[0], io, "identify", json, exit_code);
+  if (!loaded) return exit_code;
+  const int k = doc ? static_cast<int>(ReadNumber(doc->record, kCharacteristicLength))
+                    : kDefaultCharacteristicLength;
+  const HostScreenSize size = HostScreenSizeOf(loaded->screens);
+  const Identification id = IdentifyScreens(loaded->screens, k, size);
+  const Explanation why =
+      explain ? ExplainIdentification(loaded->screens, k, size, id) : Explanation{};
+  if (!id.ok) {
+    if (json) {
+      io.out << "{\"error\": " << Json(kIdentifyFailedMessage);
+      if (explain) io.out << ", \"explain\": " << ExplanationJson(why);
+      io.out << "}\n";
+    } else {
+      io.out << kIdentifyFailedMessage << '\n';
+      if (explain) PrintExplanationText(why, io.out);
+    }
+    return kExitDiffers;
+  }
+  if (json) {
+    io.out << "{\"pages\": [";
+    for (std::size_t i = 0; i < id.pages.size(); ++i) io.out << (i ? ", " : "") << id.pages[i];
+    io.out << "], \"duplicates\": [";
+    bool first = true;
+    for (std::size_t b = 0; b < id.duplicate_of.size(); ++b) {
+      if (id.duplicate_of[b] < 0) continue;
+      io.out << (first ? "" : ", ") << "{\"screen\": " << b << ", \"of\": " << id.duplicate_of[b]
+             << "}";
+      first = false;
+    }
+    io.out << "], \"strategy\": " << id.run.strategy << ", \"cells\": [";
+    for (std::size_t j = 0; j < id.cells.size(); ++j) {
+      io.out << (j ? ", " : "") << "[" << id.cells[j].row << ", " << id.cells[j].column << "]";
+    }
+    io.out << "], \"strings\": [";
+    for (std::size_t i = 0; i < id.pages.size(); ++i) {
+      io.out << (i ? ", " : "") << "\"" << Hex(id.strings[static_cast<std::size_t>(id.pages[i])])
+             << "\"";
+    }
+    io.out << "]";
+    if (explain) io.out << ", \"explain\": " << ExplanationJson(why);
+    io.out << "}\n";
+  } else {
+    static constexpr const char* kShapes[] = {"diagonal", "along a row", "down a column"};
+    io.out << loaded->screens.size() << " screens, " << id.pages.size() << " pages; "
+           << kShapes[id.run.strategy] << " from " << CellText(id.run.start) << '\n';
+    for (std::size_t i = 0; i < id.pages.size(); ++i) {
+      io.out << "page " << i + 1 << ": screen " << id.pages[i] + 1 << '\n';
+    }
+    for (std::size_t b = 0; b < id.duplicate_of.size(); ++b) {
+      if (id.duplicate_of[b] >= 0) {
+        io.out << "screen " << b + 1 << " repeats screen " << id.duplicate_of[b] + 1 << '\n';
+      }
+    }
+    if (id.buffer_full) io.out << ScreenBufferFullText(kMaxPages) << '\n';
+    if (explain) PrintExplanationText(why, io.out);
+  }
+  if (doc) {
+    // As the Screen page's Load does.
+    StoreIdentification(*doc, loaded->screens, id, k);
+    WriteNumber(doc->record, kScreensLoaded, 1);
+    if (!SaveSettingsOutput(*doc, *into, io)) return kExitUsage;
+  }
+  return kExitOk;
+}
+
+}  // namespace veltrix::cli
