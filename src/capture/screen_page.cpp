@@ -1,0 +1,276 @@
+#include "capture/screen_page.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "capture/identification.h"
+#include "capture/screen_file.h"
+#include "resources/fixed_font_qt.h"
+#include "settings/emulation/emulation_settings.h"
+#include "settings/field.h"
+
+namespace veltrix {
+namespace {
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QPushButton* Button(const QString& text, const char* name) {
+  auto* button = new QPushButton(text);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  return button;
+}
+
+QLineEdit* ReadOnlyEdit(const char* name, int index) {
+  auto* edit = new QLineEdit;
+  edit->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index + 1));
+  edit->setReadOnly(true);
+  edit->setFocusPolicy(Qt::NoFocus);
+  edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 12);
+  return edit;
+}
+
+}  // namespace
+
+ScreenPage::ScreenPage(Document& doc, QWidget* parent) : SettingsPage(doc, parent), editor_(doc) {
+  setObjectName("SCREEN_DLG");
+  ask_file_ = [this]() -> std::optional<std::string> {
+    const QString name =
+        QFileDialog::getOpenFileName(this, QString(), QString(), Text(kScreenFileFilter));
+    if (name.isEmpty()) return std::nullopt;
+    return name.toStdString();
+  };
+  show_message_ = [this](const QString& caption, const QString& text) {
+    QMessageBox::warning(window(), caption, text);
+  };
+  ask_ = [this](const QString& caption, const QString& text) {
+    return QMessageBox::question(window(), caption, text, QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+  };
+  Build();
+  ConnectControls();
+}
+
+void ScreenPage::Build() {
+  // Left: loading, the page count and the preview of the host screen with its navigation.
+  load_ = Button(tr("Load Host Session Screens..."), "load_screens");
+  total_ = new QLabel;
+  total_->setObjectName("total_pages");
+  delete_ = Button(tr("Delete Current Page ..."), "delete_page");
+  current_ = new QLabel;
+  current_->setObjectName("current_page");
+  preview_ = new QPlainTextEdit;
+  preview_->setObjectName("preview");
+  preview_->setReadOnly(true);
+  preview_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  preview_->setFont(FixedPitchFont());
+  preview_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  preview_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  caret_ = new QLabel;
+  caret_->setObjectName("caret_position");
+  const char* kNavigationNames[] = {"first_page", "previous_page", "next_page", "last_page"};
+  const char* kNavigationTexts[] = {"|<<", "<<", ">>", ">>|"};
+  auto* navigation = new QHBoxLayout;
+  navigation->addWidget(new QLabel(tr("(Row, Column) =")));
+  navigation->addWidget(caret_, 1);
+  for (int i = 0; i < 4; ++i) {
+    navigation_[i] = Button(QString::fromLatin1(kNavigationTexts[i]), kNavigationNames[i]);
+    navigation_[i]->setFixedWidth(navigation_[i]->fontMetrics().horizontalAdvance("|<<|") + 20);
+    navigation->addWidget(navigation_[i]);
+  }
+  auto* counts = new QGridLayout;
+  counts->addWidget(load_, 0, 0);
+  counts->addWidget(new QLabel(tr("Total Pages :")), 0, 1);
+  counts->addWidget(total_, 0, 2);
+  counts->addWidget(delete_, 1, 0);
+  counts->addWidget(new QLabel(tr("Current Page :")), 1, 1);
+  counts->addWidget(current_, 1, 2);
+  counts->setColumnStretch(2, 1);
+  auto* left = new QVBoxLayout;
+  left->addLayout(counts);
+  left->addWidget(preview_, 1);
+  left->addLayout(navigation);
+
+  // Right: the terminal size and the eight visible lines.
+  reformat_ = new QLabel;
+  reformat_->setObjectName("reformat_page");
+  size_ = new QComboBox;
+  size_->setObjectName("terminal_size");
+  auto* size_row = new QHBoxLayout;
+  size_row->addWidget(reformat_);
+  size_row->addWidget(new QLabel(tr("to :")));
+  size_row->addWidget(size_, 1);
+  auto* lines = new QGridLayout;
+  lines->addWidget(new QLabel(tr("Line No.")), 0, 0);
+  lines->addWidget(new QLabel(tr("Field")), 0, 1);
+  lines->addWidget(new QLabel(tr("x")), 0, 2);
+  lines->addWidget(new QLabel(tr("y")), 0, 3);
+  lines->addWidget(new QLabel(tr("Terminal Screen")), 0, 4);
+  for (int s = 0; s < kVisibleLines; ++s) {
+    numbers_[s] = new QLabel;
+    numbers_[s]->setObjectName(QStringLiteral("line_number_%1").arg(s + 1));
+    fields_[s] = new QComboBox;
+    fields_[s]->setObjectName(QStringLiteral("line_field_%1").arg(s + 1));
+    fields_[s]->setMinimumContentsLength(3);
+    xs_[s] = ReadOnlyEdit("line_x", s);
+    ys_[s] = ReadOnlyEdit("line_y", s);
+    texts_[s] = new QLineEdit;
+    texts_[s]->setObjectName(QStringLiteral("line_text_%1").arg(s + 1));
+    texts_[s]->setFont(FixedPitchFont());
+    texts_[s]->setMinimumWidth(texts_[s]->fontMetrics().horizontalAdvance(QString(20, 'M')) + 12);
+    lines->addWidget(numbers_[s], s + 1, 0);
+    lines->addWidget(fields_[s], s + 1, 1);
+    lines->addWidget(xs_[s], s + 1, 2);
+    lines->addWidget(ys_[s], s + 1, 3);
+    lines->addWidget(texts_[s], s + 1, 4);
+  }
+  lines->setColumnStretch(4, 1);
+  lines_back_ = Button(QStringLiteral("<<"), "lines_back");
+  lines_forward_ = Button(QStringLiteral(">>"), "lines_forward");
+  reset_ = Button(tr("Reset"), "reset");
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(lines_back_);
+  buttons->addWidget(lines_forward_);
+  buttons->addStretch();
+  buttons->addWidget(reset_);
+  auto* right = new QVBoxLayout;
+  right->addLayout(size_row);
+  right->addLayout(lines);
+  right->addLayout(buttons);
+  right->addStretch();
+
+  auto* layout = new QHBoxLayout(this);
+  layout->addLayout(left, 1);
+  layout->addLayout(right, 0);
+}
+
+void ScreenPage::ConnectControls() {
+  connect(load_, &QPushButton::clicked, this, &ScreenPage::LoadFile);
+  connect(delete_, &QPushButton::clicked, this, &ScreenPage::DeletePage);
+  auto on = [this](QPushButton* button, void (ScreenEditor::*action)()) {
+    connect(button, &QPushButton::clicked, this, [this, action] {
+      (editor_.*action)();
+      ShowView();
+    });
+  };
+  on(navigation_[0], &ScreenEditor::First);
+  on(navigation_[1], &ScreenEditor::Previous);
+  on(navigation_[2], &ScreenEditor::Next);
+  on(navigation_[3], &ScreenEditor::Last);
+  on(lines_back_, &ScreenEditor::LinesBack);
+  on(lines_forward_, &ScreenEditor::LinesForward);
+  on(reset_, &ScreenEditor::Reset);
+  connect(size_, &QComboBox::activated, this, [this](int index) {
+    editor_.ChooseSize(index);
+    ShowView();
+  });
+  for (int s = 0; s < kVisibleLines; ++s) {
+    connect(fields_[s], &QComboBox::activated, this, [this, s](int choice) {
+      editor_.ChooseField(s, choice);
+      ShowView();
+    });
+    connect(texts_[s], &QLineEdit::textEdited, this,
+            [this, s](const QString& text) { editor_.EditText(s, text.toStdString()); });
+  }
+  connect(preview_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
+    const QTextCursor cursor = preview_->textCursor();
+    caret_->setText(
+        QStringLiteral("(%1, %2)").arg(cursor.blockNumber()).arg(cursor.positionInBlock()));
+  });
+}
+
+void ScreenPage::Initialise(Document&) {
+  editor_.Restart();
+  FillSizes();
+  ShowView();
+  preview_->setFocus();
+}
+
+void ScreenPage::SetActive(Document& doc) {
+  if (static_cast<int>(ReadNumber(doc.record, kFontSize)) != sizes_font_) {
+    FillSizes();
+    ShowView();
+  }
+}
+
+void ScreenPage::Apply(Document& doc) { editor_.PadLineTexts(HostScreenSizeOf(doc.pages).rows); }
+
+void ScreenPage::FillSizes() {
+  sizes_font_ = static_cast<int>(ReadNumber(doc().record, kFontSize));
+  const QSignalBlocker block(size_);
+  size_->clear();
+  for (const std::string& entry : editor_.Show().sizes)
+    size_->addItem(QString::fromStdString(entry));
+}
+
+void ScreenPage::LoadFile() {
+  const std::optional<std::string> name = ask_file_();
+  if (!name) return;
+  const LoadOutcome outcome = LoadScreenFileInto(doc(), *name);
+  for (const LoadOutcome::Message& m : outcome.messages) {
+    show_message_(QString::fromStdString(m.caption), QString::fromStdString(m.text));
+  }
+  if (!outcome.loaded) return;
+  editor_.Restart();
+  ShowView();
+  preview_->setFocus();
+}
+
+void ScreenPage::DeletePage() {
+  if (!ask_(QStringLiteral("Screen"), Text(kDeletePageQuestion))) return;
+  editor_.DeleteCurrent();
+  ShowView();
+}
+
+void ScreenPage::ShowView() {
+  const ScreenEditor::View v = editor_.Show();
+  total_->setText(QString::number(v.total));
+  current_->setText(QString::number(v.current));
+  reformat_->setText(tr("Reformat page %1").arg(v.current));
+  preview_->setPlainText(
+      QString::fromLatin1(v.preview.data(), static_cast<qsizetype>(v.preview.size())));
+  caret_->setText(QStringLiteral("(0, 0)"));
+  navigation_[0]->setEnabled(v.first);
+  navigation_[1]->setEnabled(v.previous);
+  navigation_[2]->setEnabled(v.next);
+  navigation_[3]->setEnabled(v.last);
+  delete_->setEnabled(v.remove);
+  {
+    const QSignalBlocker block(size_);
+    size_->setCurrentIndex(v.size);
+  }
+  QStringList choices;
+  for (const std::string& c : v.field_choices) choices << QString::fromStdString(c);
+  for (int s = 0; s < kVisibleLines; ++s) {
+    const ScreenEditor::LineView& line = v.lines[s];
+    const QSignalBlocker block_field(fields_[s]);
+    const QSignalBlocker block_text(texts_[s]);
+    numbers_[s]->setText(QString::number(line.number));
+    fields_[s]->clear();
+    fields_[s]->addItems(choices);
+    fields_[s]->setCurrentIndex(line.field_choice);
+    xs_[s]->setText(QString::fromStdString(line.x));
+    ys_[s]->setText(QString::fromStdString(line.y));
+    texts_[s]->setText(
+        QString::fromLatin1(line.text.data(), static_cast<qsizetype>(line.text.size())));
+    texts_[s]->setCursorPosition(0);
+    for (QWidget* w : std::initializer_list<QWidget*>{numbers_[s], fields_[s], texts_[s]}) {
+      w->setEnabled(line.enabled);
+    }
+  }
+  lines_back_->setEnabled(v.lines_back);
+  lines_forward_->setEnabled(v.lines_forward);
+}
+
+}  // namespace veltrix
