@@ -1,22 +1,28 @@
 #include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QInputMethodEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
 
-#include "capture/identification.h"
-#include "capture/screen_file.h"
+#include "capture/screen_page.h"
 #include "demo_host/demo_host_server.h"
 #include "settings/field_registry.h"
+#include "settings/screen/screen_pages.h"
 #include "shell/command_table.h"
 #include "shell/host_session_setup_qt.h"
 #include "shell/main_window.h"
+#include "shell/settings_sheet_dialog.h"
+#include "shell/summary.h"
 #include "support/fake_ports.h"
 #include "tn5250/host_connection_qt.h"
 #include "tn5250/host_screen_widget.h"
@@ -40,6 +46,7 @@ class HostMainWindowTest : public QObject {
   void cancelledDialogChangesNothing();
 
  private:
+  void ReformatOnTheScreenPage(const QString& path);
   bool Enabled(int command) const { return window_->action(command)->isEnabled(); }
   QString Status() const { return window_->statusBar()->currentMessage(); }
   QString Label(const char* name) const {
@@ -207,13 +214,7 @@ void HostMainWindowTest::capturesThreeScreensIntoAFile() {
   QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture));
   QCOMPARE(QFileInfo(path).size(), qint64(20 + 3 * 10424));
 
-  // The file's three screens are told apart.
-  std::string error;
-  const auto loaded = ReadScreenFile(path.toStdString(), error);
-  QVERIFY(loaded.has_value());
-  const Identification id = IdentifyScreens(loaded->screens, 20, HostScreenSizeOf(loaded->screens));
-  QVERIFY(id.ok);
-  QCOMPARE(id.pages.size(), std::size_t{3});
+  ReformatOnTheScreenPage(path);
 
   // Disconnecting while capturing closes the file; the next connection starts without capture.
   window_->ExecuteCommand(kCmdStartCapture);
@@ -221,6 +222,83 @@ void HostMainWindowTest::capturesThreeScreensIntoAFile() {
   window_->ExecuteCommand(kCmdConnect);
   QTRY_VERIFY(parts_.connection->connected());
   QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture) && !Enabled(kCmdStopCapture));
+}
+
+// The captured file on the Screen page: loaded, fields mapped to lines on two pages, a page
+// deleted; Cancel puts everything back, a refused file changes nothing, OK keeps the pages.
+void HostMainWindowTest::ReformatOnTheScreenPage(const QString& path) {
+  Document& doc = window_->document();
+  WriteNumber(doc.record, *FindField("ProductIndex"), 1);
+  const SettingsRecord record_before = doc.record;
+  for (bool ok : {false, true}) {
+    SettingsSheetDialog sheet(doc, SettingsPageRegistry::Installed());
+    sheet.show();
+    sheet.tabs()->setCurrentIndex(static_cast<int>(SheetPageId::kScreen));
+    auto* page = static_cast<ScreenPage*>(sheet.page(static_cast<int>(SheetPageId::kScreen)));
+    QVERIFY(page != nullptr);
+    QStringList shown;
+    page->SetMessageShower([&](const QString&, const QString& text) { shown << text; });
+    page->SetQuestion([](const QString&, const QString& text) {
+      return text == QStringLiteral("Are you sure to delete this page ?");
+    });
+    auto label = [&](const char* name) { return page->findChild<QLabel*>(name)->text(); };
+    auto button = [&](const char* name) { return page->findChild<QPushButton*>(name); };
+
+    // A file of the wrong size: "Version Error", nothing changes.
+    QTemporaryDir dir;
+    QFile bad(dir.filePath(QStringLiteral("bad.SCR")));
+    QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write(QByteArray(21, '\0')) == 21);
+    bad.close();
+    page->SetFileAsker([&] { return std::optional<std::string>(bad.fileName().toStdString()); });
+    QTest::mouseClick(button("load_screens"), Qt::LeftButton);
+    QCOMPARE(shown, QStringList{QStringLiteral("Version Error")});
+    QCOMPARE(label("total_pages"), QStringLiteral("0"));
+    QVERIFY(doc.record == record_before);
+
+    page->SetFileAsker([&] { return std::optional<std::string>(path.toStdString()); });
+    QTest::mouseClick(button("load_screens"), Qt::LeftButton);
+    QCOMPARE(label("total_pages"), QStringLiteral("3"));
+    QCOMPARE(label("current_page"), QStringLiteral("1"));
+    QVERIFY(page->findChild<QPlainTextEdit*>("preview")->toPlainText().contains("Sign On"));
+    QVERIFY(!button("previous_page")->isEnabled() && button("next_page")->isEnabled());
+
+    // Page 1 (sign on): line 1 shows field 1 with a text typed key by key.
+    auto* field = page->findChild<QComboBox*>("line_field_1");
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Down);
+    QCOMPARE(field->currentText(), QStringLiteral("1"));
+    QTest::keyClicks(page->findChild<QLineEdit*>("line_text_1"), QStringLiteral("User:"));
+    const std::string x = page->findChild<QLineEdit*>("line_x_1")->text().toStdString();
+    // Page 2 (menu): line 2 shows field 1.
+    QTest::mouseClick(button("next_page"), Qt::LeftButton);
+    QVERIFY(page->findChild<QPlainTextEdit*>("preview")->toPlainText().contains("Main Menu"));
+    auto* field2 = page->findChild<QComboBox*>("line_field_2");
+    QTest::keyClick(field2, Qt::Key_Down);
+    QTest::keyClicks(page->findChild<QLineEdit*>("line_text_2"), QStringLiteral("Option"));
+    // Page 3 goes.
+    QTest::mouseClick(button("last_page"), Qt::LeftButton);
+    QTest::mouseClick(button("delete_page"), Qt::LeftButton);
+    QCOMPARE(label("total_pages"), QStringLiteral("2"));
+    QCOMPARE(label("current_page"), QStringLiteral("2"));
+
+    const int sign_on_column = static_cast<int>(ReadNumber(doc.record, kHostColumn, 0, 0));
+    QCOMPARE(std::to_string(sign_on_column), x);
+    QCOMPARE(ReadText(doc.record, kTerminalScreen, 0, 0), std::string("User:"));
+    QCOMPARE(ReadText(doc.record, kTerminalScreen, 1, 1), std::string("Option"));
+    QCOMPARE(ReadNumber(doc.record, kHostRow, 0, 1), 255u);
+    if (!ok) {
+      sheet.reject();
+      QVERIFY(doc.record == record_before);
+      continue;
+    }
+    sheet.accept();
+  }
+  QCOMPARE(ReadNumber(doc.record, kTotalPages), 2u);
+  QCOMPARE(ReadNumber(doc.record, kScreensLoaded), 1u);
+  const std::string summary = RenderSummaryText(BuildSummary(doc));
+  QVERIFY(summary.find("Terminal Screen : User:") != std::string::npos);
+  QVERIFY(summary.find("Terminal Screen : Option") != std::string::npos);
+  QVERIFY(summary.find("Page  3") == std::string::npos);
 }
 
 void HostMainWindowTest::hostClosingRunsTheDisconnectCommand() {
