@@ -37,7 +37,7 @@ QLineEdit* ReadOnlyEdit(const char* name, int index) {
   edit->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index + 1));
   edit->setReadOnly(true);
   edit->setFocusPolicy(Qt::NoFocus);
-  edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 12);
+  edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QStringLiteral("000")) + 10);
   return edit;
 }
 
@@ -81,25 +81,28 @@ void ScreenPage::Build() {
   caret_->setObjectName("caret_position");
   const char* kNavigationNames[] = {"first_page", "previous_page", "next_page", "last_page"};
   const char* kNavigationTexts[] = {"|<<", "<<", ">>", ">>|"};
+  auto* caret_row = new QHBoxLayout;
+  caret_row->addWidget(new QLabel(tr("(Row, Column) =")));
+  caret_row->addWidget(caret_, 1);
   auto* navigation = new QHBoxLayout;
-  navigation->addWidget(new QLabel(tr("(Row, Column) =")));
-  navigation->addWidget(caret_, 1);
   for (int i = 0; i < 4; ++i) {
     navigation_[i] = Button(QString::fromLatin1(kNavigationTexts[i]), kNavigationNames[i]);
-    navigation_[i]->setFixedWidth(navigation_[i]->fontMetrics().horizontalAdvance("|<<|") + 20);
+    navigation_[i]->setFixedWidth(navigation_[i]->fontMetrics().horizontalAdvance("|<<|") + 14);
     navigation->addWidget(navigation_[i]);
   }
+  // Stacked, so that the lines beside keep their room in the sheet's width.
   auto* counts = new QGridLayout;
-  counts->addWidget(load_, 0, 0);
-  counts->addWidget(new QLabel(tr("Total Pages :")), 0, 1);
-  counts->addWidget(total_, 0, 2);
-  counts->addWidget(delete_, 1, 0);
-  counts->addWidget(new QLabel(tr("Current Page :")), 1, 1);
-  counts->addWidget(current_, 1, 2);
-  counts->setColumnStretch(2, 1);
+  counts->addWidget(load_, 0, 0, 1, 2);
+  counts->addWidget(new QLabel(tr("Total Pages :")), 1, 0);
+  counts->addWidget(total_, 1, 1);
+  counts->addWidget(delete_, 2, 0, 1, 2);
+  counts->addWidget(new QLabel(tr("Current Page :")), 3, 0);
+  counts->addWidget(current_, 3, 1);
+  counts->setColumnStretch(1, 1);
   auto* left = new QVBoxLayout;
   left->addLayout(counts);
   left->addWidget(preview_, 1);
+  left->addLayout(caret_row);
   left->addLayout(navigation);
 
   // Right: the terminal size and the eight visible lines.
@@ -128,7 +131,7 @@ void ScreenPage::Build() {
     texts_[s] = new QLineEdit;
     texts_[s]->setObjectName(QStringLiteral("line_text_%1").arg(s + 1));
     texts_[s]->setFont(FixedPitchFont());
-    texts_[s]->setMinimumWidth(texts_[s]->fontMetrics().horizontalAdvance(QString(20, 'M')) + 12);
+    texts_[s]->setMinimumWidth(texts_[s]->fontMetrics().horizontalAdvance(QString(16, 'M')) + 12);
     lines->addWidget(numbers_[s], s + 1, 0);
     lines->addWidget(fields_[s], s + 1, 1);
     lines->addWidget(xs_[s], s + 1, 2);

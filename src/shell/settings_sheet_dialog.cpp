@@ -84,6 +84,8 @@ SheetPage* SettingsSheetDialog::CreatePage(int index) {
   SettingsPage* page = registry_.Create(kSheetPages[index].id, doc_, nullptr);
   if (page == nullptr) return nullptr;
   holders_[index]->addWidget(page);
+  // A page created while the sheet shows would only appear on the next turn of the event loop.
+  page->show();
   pages_[index] = page;
   return page;
 }

@@ -291,6 +291,10 @@ void HostMainWindowTest::ReformatOnTheScreenPage(const QString& path) {
       QVERIFY(doc.record == record_before);
       continue;
     }
+    // For a look at it (kept in the build folder).
+    QTest::mouseClick(button("first_page"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("screen_page.png")));
     sheet.accept();
   }
   QCOMPARE(ReadNumber(doc.record, kTotalPages), 2u);
