@@ -46,6 +46,8 @@ int RunSummaryCommand(std::span<const std::string> args, CliIo& io);
 // Defined in screen_commands.cpp.
 int RunScreensCommand(std::span<const std::string> args, CliIo& io);
 int RunIdentifyCommand(std::span<const std::string> args, CliIo& io);
+// Defined in session_command.cpp.
+int RunSessionCommand(std::span<const std::string> args, CliIo& io);
 // Defined in replay_command.cpp.
 int RunReplayCommand(std::span<const std::string> args, CliIo& io);
 

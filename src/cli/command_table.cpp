@@ -29,6 +29,12 @@ constexpr Command kCommands[] = {
      "tell a screen file's screens apart as Load does; --into stores the pages in DOC; exit 1 when "
      "they cannot be told apart",
      RunIdentifyCommand},
+    {"session",
+     "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR] "
+     "[--log] [--wait SECONDS] [--json]",
+     "a host session without a window: type KEYS (replay syntax, <Capture> appends the screen to "
+     "FILE.SCR), print the last screen; exit 1 on a time-out, 2 when the connection fails",
+     RunSessionCommand},
 };
 
 }  // namespace

@@ -141,6 +141,17 @@ bool ParseReplayKeys(std::string_view text, int emulation_type, std::vector<KeyS
   return true;
 }
 
+std::string KeyStrokeText(const KeyStroke& stroke) {
+  if (stroke.row >= 0) {
+    return "<Point " + std::to_string(stroke.row) + " " + std::to_string(stroke.column) + ">";
+  }
+  if (stroke.is_character) return std::string(1, static_cast<char>(stroke.character));
+  for (const KeyName& k : kKeyNames) {
+    if (k.key == stroke.key) return "<" + std::string(k.name) + ">";
+  }
+  return "<?>";
+}
+
 void Press(Session& session, const KeyStroke& stroke) {
   if (stroke.row >= 0) {
     session.PointAt(stroke.row, stroke.column);
@@ -157,6 +168,7 @@ ReplayRun::ReplayRun(const SessionConfig& config) : session_(config, this) {}
 
 void ReplayRun::OnSend(std::span<const std::uint8_t> bytes) {
   sent_.insert(sent_.end(), bytes.begin(), bytes.end());
+  if (send_) send_(bytes);
 }
 
 void ReplayRun::Run(std::span<const ReplayStep> steps, std::size_t chunk_size) {

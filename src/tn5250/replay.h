@@ -2,6 +2,7 @@
 #define VELTRIX_TN5250_REPLAY_H_
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,6 +24,9 @@ struct KeyStroke {
   int row = -1;
   int column = -1;
 };
+
+// A stroke as the key syntax writes it ("<Enter>", "A", "<Point 5 10>").
+std::string KeyStrokeText(const KeyStroke& stroke);
 
 // Hands one stroke to the session.
 void Press(Session& session, const KeyStroke& stroke);
@@ -51,6 +55,11 @@ class ReplayRun : public SessionListener {
   void Run(std::span<const ReplayStep> steps, std::size_t chunk_size = 0);
 
   const Session& session() const { return session_; }
+  Session& session() { return session_; }
+  // A live session: what the session sends also goes to `send` (a socket to the host).
+  void SetSender(std::function<void(std::span<const std::uint8_t>)> send) {
+    send_ = std::move(send);
+  }
   const std::vector<std::uint8_t>& sent() const { return sent_; }
   int alarms() const { return alarms_; }
 
@@ -67,6 +76,7 @@ class ReplayRun : public SessionListener {
 
  private:
   Session session_;
+  std::function<void(std::span<const std::uint8_t>)> send_;
   std::vector<std::uint8_t> sent_;
   std::vector<TraceEvent> traces_;
   int alarms_ = 0;

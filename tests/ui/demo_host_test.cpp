@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QTcpServer>
 #include <QTcpSocket>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include "demo_host/demo_application.h"
@@ -254,6 +256,7 @@ class DemoHostTest : public QObject {
   void scriptSendsExpectsAndLogs();
   void scriptWithoutNegotiation();
   void executablePrintsItsEphemeralPort();
+  void cliSessionCapturesWhatItWalksThrough();
 };
 
 void DemoHostTest::scenarios_data() {
@@ -402,6 +405,42 @@ void DemoHostTest::executablePrintsItsEphemeralPort() {
   QVERIFY(station.Expect(Bytes({0xFF, 0xFD, 39})));
   host.kill();
   host.waitForFinished();
+}
+
+// veltrix-cli session against the demo host: signs on, walks three screens, captures four, and
+// identify finds them distinct; a port nobody listens on exits 2 with the reason.
+void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
+  DemoHostServer server;
+  QVERIFY(server.Listen(0));
+  QTemporaryDir dir;
+  auto run = [&](const QStringList& args, int& exit_code) -> QString {
+    QProcess cli;
+    cli.setWorkingDirectory(dir.path());
+    cli.start(QStringLiteral(VELTRIX_CLI_PATH), args);
+    // The demo host runs in this process: keep its event loop turning while the tool works.
+    QTest::qWaitFor([&] { return cli.state() == QProcess::NotRunning; }, 20000);
+    exit_code = cli.state() == QProcess::NotRunning ? cli.exitCode() : -1;
+    return QString::fromUtf8(cli.readAllStandardOutput() + cli.readAllStandardError());
+  };
+  int code = -1;
+  QString out = run(
+      {"session", "127.0.0.1", "--port", QString::number(server.port()), "--capture", "four.SCR",
+       "--keys", "<Capture>bob<Enter><Capture>1<Enter><Capture><PageDown><Capture>"},
+      code);
+  QCOMPARE(code, 0);
+  QVERIFY2(out.contains("ITEM0011"), qPrintable(out));
+  QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), qint64(20 + 4 * 10424));
+  out = run({"identify", "four.SCR", "--json"}, code);
+  QCOMPARE(code, 0);
+  QVERIFY2(out.startsWith("{\"pages\": [0, 1, 2, 3]"), qPrintable(out));
+
+  QTcpServer probe;
+  QVERIFY(probe.listen(QHostAddress::LocalHost, 0));
+  const quint16 closed = probe.serverPort();
+  probe.close();
+  out = run({"session", "127.0.0.1", "--port", QString::number(closed)}, code);
+  QCOMPARE(code, 2);
+  QVERIFY2(out.contains("Connection refused"), qPrintable(out));
 }
 
 QTEST_MAIN(DemoHostTest)

@@ -1,0 +1,260 @@
+// veltrix-cli session: a host session without a window, for scripted capture and for testing
+// host applications. The same engine as Telnet > Connect, driven over a TCP socket here.
+#include <netdb.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <filesystem>
+#include <ostream>
+
+#include "capture/screen_file.h"
+#include "cli/cli_args.h"
+#include "cli/cli_command.h"
+#include "tn5250/replay.h"
+#include "tn5250/session_log.h"
+
+namespace veltrix::cli {
+namespace {
+
+constexpr int kExitHost = 2;  // connection refused or closed
+using Clock = std::chrono::steady_clock;
+
+class Socket {
+ public:
+  ~Socket() {
+    if (fd_ >= 0) ::close(fd_);
+  }
+  // Connects within `timeout`; false with the system's reason.
+  bool Connect(const std::string& host, int port, std::chrono::milliseconds timeout,
+               std::string& reason) {
+    addrinfo hints{};
+    hints.ai_family = AF_UNSPEC;
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    if (int rc = ::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found); rc) {
+      reason = ::gai_strerror(rc);
+      return false;
+    }
+    reason = "no address";
+    for (addrinfo* a = found; a != nullptr && fd_ < 0; a = a->ai_next) {
+      const int fd = ::socket(a->ai_family, a->ai_socktype | SOCK_NONBLOCK, a->ai_protocol);
+      if (fd < 0) continue;
+      int error = 0;
+      if (::connect(fd, a->ai_addr, a->ai_addrlen) != 0 && errno == EINPROGRESS) {
+        pollfd p{fd, POLLOUT, 0};
+        if (::poll(&p, 1, static_cast<int>(timeout.count())) == 1) {
+          socklen_t length = sizeof error;
+          ::getsockopt(fd, SOL_SOCKET, SO_ERROR, &error, &length);
+        } else {
+          error = ETIMEDOUT;
+        }
+      } else if (errno != 0 && errno != EINPROGRESS) {
+        error = errno;
+      }
+      if (error == 0) {
+        fd_ = fd;
+      } else {
+        reason = std::strerror(error);
+        ::close(fd);
+      }
+    }
+    ::freeaddrinfo(found);
+    return fd_ >= 0;
+  }
+
+  bool Send(std::span<const std::uint8_t> bytes) {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+      const ssize_t n = ::send(fd_, bytes.data() + done, bytes.size() - done, MSG_NOSIGNAL);
+      if (n > 0) {
+        done += static_cast<std::size_t>(n);
+      } else if (n < 0 && (errno == EAGAIN || errno == EINTR)) {
+        pollfd p{fd_, POLLOUT, 0};
+        ::poll(&p, 1, 1000);
+      } else {
+        return false;
+      }
+    }
+    return true;
+  }
+
+  // Waits up to `wait` for data; the bytes read (empty on time-out), or nothing when the host
+  // closed the connection or it failed.
+  std::optional<std::vector<std::uint8_t>> Receive(std::chrono::milliseconds wait,
+                                                   std::string& reason) {
+    pollfd p{fd_, POLLIN, 0};
+    const int ready = ::poll(&p, 1, static_cast<int>(std::max<long long>(wait.count(), 0)));
+    if (ready == 0) return std::vector<std::uint8_t>{};
+    std::vector<std::uint8_t> buffer(4096);
+    const ssize_t n = ::recv(fd_, buffer.data(), buffer.size(), 0);
+    if (n > 0) {
+      buffer.resize(static_cast<std::size_t>(n));
+      return buffer;
+    }
+    if (n < 0 && (errno == EAGAIN || errno == EINTR)) return std::vector<std::uint8_t>{};
+    reason = n == 0 ? "the host closed the connection" : std::strerror(errno);
+    return std::nullopt;
+  }
+
+ private:
+  int fd_ = -1;
+};
+
+// Receives until the session's keyboard is free and no record is half received, for at most
+// `wait`. False with `reason` when the host ended the connection; `timed_out` when it took too
+// long.
+bool WaitForHost(Socket& socket, ReplayRun& run, SessionLog& log, std::chrono::milliseconds wait,
+                 bool& timed_out, std::string& reason) {
+  const auto deadline = Clock::now() + wait;
+  timed_out = false;
+  while (run.session().KeyboardLocked() || !run.session().BetweenRecords()) {
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+    if (left.count() <= 0) {
+      timed_out = true;
+      return true;
+    }
+    std::optional<std::vector<std::uint8_t>> bytes = socket.Receive(left, reason);
+    if (!bytes) {
+      log.LogReceive({});
+      return false;
+    }
+    if (bytes->empty()) continue;
+    log.LogReceive(*bytes);
+    run.session().Receive(*bytes);
+  }
+  return true;
+}
+
+// The key list's pieces: keys in replay syntax, with <Capture> between them.
+std::vector<std::string> SplitCaptures(const std::string& keys) {
+  std::vector<std::string> pieces;
+  std::size_t from = 0;
+  for (std::size_t at; (at = keys.find("<Capture>", from)) != std::string::npos;) {
+    pieces.push_back(keys.substr(from, at - from));
+    from = at + 9;
+  }
+  pieces.push_back(keys.substr(from));
+  return pieces;
+}
+
+}  // namespace
+
+int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
+  constexpr std::string_view kValues[] = {"--port", "--emulation", "--local-name",
+                                          "--keys", "--capture",   "--wait"};
+  constexpr std::string_view kFlags[] = {"--json", "--log"};
+  const ParsedArgs parsed = ParseArgs(args, kValues, kFlags);
+  if (!parsed.error.empty()) return Fail(io, "session: " + parsed.error);
+  if (std::string error = ExpectPositional(parsed, 1, 1); !error.empty()) {
+    return Fail(io, "session: " + error +
+                        " (session HOST [--port N] [--emulation N] [--local-name NAME] [--keys "
+                        "KEYS] [--capture FILE.SCR] [--log] [--wait SECONDS] [--json])");
+  }
+  auto number = [&](std::string_view option, int low, int high, int fallback, int& out) {
+    out = fallback;
+    const std::string* value = parsed.value(option);
+    if (value == nullptr) return true;
+    try {
+      std::size_t used = 0;
+      out = std::stoi(*value, &used);
+      return used == value->size() && out >= low && out <= high;
+    } catch (...) {
+      return false;
+    }
+  };
+  int port = 23;
+  int emulation = 0;
+  int wait_seconds = 10;
+  if (!number("--port", 1, 65535, 23, port)) return Fail(io, "session: --port takes 1 to 65535");
+  if (!number("--emulation", 0, 6, 0, emulation)) {
+    return Fail(io, "session: --emulation takes a host language from 0 to 6");
+  }
+  if (!number("--wait", 1, 3600, 10, wait_seconds)) {
+    return Fail(io, "session: --wait takes 1 to 3600 seconds");
+  }
+  SessionConfig config;
+  config.emulation_type = emulation;
+  if (const std::string* name = parsed.value("--local-name")) config.local_name = *name;
+
+  // Every key piece is checked before anything connects.
+  std::vector<std::vector<KeyStroke>> pieces;
+  for (const std::string& piece :
+       SplitCaptures(parsed.value("--keys") ? *parsed.value("--keys") : std::string())) {
+    std::string error;
+    pieces.emplace_back();
+    if (!ParseReplayKeys(piece, emulation, pieces.back(), error)) {
+      return Fail(io, "session: --keys: " + error);
+    }
+  }
+  CaptureFile capture;
+  if (const std::string* file = parsed.value("--capture")) {
+    if (!capture.Start(*file)) return Fail(io, "session: " + std::string(kCreateFileFailedMessage));
+  } else if (pieces.size() > 1) {
+    return Fail(io, "session: <Capture> needs --capture FILE.SCR");
+  }
+
+  FileLogSink sink(LogDirectoryFor(std::filesystem::current_path()));
+  SystemLocalClock clock;
+  SessionLog log(sink, clock);
+  log.set_save_log(parsed.has_flag("--log"));
+
+  const std::string& host = parsed.positional[0];
+  Socket socket;
+  std::string reason;
+  if (!socket.Connect(host, port, std::chrono::seconds(wait_seconds), reason)) {
+    io.err << "veltrix-cli: session: Can not establish connection to " << host << ':' << port
+           << ": " << reason << '\n';
+    return kExitHost;
+  }
+  log.LogConnect();
+  ReplayRun run(config);
+  bool send_failed = false;
+  run.SetSender([&](std::span<const std::uint8_t> bytes) {
+    log.LogSend(bytes);
+    send_failed = send_failed || !socket.Send(bytes);
+  });
+  const std::chrono::milliseconds wait = std::chrono::seconds(wait_seconds);
+  auto fail_host = [&](const std::string& why) {
+    log.LogClose();
+    io.err << "veltrix-cli: session: " << why << '\n';
+    return kExitHost;
+  };
+  bool timed_out = false;
+  if (!WaitForHost(socket, run, log, wait, timed_out, reason)) return fail_host(reason);
+  if (timed_out) {
+    log.LogClose();
+    io.err << "veltrix-cli: session: no first screen within " << wait_seconds << " seconds\n";
+    return kExitDiffers;
+  }
+  for (std::size_t p = 0; p < pieces.size(); ++p) {
+    if (p > 0) {
+      auto page = std::make_unique<PageRecord>();
+      run.session().CopyScreenRecord(*page);
+      if (!capture.Append(*page)) return Fail(io, "session: writing the screen file failed");
+    }
+    for (const KeyStroke& key : pieces[p]) {
+      Press(run.session(), key);
+      if (send_failed) return fail_host("sending to the host failed");
+      if (!run.session().KeyboardLocked()) continue;
+      // An attention key: wait for the host's answer.
+      if (!WaitForHost(socket, run, log, wait, timed_out, reason)) return fail_host(reason);
+      if (timed_out) {
+        log.LogClose();
+        io.err << "veltrix-cli: session: the host did not answer " << KeyStrokeText(key)
+               << " within " << wait_seconds << " seconds\n";
+        return kExitDiffers;
+      }
+    }
+  }
+  capture.Stop();
+  log.LogClose();
+  io.out << (parsed.has_flag("--json") ? run.Json() : run.Text());
+  return kExitOk;
+}
+
+}  // namespace veltrix::cli
