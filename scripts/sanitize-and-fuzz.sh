@@ -29,11 +29,12 @@ for trace in ../shared/peer-data/tn5250-traces/*.bin; do
   (printf '\x00'; cat "$trace") >"$work/seeds/tn5250/$(basename "$trace")"
 done
 
-declare -A max_len=([settings_file]=600000 [tn5250]=8192 [set_assignment]=4096)
+# A screen file of a dozen screens is 125,108 bytes.
+declare -A max_len=([settings_file]=600000 [tn5250]=8192 [set_assignment]=4096 [screen_file]=140000)
 pids=()
 for target in build-sanitize/*_fuzz; do
   name=$(basename "$target" _fuzz)
-  mkdir -p "$work/corpus/$name"
+  mkdir -p "$work/corpus/$name" "$work/seeds/$name"
   "$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
     -max_len="${max_len[$name]:-4096}" -print_final_stats=1 \
     "$work/corpus/$name" "fuzz/corpus/$name" "$work/seeds/$name" >"$work/$name.log" 2>&1 &

@@ -275,31 +275,6 @@ class MainWindowTest : public QObject {
     QCOMPARE(seen_folder, QDir(folder.path()).absolutePath());
   }
 
-  void connectShowsTheHostScreenAndDisconnectTheTree() {
-    auto* host = new KeyProbe;
-    window_->SetHostScreenWidget(host);
-    QVERIFY(!host->isVisibleTo(window_.get()));
-    bool up = false;
-    window_->SetSessionHandlers(SessionHandlers{[&] {
-                                                  return ConnectAttempt{up = true, true};
-                                                },
-                                                [&] { up = false; }, [] { return true; }, [] {},
-                                                [] {}});
-    window_->ExecuteCommand(kCmdConnect);
-    QVERIFY(up);
-    QVERIFY(host->isVisibleTo(window_.get()));
-    QVERIFY(!window_->summary_view()->isVisibleTo(window_.get()));
-
-    window_->ExecuteCommand(kCmdStartCapture);
-    window_->ExecuteCommand(kCmdCapture);
-    QCOMPARE(window_->statusBar()->currentMessage(), QString("Captured : 1 screens"));
-
-    window_->ExecuteCommand(kCmdDisconnect);  // as the session does when the host hangs up
-    QVERIFY(!up);
-    QVERIFY(window_->summary_view()->isVisibleTo(window_.get()));
-    QVERIFY(window_->action(kCmdConnect)->isEnabled());
-  }
-
   void aSessionReportingDisconnectWhileTheWindowGoesIsHarmless() {
     struct DyingHost : QWidget {
       std::function<void()> on_death;

@@ -80,19 +80,6 @@ class SettingsSheetTest : public QObject {
     QCOMPARE(sheet.tabs()->currentIndex(), 0);
   }
 
-  void createsPagesWhenFirstShown() {
-    SettingsSheetDialog sheet(*doc_, registry_);
-    QVERIFY(sheet.page(0));
-    QVERIFY(!sheet.page(4));
-    sheet.tabs()->setCurrentIndex(4);
-    auto* screen = static_cast<ProbePage*>(sheet.page(4));
-    QVERIFY(screen);
-    sheet.tabs()->setCurrentIndex(0);
-    sheet.tabs()->setCurrentIndex(4);
-    QCOMPARE(screen->initialised, 1);
-    QCOMPARE(screen->activated, 2);
-  }
-
   void unregisteredPagesSayTheyAreNotAvailable() {
     SettingsSheetDialog sheet(*doc_, registry_);
     sheet.tabs()->setCurrentIndex(2);
@@ -100,17 +87,6 @@ class SettingsSheetTest : public QObject {
     QVERIFY(label);
     QVERIFY(label->text().contains("Wireless LAN"));
     QVERIFY(label->text().contains("not available"));
-  }
-
-  void cancelRestoresTheSnapshot() {
-    doc_->modified = true;
-    const SettingsRecord before = doc_->record;
-    SettingsSheetDialog sheet(*doc_, registry_);
-    TypeInto(sheet.page(0), "77");
-    QCOMPARE(int(doc_->record[kProbeByte]), 77);
-    Button(sheet, QDialogButtonBox::Cancel)->click();
-    QVERIFY(doc_->record == before);
-    QVERIFY(!doc_->modified);
   }
 
   void escapeActsAsCancel() {
