@@ -90,16 +90,12 @@ int ScreenEditor::PageCount() const {
                   static_cast<int>(kPageCount));
 }
 
-int ScreenEditor::CharsPerLine() const {
+// The current page's size; a size index no list knows (a damaged file) counts as the first.
+const TerminalScreenSize& ScreenEditor::CurrentSize() const {
+  const int font = FontSizeOf(doc_);
   const TerminalScreenSize* size = FindTerminalScreenSize(
-      FontSizeOf(doc_), static_cast<int>(ReadNumber(doc_.record, kReformatPageTo, current_)));
-  return size ? size->chars_per_line : TerminalScreenSizes(FontSizeOf(doc_))[0].chars_per_line;
-}
-
-int ScreenEditor::LineCount() const {
-  const TerminalScreenSize* size = FindTerminalScreenSize(
-      FontSizeOf(doc_), static_cast<int>(ReadNumber(doc_.record, kReformatPageTo, current_)));
-  return size ? size->lines : TerminalScreenSizes(FontSizeOf(doc_))[0].lines;
+      font, static_cast<int>(ReadNumber(doc_.record, kReformatPageTo, current_)));
+  return size ? *size : TerminalScreenSizes(font)[0];
 }
 
 void ScreenEditor::Restart() {
@@ -115,7 +111,7 @@ void ScreenEditor::GoTo(int page) {
 void ScreenEditor::LinesBack() { first_line_ = std::max(first_line_ - kVisibleLines, 0); }
 
 void ScreenEditor::LinesForward() {
-  if (first_line_ + kVisibleLines < LineCount()) first_line_ += kVisibleLines;
+  if (first_line_ + kVisibleLines < CurrentSize().lines) first_line_ += kVisibleLines;
 }
 
 void ScreenEditor::ChooseSize(int index) {
@@ -141,7 +137,7 @@ void ScreenEditor::ChooseField(int slot, int choice) {
 void ScreenEditor::EditText(int slot, const std::string& text) {
   const int line = first_line_ + slot;
   if (slot < 0 || slot >= kVisibleLines || line >= kTerminalLinesPerPage) return;
-  const std::size_t most = static_cast<std::size_t>(std::max(CharsPerLine() - 1, 0));
+  const std::size_t most = static_cast<std::size_t>(std::max(CurrentSize().chars_per_line - 1, 0));
   WriteText(doc_.record, kTerminalScreen, text.substr(0, std::min(text.size(), most)), current_,
             line);
 }
@@ -187,7 +183,7 @@ ScreenEditor::View ScreenEditor::Show() const {
   v.field_choices.emplace_back(kNoFieldChoice);
   for (const FieldEntry& f : fields) v.field_choices.push_back(std::to_string(f.number));
 
-  const int line_count = LineCount();
+  const int line_count = CurrentSize().lines;
   for (int s = 0; s < kVisibleLines; ++s) {
     LineView& line = v.lines[s];
     const int l = first_line_ + s;

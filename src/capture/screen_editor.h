@@ -8,6 +8,7 @@
 
 #include "capture/identification.h"
 #include "settings/document.h"
+#include "settings/screen/terminal_screen_sizes.h"
 
 namespace veltrix {
 
@@ -85,8 +86,7 @@ class ScreenEditor {
 
  private:
   void GoTo(int page);
-  int CharsPerLine() const;
-  int LineCount() const;
+  const TerminalScreenSize& CurrentSize() const;
 
   Document& doc_;
   int current_ = 0;

@@ -39,13 +39,18 @@ std::vector<FieldEntry> FieldEntries(const PageRecord& page) {
   return entries;
 }
 
-std::optional<LoadedScreens> ParseScreenFile(std::span<const std::uint8_t> bytes) {
-  if (bytes.size() < kScreenFileHeaderSize ||
-      (bytes.size() - kScreenFileHeaderSize) % kPageRecordSize != 0) {
+std::optional<std::size_t> ScreensInFileOfSize(std::size_t size) {
+  if (size < kScreenFileHeaderSize || (size - kScreenFileHeaderSize) % kPageRecordSize != 0) {
     return std::nullopt;
   }
+  return (size - kScreenFileHeaderSize) / kPageRecordSize;
+}
+
+std::optional<LoadedScreens> ParseScreenFile(std::span<const std::uint8_t> bytes) {
+  const std::optional<std::size_t> in_file = ScreensInFileOfSize(bytes.size());
+  if (!in_file) return std::nullopt;
   LoadedScreens loaded;
-  loaded.screens_in_file = (bytes.size() - kScreenFileHeaderSize) / kPageRecordSize;
+  loaded.screens_in_file = *in_file;
   const std::size_t n = std::min(loaded.screens_in_file, kMaxLoadedScreens);
   loaded.screens.resize(n);
   for (std::size_t k = 0; k < n; ++k) {
@@ -68,15 +73,13 @@ std::optional<LoadedScreens> ReadScreenFile(const std::filesystem::path& path, s
     error = "cannot read '" + path.string() + "'";
     return std::nullopt;
   }
-  const auto bytes = static_cast<std::size_t>(size);
-  if (bytes < kScreenFileHeaderSize || (bytes - kScreenFileHeaderSize) % kPageRecordSize != 0) {
+  const std::optional<std::size_t> in_file = ScreensInFileOfSize(static_cast<std::size_t>(size));
+  if (!in_file) {
     error = std::string(kVersionErrorMessage);
     return std::nullopt;
   }
   const std::size_t wanted =
-      kScreenFileHeaderSize +
-      std::min((bytes - kScreenFileHeaderSize) / kPageRecordSize, kMaxLoadedScreens) *
-          kPageRecordSize;
+      kScreenFileHeaderSize + std::min(*in_file, kMaxLoadedScreens) * kPageRecordSize;
   std::vector<std::uint8_t> data(wanted);
   in.seekg(0);
   in.read(reinterpret_cast<char*>(data.data()), static_cast<std::streamsize>(wanted));
@@ -85,7 +88,7 @@ std::optional<LoadedScreens> ReadScreenFile(const std::filesystem::path& path, s
     return std::nullopt;
   }
   std::optional<LoadedScreens> loaded = ParseScreenFile(data);
-  if (loaded) loaded->screens_in_file = (bytes - kScreenFileHeaderSize) / kPageRecordSize;
+  if (loaded) loaded->screens_in_file = *in_file;
   return loaded;
 }
 

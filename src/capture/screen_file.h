@@ -18,12 +18,6 @@ namespace veltrix {
 // captured screen with nothing between or after them.
 inline constexpr std::size_t kScreenFileHeaderSize = 20;
 inline constexpr std::string_view kScreenFileTag = "I100";
-inline constexpr std::size_t kScreenImageOffset = 80;
-inline constexpr std::size_t kScreenImageRowBytes = 128;
-inline constexpr std::size_t kScreenImageRows = 33;
-inline constexpr std::size_t kFieldEntriesOffset = 4304;
-inline constexpr std::size_t kFieldEntrySize = 24;
-inline constexpr int kMaxFieldEntries = 255;
 // The loaded screen list holds this many screens.
 inline constexpr std::size_t kMaxLoadedScreens = 100;
 
@@ -54,6 +48,10 @@ struct LoadedScreens {
   std::vector<PageRecord> screens;  // at most kMaxLoadedScreens, in file order
   std::size_t screens_in_file = 0;  // more than screens.size() when the file held more
 };
+
+// The number of screens in a screen file of `size` bytes; nothing when the size is not 20 plus a
+// whole number of page records.
+std::optional<std::size_t> ScreensInFileOfSize(std::size_t size);
 
 // Splits a screen file's bytes; nothing (the file is refused with "Version Error") when its size
 // is not 20 plus a whole number of page records. The header is not checked.

@@ -1,5 +1,4 @@
 // veltrix-cli screens and identify: what a screen file holds and how its screens are told apart.
-#include <cstdio>
 #include <ostream>
 
 #include "capture/identification.h"
@@ -9,6 +8,7 @@
 #include "cli/settings_input.h"
 #include "settings/field.h"
 #include "settings/screen/screen_pages.h"
+#include "shell/summary_json.h"
 #include "tn5250/display_text.h"
 
 namespace veltrix::cli {
@@ -24,27 +24,21 @@ std::string Hex(std::span<const std::uint8_t> bytes) {
   return out;
 }
 
-std::string Json(std::string_view text) {
-  std::string out = "\"";
-  for (char c : text) {
-    if (c == '"' || c == '\\') out += '\\';
-    if (static_cast<unsigned char>(c) < 0x20) {
-      char buf[8];
-      std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned char>(c));
-      out += buf;
-      continue;
-    }
-    out += c;
-  }
-  return out + "\"";
-}
-
-// A row of a screen image as text: empty cells as blanks.
-std::string RowText(const PageRecord& page, int row, int columns) {
-  std::string text;
+// A row of a screen image as its display bytes, empty cells as blanks.
+std::string RowBytes(const PageRecord& page, int row, int columns) {
+  std::string bytes;
   for (int c = 0; c < columns; ++c) {
     const std::uint8_t b = ImageCell(page, row, c);
-    AppendUtf8(text, b == 0 ? U' ' : DisplayByteToUnicode(0, b));
+    bytes += static_cast<char>(b == 0 ? ' ' : b);
+  }
+  return bytes;
+}
+
+// The same as UTF-8 text.
+std::string RowText(const PageRecord& page, int row, int columns) {
+  std::string text;
+  for (char b : RowBytes(page, row, columns)) {
+    AppendUtf8(text, DisplayByteToUnicode(0, static_cast<std::uint8_t>(b)));
   }
   return text;
 }
@@ -70,7 +64,7 @@ std::optional<LoadedScreens> LoadScreens(const std::string& path, CliIo& io, con
     return loaded;
   }
   if (error == kVersionErrorMessage) {
-    io.out << (json ? "{\"error\": " + Json(error) + "}" : error) << '\n';
+    io.out << (json ? "{\"error\": " + JsonString(error) + "}" : error) << '\n';
     exit_code = kExitDiffers;
   } else {
     exit_code = Fail(io, std::string(command) + ": " + error);
@@ -137,7 +131,7 @@ int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
     if (json) {
       io.out << (s ? ", " : "") << "{\"rows\": [";
       for (int r = 0; r < size.rows; ++r)
-        io.out << (r ? ", " : "") << Json(RowText(page, r, size.columns));
+        io.out << (r ? ", " : "") << JsonString(RowBytes(page, r, size.columns));
       io.out << "], \"fields\": [";
     } else {
       io.out << "screen " << s + 1 << '\n';
@@ -191,7 +185,7 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
       explain ? ExplainIdentification(loaded->screens, k, size, id) : Explanation{};
   if (!id.ok) {
     if (json) {
-      io.out << "{\"error\": " << Json(kIdentifyFailedMessage);
+      io.out << "{\"error\": " << JsonString(kIdentifyFailedMessage);
       if (explain) io.out << ", \"explain\": " << ExplanationJson(why);
       io.out << "}\n";
     } else {

@@ -41,6 +41,17 @@ static_assert(kReaderBlock1Offset + kReaderBlock1Size <= kRecordSize);
 // The number of products the product list knows ("Dravin S", "Dravin R").
 inline constexpr int kProductCount = 2;
 
+// A page record: the captured host screen's character plane (33 rows of 128 bytes) from byte 80,
+// then up to 255 field entries of 24 bytes, the list ending at the first entry numbered 0.
+inline constexpr std::size_t kScreenImageOffset = 80;
+inline constexpr std::size_t kScreenImageRowBytes = 128;
+inline constexpr std::size_t kScreenImageRows = 33;
+inline constexpr std::size_t kFieldEntriesOffset = 4304;
+inline constexpr std::size_t kFieldEntrySize = 24;
+inline constexpr int kMaxFieldEntries = 255;
+static_assert(kFieldEntriesOffset == kScreenImageOffset + kScreenImageRows * kScreenImageRowBytes);
+static_assert(kFieldEntriesOffset + kMaxFieldEntries * kFieldEntrySize == kPageRecordSize);
+
 using SettingsRecord = std::array<std::uint8_t, kRecordSize>;
 using PageRecord = std::array<std::uint8_t, kPageRecordSize>;
 

@@ -14,6 +14,8 @@ struct CommandEnabling {
 
   // Yes, while Connect is on: Connect off and the other four on. No: only Connect on.
   void EnableConnectionCommands(bool connected);
+  // While a connection is being made: only Disconnect (which gives up) is on.
+  void EnableConnecting() { *this = CommandEnabling{false, true, false, false, false}; }
   // Yes, while Start Capture is on: Start Capture off, Capture and Stop Capture on.
   // No: Start Capture on, Capture and Stop Capture off.
   void EnableCaptureCommands(bool capturing);

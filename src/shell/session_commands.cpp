@@ -44,9 +44,7 @@ std::optional<std::string> SessionCommands::Connect() {
     return std::nullopt;
   }
   connecting_ = true;
-  enabling_ = CommandEnabling{};
-  enabling_.connect = false;
-  enabling_.disconnect = true;
+  enabling_.EnableConnecting();
   return attempt.status;
 }
 

@@ -27,18 +27,17 @@ bool Session::KeyboardLocked() const { return engine_->host.keyboard_locked; }
 bool Session::BetweenRecords() const { return engine_->interpreter.BetweenRecords(); }
 
 void Session::CopyScreenRecord(PageRecord& page) const {
-  constexpr std::size_t kImageOffset = 80;
-  constexpr std::size_t kFieldsOffset = 4304;
-  constexpr std::size_t kMaxFields = 255;
+  static_assert(kPlaneSize == kScreenImageRows * kScreenImageRowBytes);
+  static_assert(kFieldRecordSize == kFieldEntrySize);
   page.fill(0);
   const auto plane = Screen().CharacterPlane();
-  std::copy(plane.begin(), plane.end(), page.begin() + kImageOffset);
-  std::size_t at = kFieldsOffset;
+  std::copy(plane.begin(), plane.end(), page.begin() + kScreenImageOffset);
+  std::size_t at = kFieldEntriesOffset;
   for (const FieldRecord& f : Fields().Records()) {
-    if (at + kFieldRecordSize > kFieldsOffset + kMaxFields * kFieldRecordSize) break;
+    if (at + kFieldEntrySize > kPageRecordSize) break;  // the first 255 fields
     const auto bytes = f.Serialize();
     std::copy(bytes.begin(), bytes.end(), page.begin() + static_cast<std::ptrdiff_t>(at));
-    at += kFieldRecordSize;
+    at += kFieldEntrySize;
   }
 }
 
