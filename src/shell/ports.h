@@ -21,6 +21,10 @@ class UserPrompt {
   virtual void ShowMessage(std::string_view caption, std::string_view text, PromptIcon icon) = 0;
   // A question with Yes, No and Cancel buttons (question icon).
   virtual PromptAnswer AskYesNoCancel(std::string_view caption, std::string_view text) = 0;
+  // A question with Yes and No only (question icon); true for Yes.
+  virtual bool AskYesNo(std::string_view caption, std::string_view text) {
+    return AskYesNoCancel(caption, text) == PromptAnswer::kYes;
+  }
 };
 
 // One filter of a file dialog: the description shown ("Settings (*.QVL)") and the pattern

@@ -45,4 +45,9 @@ PromptAnswer QtUserPrompt::AskYesNoCancel(std::string_view caption, std::string_
   }
 }
 
+bool QtUserPrompt::AskYesNo(std::string_view caption, std::string_view text) {
+  return QMessageBox::question(parent_, Text(caption), Text(text),
+                               QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
 }  // namespace veltrix

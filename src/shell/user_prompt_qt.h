@@ -15,6 +15,7 @@ class QtUserPrompt : public UserPrompt {
 
   void ShowMessage(std::string_view caption, std::string_view text, PromptIcon icon) override;
   PromptAnswer AskYesNoCancel(std::string_view caption, std::string_view text) override;
+  bool AskYesNo(std::string_view caption, std::string_view text) override;
 
  private:
   QPointer<QWidget> parent_;

@@ -1,0 +1,118 @@
+#include "download/download_command_qt.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QWidget>
+
+#include "settings/system/system_settings.h"
+
+namespace veltrix {
+namespace {
+
+QString Q(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+DownloadCommandQt::DownloadCommandQt(QWidget* window) : QObject(window), window_(window) {
+  ask_program_ = [this](const QString& last) -> std::optional<QString> {
+    QFileDialog dialog(window_);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilter(tr("Absolute object programs {*.SHX} (*.SHX *.shx)"));
+    dialog.setDefaultSuffix("SHX");
+    dialog.setOption(QFileDialog::ReadOnly);
+    if (!last.isEmpty()) dialog.selectFile(last);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return dialog.selectedFiles().front();
+  };
+  ask_properties_ = [this](int via, int baud_index) -> std::optional<Choice> {
+    DownloadPropertiesDialog dialog(via, baud_index, DownloadPropertiesDialog::SystemPorts(),
+                                    window_);
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return Choice{dialog.via(), dialog.port(), dialog.baud_index()};
+  };
+  show_message_ = [this](const QString& caption, const QString& text) {
+    QMessageBox::warning(window_, caption, text);
+  };
+  ask_retry_ = [this](const QString& caption, const QString& text) {
+    return QMessageBox::question(window_, caption, text, QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+  };
+}
+
+DownloadCommandQt::~DownloadCommandQt() {
+  if (session_) session_->Cancel();
+}
+
+void DownloadCommandQt::SetListenAddress(const QHostAddress& address, quint16 port) {
+  listen_address_ = address;
+  listen_port_ = port;
+}
+
+void DownloadCommandQt::ShowMessage(const QString& text, const QString& caption) {
+  show_message_(caption, text);
+}
+
+void DownloadCommandQt::Run(DownloadKind kind, const Document& doc) {
+  if (session_) {  // one download at a time: show the one under way
+    if (progress_) progress_->raise();
+    return;
+  }
+  if (kind == DownloadKind::kProgram) {
+    std::optional<QString> file = ask_program_(last_program_);
+    if (!file) return;
+    last_program_ = *file;
+    if (!program_.Open(file->toStdString())) {
+      ShowMessage(Q(download_text::kCannotOpenFile), Q(download_text::kDownload));
+      return;
+    }
+  }
+  std::optional<Choice> choice =
+      ask_properties_(static_cast<int>(ReadNumber(doc.record, kDownloadVia)),
+                      static_cast<int>(ReadNumber(doc.record, kBaudRate)));
+  if (!choice) return;
+
+  DownloadLinkOptions options;
+  options.via = static_cast<DownloadVia>(std::clamp(choice->via, 0, 3));
+  options.port = choice->port;
+  options.rate = kDownloadRates[static_cast<std::size_t>(std::clamp(choice->baud_index, 0, 3))];
+  options.listen_address = listen_address_;
+  options.listen_port = listen_port_;
+  auto engine = kind == DownloadKind::kSettings
+                    ? std::make_unique<DownloadEngine>(options.via, doc.record)
+                    : std::make_unique<DownloadEngine>(options.via, program_);
+  session_ = new DownloadSessionQt(std::move(engine), options, line_, this);
+  connect(session_, &DownloadSessionQt::status, this, &DownloadCommandQt::statusChanged);
+  connect(session_, &DownloadSessionQt::progressOpened, this, [this](int maximum) {
+    delete progress_;
+    progress_ = new DownloadProgressDialog(maximum, window_);
+    connect(progress_, &DownloadProgressDialog::stopRequested, this, [this] {
+      if (session_) session_->Cancel();
+    });
+    progress_->show();
+  });
+  connect(session_, &DownloadSessionQt::progressChanged, this, [this](int position) {
+    if (progress_) progress_->SetPosition(position);
+  });
+  connect(session_, &DownloadSessionQt::progressClosed, this, [this] { delete progress_; });
+  connect(session_, &DownloadSessionQt::message, this, &DownloadCommandQt::ShowMessage);
+  connect(session_, &DownloadSessionQt::retryAsked, this,
+          [this](const QString& text, const QString& caption) {
+            QPointer<DownloadSessionQt> session = session_;
+            const bool retry = ask_retry_(caption, text);
+            if (session) session->AnswerRetry(retry);
+          });
+  connect(session_, &DownloadSessionQt::finished, this, &DownloadCommandQt::OnFinished);
+  session_->Start();
+}
+
+void DownloadCommandQt::OnFinished(bool succeeded) {
+  delete progress_;
+  if (session_) session_->deleteLater();
+  session_ = nullptr;
+  emit statusChanged(QString());
+  emit finished(succeeded);
+}
+
+}  // namespace veltrix
