@@ -48,6 +48,8 @@ int RunScreensCommand(std::span<const std::string> args, CliIo& io);
 int RunIdentifyCommand(std::span<const std::string> args, CliIo& io);
 // Defined in session_command.cpp.
 int RunSessionCommand(std::span<const std::string> args, CliIo& io);
+// Defined in download_command.cpp.
+int RunDownloadCommand(std::span<const std::string> args, CliIo& io);
 // Defined in replay_command.cpp.
 int RunReplayCommand(std::span<const std::string> args, CliIo& io);
 

@@ -35,6 +35,12 @@ constexpr Command kCommands[] = {
      "a host session without a window: type KEYS (replay syntax, <Capture> appends the screen to "
      "FILE.SCR), print the last screen; exit 1 on a time-out, 2 when the connection fails",
      RunSessionCommand},
+    {"download",
+     "settings FILE.QVL | program FILE.SHX [--via cradle-ir|rs-232|irda|rf] [--port DEVICE]... "
+     "[--baud RATE] [--retries N] [--listen-port N] [--listen-address A] [--terminals N]",
+     "download to a terminal as Utilities > Download does (rf: N terminals at once on the "
+     "port; serial: one per --port); exit 0 when all downloaded completely, 1 when one failed",
+     RunDownloadCommand},
 };
 
 }  // namespace
@@ -55,7 +61,7 @@ void PrintHelp(std::ostream& out) {
   }
   out << "\nNumbers are decimal, texts plain text, byte strings hexadecimal pairs (0D 41).\n"
          "Exit status: 0 success, 1 the files differ (diff) or the screens cannot be told apart\n"
-         "(identify), 2 bad usage or unreadable input.\n";
+         "(identify) or a download failed, 2 bad usage or unreadable input.\n";
 }
 
 int Fail(CliIo& io, std::string_view message) {

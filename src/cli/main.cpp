@@ -5,10 +5,20 @@
 #include <vector>
 
 #include "cli/cli_command.h"
+#include "cli/download_request.h"
+
+#ifdef VELTRIX_CLI_LINKS
+namespace veltrix::cli {
+void InstallDownloadRunner();  // download_runner_qt.cpp
+}
+#endif
 
 int main(int argc, char** argv) {
   using namespace veltrix::cli;
   CliIo io{std::cout, std::cerr};
+#ifdef VELTRIX_CLI_LINKS
+  InstallDownloadRunner();
+#endif
   const std::vector<std::string> args(argv + std::min(argc, 1), argv + argc);
   if (args.empty()) {
     PrintHelp(std::cerr);
