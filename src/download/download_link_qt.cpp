@@ -292,6 +292,10 @@ void DownloadSessionQt::Listen() {
   listener->Wait(this);
 }
 
+quint16 DownloadSessionQt::listening_port() const {
+  return own_listener_ && own_listener_->listening() ? own_listener_->port() : 0;
+}
+
 void DownloadSessionQt::Accept(QTcpSocket* socket) {
   if (done_ || socket_) {
     socket->deleteLater();

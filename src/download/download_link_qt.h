@@ -76,6 +76,8 @@ class DownloadSessionQt : public QObject {
   const DownloadEngine& engine() const { return *engine_; }
   // The terminal's address over RF ("127.0.0.1:40112"), the port name over serial.
   QString peer() const { return peer_; }
+  // The port the session's own listener listens on (0 when it is not listening).
+  quint16 listening_port() const;
 
   // A connection handed over by the listener.
   void Accept(QTcpSocket* socket);
