@@ -42,6 +42,8 @@ DownloadCommandQt::DownloadCommandQt(QWidget* window) : QObject(window), window_
 }
 
 DownloadCommandQt::~DownloadCommandQt() {
+  // The window may be half gone: nothing is told any more, the link is just closed.
+  QObject::disconnect(this, nullptr, nullptr, nullptr);
   if (session_) session_->Cancel();
 }
 

@@ -55,6 +55,7 @@ class DownloadTest : public QObject {
   void settingsOverAPseudoTerminal();
   void windowStaysResponsiveAndProgressAdvances();
   void propertiesDialogStartsAtTheFirstPort();
+  void closingTheWindowMidTransferClosesTheLink();
 
  private:
   // Starts veltrix-cli download with `args`, then the simulator with `sim_args` on its port.
@@ -265,6 +266,26 @@ void DownloadTest::propertiesDialogStartsAtTheFirstPort() {
   progress.SetPosition(250);
   progress.show();
   QVERIFY(progress.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("download_progress.png")));
+}
+
+void DownloadTest::closingTheWindowMidTransferClosesTheLink() {
+  auto* window = new QWidget;
+  auto* command = new DownloadCommandQt(window);
+  command->SetListenAddress(QHostAddress::LocalHost, 0);
+  command->SetPropertiesAsker([](int, int) {
+    return DownloadCommandQt::Choice{static_cast<int>(DownloadVia::kRf), QString(), 0};
+  });
+  command->SetMessageShower([](const QString&, const QString&) { QFAIL("no message expected"); });
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  command->Run(DownloadKind::kSettings, *doc);
+  QTcpSocket socket;
+  socket.connectToHost(QHostAddress::LocalHost, command->session()->listening_port());
+  QVERIFY(socket.waitForConnected(5000));
+  socket.write("ACK\r");  // the handshake's answer
+  QTRY_VERIFY_WITH_TIMEOUT(command->progress() != nullptr, 5000);
+  delete window;
+  QTRY_COMPARE_WITH_TIMEOUT(socket.state(), QAbstractSocket::UnconnectedState, 5000);
 }
 
 }  // namespace veltrix
