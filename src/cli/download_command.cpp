@@ -10,6 +10,7 @@
 #include "download/cradle_ir_setup.h"
 #include "download/program_file.h"
 #include "settings/system/system_settings.h"
+#include "shell/commands.h"
 
 namespace veltrix::cli {
 namespace {
@@ -57,7 +58,7 @@ int RunDownloadCommand(std::span<const std::string> args, CliIo& io) {
     request.kind = DownloadKind::kSettings;
     auto doc = LoadSettingsInput(request.file, io);
     if (!doc) return kExitUsage;
-    if (doc->product() == 0) return Fail(io, std::string(download_text::kSelectProduct));
+    if (doc->product() == 0) return Fail(io, std::string(kPleaseSelectProduct));
     request.record = doc->record;
     request.via =
         static_cast<DownloadVia>(std::min<std::uint32_t>(ReadNumber(doc->record, kDownloadVia), 3));

@@ -64,7 +64,6 @@ inline constexpr std::string_view kSocketLibrary = "Unable to initialize the Win
 inline constexpr std::string_view kCreateSocket = "Create socket failed !!";
 inline constexpr std::string_view kBindSocket = "Error in Binding on socket !!";
 inline constexpr std::string_view kListenSocket = "Error in Listing on socket !!";
-inline constexpr std::string_view kSelectProduct = "Please select product !!";
 inline constexpr std::string_view kProgressCaption = "Progress";
 inline constexpr std::string_view kDownloading = "Downloading...";
 // Status lines of our own between the messages.
