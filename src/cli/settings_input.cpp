@@ -31,8 +31,13 @@ std::unique_ptr<Document> LoadSettingsInput(const std::string& path, CliIo& io,
 }
 
 bool SaveSettingsOutput(Document& doc, const std::string& path, CliIo& io) {
-  if (WriteSettingsFileTo(doc, path)) return true;
-  Fail(io, "cannot write '" + path + "'");
+  SaveStatus status;
+  if (WriteSettingsFileTo(doc, path, &status)) return true;
+  if (status.refusal == SaveRefusal::kReadOnly) {
+    Fail(io, "'" + path + "' is read-only; nothing was written");
+  } else {
+    Fail(io, "cannot write '" + path + "': " + status.reason);
+  }
   return false;
 }
 

@@ -23,13 +23,36 @@ struct FileCalls {
 // The real calls.
 const FileCalls& SystemFileCalls();
 
-// Writes `parts` one after another as the whole new content of `path`: into a temporary file in
-// the same folder (created with the permissions of the file it replaces), flushed to the disk,
-// renamed over `path`, and the folder flushed. False, with `path` untouched and the temporary file
-// removed, when any step before the rename fails.
+// Why a save did not happen.
+enum class SaveRefusal {
+  kNone,
+  kReadOnly,    // the file is read-only: the user decides (SaveOptions::replace_read_only)
+  kNotRegular,  // a folder, FIFO or device is never replaced by a file
+  kFailed,      // a system call failed; `reason` says why
+};
+struct SaveStatus {
+  SaveRefusal refusal = SaveRefusal::kNone;
+  std::string reason;  // the system's reason ("No space left on device"), or what was refused
+};
+struct SaveOptions {
+  bool replace_read_only = false;
+};
+
+// The prefix of a save's temporary file beside `target` (".NAME.veltrix-save-"); the writer's
+// process id and a random tag follow.
+std::string TemporaryPrefixFor(const std::string& target);
+
+// Writes `parts` one after another as the whole new content of `path`. A symbolic link is saved
+// through to the file it names. The new content goes into a temporary file in the same folder,
+// created with the mode of the file it replaces and given its owner and group where the system
+// lets us, flushed to the disk, renamed over the file, and the folder flushed. Temporary files
+// that earlier saves of this file left behind (their process is gone) are removed. False, with
+// the file untouched and the temporary file removed, when anything before the rename fails or
+// the target is refused; `status` says why.
 bool WriteFileAtomically(const std::string& path,
                          std::span<const std::span<const std::uint8_t>> parts,
-                         const FileCalls& calls = SystemFileCalls());
+                         const FileCalls& calls = SystemFileCalls(), SaveStatus* status = nullptr,
+                         SaveOptions options = {});
 
 }  // namespace veltrix
 

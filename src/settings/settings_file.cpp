@@ -138,11 +138,12 @@ SettingsFileReport ReadSettingsImage(Document& doc, std::span<const std::uint8_t
   return found;
 }
 
-bool WriteSettingsFileTo(Document& doc, const std::string& path) {
+bool WriteSettingsFileTo(Document& doc, const std::string& path, SaveStatus* status,
+                         SaveOptions options) {
   CopyReaderBlocksToRecord(doc);
   std::vector<std::span<const std::uint8_t>> parts{doc.record};
   for (const PageRecord& page : doc.pages) parts.emplace_back(page);
-  return WriteFileAtomically(path, parts);
+  return WriteFileAtomically(path, parts, SystemFileCalls(), status, options);
 }
 
 bool WriteSettingsFile(Document& doc) {

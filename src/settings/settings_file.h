@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "settings/atomic_file.h"
 #include "settings/document.h"
 
 namespace veltrix {
@@ -47,10 +48,11 @@ SettingsFileReport ApplyOpenRules(Document& doc);
 // optional sign, digits up to the first non-digit); 0 unless the letter is 'I' or 'V'.
 int FormatVersion(std::span<const std::uint8_t> record);
 
-// Writes the document (working blocks copied into the record first) to `path` atomically: a
-// temporary file in the same folder, then a rename. Returns false on failure, leaving any
-// previous file intact.
-bool WriteSettingsFileTo(Document& doc, const std::string& path);
+// Writes the document (working blocks copied into the record first) to `path` atomically (see
+// WriteFileAtomically). Returns false on failure or refusal, leaving any previous file intact;
+// `status` says why.
+bool WriteSettingsFileTo(Document& doc, const std::string& path, SaveStatus* status = nullptr,
+                         SaveOptions options = {});
 
 // Writes to doc.file_name (false when it is empty or the write fails).
 bool WriteSettingsFile(Document& doc);

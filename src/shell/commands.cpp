@@ -24,7 +24,9 @@ SettingsFileIo SettingsFileIo::Real() {
         if (!ReadSettingsFile(doc, path, &report)) return std::nullopt;
         return report;
       },
-      [](Document& doc, const std::string& path) { return WriteSettingsFileTo(doc, path); }};
+      [](Document& doc, const std::string& path, SaveStatus* status, SaveOptions options) {
+        return WriteSettingsFileTo(doc, path, status, options);
+      }};
 }
 
 DocumentCommands::DocumentCommands(Document& doc, UserPrompt& prompt, FileChooser& chooser,
@@ -147,12 +149,21 @@ bool DocumentCommands::SaveSettingsFileAs() {
 
 bool DocumentCommands::WriteSettingsFile() {
   if (doc_.file_name.empty()) return false;
-  if (io_.write(doc_, doc_.file_name)) {
+  SaveStatus status;
+  bool saved = io_.write(doc_, doc_.file_name, &status, {});
+  // A read-only file is the user's decision to take back.
+  if (!saved && status.refusal == SaveRefusal::kReadOnly &&
+      prompt_.AskYesNo(Title(), "\"" + doc_.file_name + "\" is read-only. Save it anyway?")) {
+    saved = io_.write(doc_, doc_.file_name, &status, {.replace_read_only = true});
+  }
+  if (saved) {
     file_is_foreign_ = false;
     return true;
   }
-  prompt_.ShowMessage(kErrorCaption, "Could not save the settings file \"" + doc_.file_name + "\".",
-                      PromptIcon::kExclamation);
+  if (status.refusal == SaveRefusal::kReadOnly) return false;
+  std::string text = "Could not save the settings file \"" + doc_.file_name + "\".";
+  if (!status.reason.empty()) text += "\n" + status.reason;
+  prompt_.ShowMessage(kErrorCaption, text, PromptIcon::kExclamation);
   return false;
 }
 

@@ -23,7 +23,7 @@ inline constexpr std::string_view kErrorCaption = "Error";
 struct SettingsFileIo {
   // Nothing when the file cannot be opened; else what Open's rules found.
   std::function<std::optional<SettingsFileReport>(Document&, const std::string&)> read;
-  std::function<bool(Document&, const std::string&)> write;
+  std::function<bool(Document&, const std::string&, SaveStatus*, SaveOptions)> write;
 
   static SettingsFileIo Real();
 };

@@ -1,6 +1,7 @@
 #include "settings/settings_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -323,6 +324,57 @@ TEST_F(SettingsFileTest, EveryFailedStepOfASaveLeavesTheOldFile) {
     EXPECT_TRUE(ReadBytes(path) == old_bytes) << step;
     EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {})) << step;
   }
+}
+
+// What stands at the name decides how a save goes: links are saved through, other kinds of files
+// are refused, a read-only file only on request, and mode, owner and group stay.
+TEST_F(SettingsFileTest, SaveRespectsWhatIsAtTheName) {
+  namespace fs = std::filesystem;
+  const std::vector<std::uint8_t> old_bytes(10, 1), new_bytes(20, 2);
+  const std::array<std::span<const std::uint8_t>, 1> parts{new_bytes};
+  const std::string real = folder_.File("real.QVL"), link = folder_.File("link.QVL");
+  WriteBytes(real, old_bytes);
+  fs::create_symlink("real.QVL", link);
+  SaveStatus status;
+  ASSERT_TRUE(WriteFileAtomically(link, parts, SystemFileCalls(), &status));
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_TRUE(ReadBytes(real) == new_bytes);
+
+  const std::string fifo = folder_.File("fifo.QVL");
+  ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+  EXPECT_FALSE(WriteFileAtomically(fifo, parts, SystemFileCalls(), &status));
+  EXPECT_EQ(status.refusal, SaveRefusal::kNotRegular);
+  EXPECT_TRUE(fs::is_fifo(fifo));
+
+  WriteBytes(real, old_bytes);
+  fs::permissions(real, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  EXPECT_FALSE(WriteFileAtomically(real, parts, SystemFileCalls(), &status));
+  EXPECT_EQ(status.refusal, SaveRefusal::kReadOnly);
+  EXPECT_TRUE(ReadBytes(real) == old_bytes);
+  ASSERT_TRUE(WriteFileAtomically(real, parts, SystemFileCalls(), &status, {true}));
+  EXPECT_EQ(fs::status(real).permissions() & fs::perms::all, fs::perms(0444));
+
+  fs::permissions(real, fs::perms(0600));
+  if (::geteuid() == 0) ASSERT_EQ(::chown(real.c_str(), 1234, 4321), 0);
+  ASSERT_TRUE(WriteFileAtomically(real, parts));
+  struct stat after {};
+  ASSERT_EQ(::stat(real.c_str(), &after), 0);
+  EXPECT_EQ(after.st_mode & 07777, 0600u);
+  if (::geteuid() == 0) EXPECT_EQ(std::pair(after.st_uid, after.st_gid), std::pair(1234u, 4321u));
+
+  // A leftover of a save whose process is gone goes; one of a running process stays.
+  const std::string dead = TemporaryPrefixFor(real) + "999999999-x";
+  const std::string alive = TemporaryPrefixFor(real) + "1-x";
+  WriteBytes(dead, old_bytes);
+  WriteBytes(alive, old_bytes);
+  ASSERT_TRUE(WriteFileAtomically(real, parts));
+  EXPECT_FALSE(fs::exists(dead));
+  EXPECT_TRUE(fs::exists(alive));
+
+  FileCalls calls = SystemFileCalls();
+  calls.rename = [](const char*, const char*) { return errno = EROFS, -1; };
+  EXPECT_FALSE(WriteFileAtomically(real, parts, calls, &status));
+  EXPECT_EQ(status.reason, std::strerror(EROFS));
 }
 
 // Short writes are carried on, and the file and then its folder are flushed before success.

@@ -19,6 +19,7 @@ struct FakeFiles {
   std::map<std::string, std::uint8_t> files;
   std::map<std::string, SettingsFileReport> reports;  // default: a whole, accepted file
   bool fail_writes = false;
+  bool read_only = false;  // refused until the user agrees
   int writes = 0;
 
   SettingsFileIo Io() {
@@ -33,9 +34,17 @@ struct FakeFiles {
           whole.file_size = whole.bytes_read = kSettingsFileSize;
           return whole;
         },
-        [this](Document& doc, const std::string& path) {
+        [this](Document& doc, const std::string& path, SaveStatus* status, SaveOptions options) {
           ++writes;
-          if (fail_writes) return false;
+          if (read_only && !options.replace_read_only) {
+            status->refusal = SaveRefusal::kReadOnly;
+            return false;
+          }
+          if (fail_writes) {
+            status->refusal = SaveRefusal::kFailed;
+            status->reason = "No space left on device";
+            return false;
+          }
           files[path] = doc.record[kSomeByte];
           return true;
         }};
@@ -181,10 +190,27 @@ TEST_F(DocumentCommandsTest, AFailedSaveInTheQuestionKeepsTheWindowAndTheChanges
   EXPECT_TRUE(doc_->modified);
   EXPECT_EQ(Texts(),
             (std::vector<std::string>{
-                "Save the program ?", "Could not save the settings file \"locked.QVL\".",
-                "Save the program ?", "Could not save the settings file \"locked.QVL\"."}));
+                "Save the program ?",
+                "Could not save the settings file \"locked.QVL\".\nNo space left on device",
+                "Save the program ?",
+                "Could not save the settings file \"locked.QVL\".\nNo space left on device"}));
   EXPECT_EQ(prompt_.shown[1].caption, "Error");
   EXPECT_EQ(prompt_.shown[1].icon, PromptIcon::kExclamation);
+}
+
+// A read-only file is saved only when the user says so; No leaves it and the changes.
+TEST_F(DocumentCommandsTest, AReadOnlyFileIsTheUsersDecision) {
+  ChooseProduct(1);
+  doc_->file_name = "kept.QVL";
+  files_.read_only = true;
+  for (PromptAnswer answer : {PromptAnswer::kNo, PromptAnswer::kYes}) {
+    doc_->modified = true;
+    prompt_.answers = {answer};
+    commands_.Save();
+    EXPECT_EQ(doc_->modified, answer == PromptAnswer::kNo);
+    EXPECT_EQ(prompt_.shown.back().text, "\"kept.QVL\" is read-only. Save it anyway?");
+  }
+  EXPECT_EQ(files_.files.count("kept.QVL"), 1u);
 }
 
 TEST_F(DocumentCommandsTest, ACancelledSaveAsInTheQuestionKeepsTheWindow) {
