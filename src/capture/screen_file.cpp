@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "settings/file_read.h"
+
 namespace veltrix {
 
 std::array<std::uint8_t, kScreenFileHeaderSize> ScreenFileHeader() {
@@ -61,33 +63,27 @@ std::optional<LoadedScreens> ParseScreenFile(std::span<const std::uint8_t> bytes
 }
 
 std::optional<LoadedScreens> ReadScreenFile(const std::filesystem::path& path, std::string& error) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) {
-    error = "cannot open '" + path.string() + "'";
+  // The size check comes first; no more than the screens that are loaded is read.
+  std::string reason;
+  std::optional<FileRead> read = ReadRegularFile(
+      path.string(), kScreenFileHeaderSize + kMaxLoadedScreens * kPageRecordSize, &reason);
+  if (!read) {
+    error = "cannot open '" + path.string() + "': " + reason;
     return std::nullopt;
   }
-  // Only a size that fits the layout is read whole: the check comes first.
-  in.seekg(0, std::ios::end);
-  const std::streamoff size = in.tellg();
-  if (size < 0) {
-    error = "cannot read '" + path.string() + "'";
-    return std::nullopt;
-  }
-  const std::optional<std::size_t> in_file = ScreensInFileOfSize(static_cast<std::size_t>(size));
+  const std::optional<std::size_t> in_file =
+      ScreensInFileOfSize(static_cast<std::size_t>(read->file_size));
   if (!in_file) {
     error = std::string(kVersionErrorMessage);
     return std::nullopt;
   }
   const std::size_t wanted =
       kScreenFileHeaderSize + std::min(*in_file, kMaxLoadedScreens) * kPageRecordSize;
-  std::vector<std::uint8_t> data(wanted);
-  in.seekg(0);
-  in.read(reinterpret_cast<char*>(data.data()), static_cast<std::streamsize>(wanted));
-  if (in.gcount() != static_cast<std::streamsize>(wanted)) {
+  if (read->bytes.size() != wanted) {
     error = "cannot read '" + path.string() + "'";
     return std::nullopt;
   }
-  std::optional<LoadedScreens> loaded = ParseScreenFile(data);
+  std::optional<LoadedScreens> loaded = ParseScreenFile(read->bytes);
   if (loaded) loaded->screens_in_file = *in_file;
   return loaded;
 }

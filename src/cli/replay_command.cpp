@@ -6,21 +6,41 @@
 
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
+#include "settings/file_read.h"
 #include "tn5250/replay.h"
 
 namespace veltrix::cli {
 
 namespace {
 
-bool ReadStream(const std::string& path, std::vector<std::uint8_t>& bytes) {
+// A recorded session is never this large; more is not read (and the user is told).
+constexpr std::size_t kMaxStreamBytes = 64u << 20;
+
+// Reads the stream (a regular file, or standard input for "-"), at most kMaxStreamBytes; false
+// with the reason when it cannot be read. `cut` is set when there was more.
+bool ReadStream(const std::string& path, std::vector<std::uint8_t>& bytes, bool& cut,
+                std::string& reason) {
+  cut = false;
   if (path == "-") {
-    bytes.assign(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
-    return true;
+    std::vector<char> buffer(64 * 1024);
+    while (std::cin.read(buffer.data(), static_cast<std::streamsize>(buffer.size())) ||
+           std::cin.gcount() > 0) {
+      const auto n = static_cast<std::size_t>(std::cin.gcount());
+      const std::size_t take = std::min(n, kMaxStreamBytes - bytes.size());
+      bytes.insert(bytes.end(), buffer.begin(), buffer.begin() + static_cast<long>(take));
+      if (take < n || bytes.size() == kMaxStreamBytes) {
+        cut = take < n || std::cin.peek() != std::char_traits<char>::eof();
+        break;
+      }
+    }
+    if (std::cin.bad()) reason = "read error on standard input";
+    return !std::cin.bad();
   }
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-  return !in.bad();
+  std::optional<FileRead> read = ReadRegularFile(path, kMaxStreamBytes, &reason);
+  if (!read) return false;
+  bytes = std::move(read->bytes);
+  cut = read->cut;
+  return true;
 }
 
 }  // namespace
@@ -52,7 +72,15 @@ int RunReplayCommand(std::span<const std::string> args, CliIo& io) {
     }
   }
   const std::string& path = parsed.positional[0];
-  if (!ReadStream(path, step.host)) return Fail(io, "replay: cannot read '" + path + "'");
+  bool cut = false;
+  std::string reason;
+  if (!ReadStream(path, step.host, cut, reason)) {
+    return Fail(io, "replay: cannot read '" + path + "': " + reason);
+  }
+  if (cut) {
+    Warn(io, "replay: '" + path + "' is larger than " + std::to_string(kMaxStreamBytes >> 20) +
+                 " MB; only its start is replayed");
+  }
   ReplayRun run(config);
   run.Run({&step, 1});
   io.out << (parsed.has_flag("--json") ? run.Json() : run.Text());

@@ -14,6 +14,7 @@
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/field_registry.h"
+#include "settings/file_read.h"
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/working_block.h"
 #include "settings/screen/screen_pages.h"
@@ -114,18 +115,11 @@ bool ReadSettingsFile(Document& doc, const std::string& path) {
 }
 
 bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport* report) {
-  std::error_code error;
-  if (fs::is_directory(path, error)) return false;
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  std::vector<std::uint8_t> image(kSettingsFileSize);
-  in.read(reinterpret_cast<char*>(image.data()), static_cast<std::streamsize>(image.size()));
-  if (in.bad()) return false;
-  image.resize(static_cast<std::size_t>(in.gcount()));
-
-  SettingsFileReport found = ReadSettingsImage(doc, image);
-  const std::uintmax_t size = fs::file_size(path, error);
-  found.file_size = error ? image.size() : size;
+  // Only what the layout holds is read, whatever the file's size.
+  std::optional<FileRead> read = ReadRegularFile(path, kSettingsFileSize);
+  if (!read) return false;
+  SettingsFileReport found = ReadSettingsImage(doc, read->bytes);
+  found.file_size = read->file_size;
   if (report) *report = found;
   return true;
 }
