@@ -1,6 +1,7 @@
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
 #include "cli/settings_input.h"
+#include "settings/atomic_file.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/field_values.h"
 #include "settings/reader/working_block.h"
@@ -33,6 +34,8 @@ std::string ApplySetAssignment(Document& doc, std::string_view assignment) {
   return "";
 }
 
+constexpr int kSetLockWaitMs = 30000;
+
 int RunSetCommand(std::span<const std::string> args, CliIo& io) {
   const ParsedArgs parsed = ParseArgs(args, {}, {});
   if (!parsed.error.empty()) return Fail(io, "set: " + parsed.error);
@@ -40,6 +43,11 @@ int RunSetCommand(std::span<const std::string> args, CliIo& io) {
     return Fail(io, "set: " + error + " (set FILE NAME=VALUE...)");
   }
   const std::string& path = parsed.positional[0];
+  // Read, change and write under one lock: concurrent sets each land, one after the other.
+  FileUpdateLock lock;
+  if (std::string reason; !lock.Acquire(path, kSetLockWaitMs, &reason)) {
+    return Fail(io, "set: '" + path + "': " + reason + "; nothing written");
+  }
   SettingsFileReport report;
   auto doc = LoadSettingsInput(path, io, &report);
   if (!doc) return kExitUsage;

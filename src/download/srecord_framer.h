@@ -10,9 +10,11 @@
 namespace veltrix {
 
 // The frame buffer the terminal's loader reads into: a frame of n bytes before its checksum goes
-// out as n + 2 bytes (checksum and carriage return), so n is at most 258.
+// out as n + 2 bytes (checksum and carriage return), and its count byte holds n - 2, so n is at
+// most 257.
 inline constexpr std::size_t kFrameBufferBytes = 260;
-inline constexpr std::size_t kMaxFrameLength = kFrameBufferBytes - 2;
+inline constexpr std::size_t kMaxFrameLength = 257;
+static_assert(kMaxFrameLength + 2 <= kFrameBufferBytes && kMaxFrameLength - 2 <= 0xFF);
 // A frame is sent at the end of a record once it holds more than this many bytes.
 inline constexpr std::size_t kFrameSendThreshold = 100;
 // "S7", count 5, address 0, checksum, carriage return.

@@ -1,6 +1,7 @@
 #include "settings/atomic_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -85,6 +86,40 @@ void FlushFolderOf(const FileCalls& calls, const std::string& path) {
 const FileCalls& SystemFileCalls() {
   static const FileCalls calls{OpenFile, ::write, ::fsync, ::close, ::rename, ::unlink};
   return calls;
+}
+
+FileUpdateLock::~FileUpdateLock() {
+  if (fd_ >= 0) ::close(fd_);  // closing releases the lock
+}
+
+bool FileUpdateLock::Acquire(const std::string& path, int timeout_ms, std::string* reason) {
+  const std::string target = ResolveLinks(path);
+  for (int waited = 0;;) {
+    const int fd = ::open(target.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) return true;
+    struct stat held {};
+    if (::fstat(fd, &held) != 0 || !S_ISREG(held.st_mode)) {
+      ::close(fd);
+      return true;
+    }
+    while (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+      if (waited >= timeout_ms) {
+        ::close(fd);
+        if (reason) *reason = "another program is changing the file";
+        return false;
+      }
+      ::usleep(10 * 1000);
+      waited += 10;
+    }
+    // A save renames a new file over the name: the lock must be on the file the name shows now.
+    struct stat now {};
+    if (::stat(target.c_str(), &now) == 0 && now.st_ino == held.st_ino &&
+        now.st_dev == held.st_dev) {
+      fd_ = fd;
+      return true;
+    }
+    ::close(fd);
+  }
 }
 
 std::string TemporaryPrefixFor(const std::string& target) {

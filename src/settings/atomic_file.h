@@ -23,6 +23,22 @@ struct FileCalls {
 // The real calls.
 const FileCalls& SystemFileCalls();
 
+// An advisory lock on a file for a read-modify-write (`veltrix-cli set`, the window's Save):
+// other Veltrix processes changing the same file wait for it, so that no change is lost. A file
+// that is missing or not a regular file is not locked (reading it fails on its own).
+class FileUpdateLock {
+ public:
+  FileUpdateLock() = default;
+  FileUpdateLock(const FileUpdateLock&) = delete;
+  FileUpdateLock& operator=(const FileUpdateLock&) = delete;
+  ~FileUpdateLock();
+  // False with the reason when another process holds the file longer than `timeout_ms`.
+  bool Acquire(const std::string& path, int timeout_ms, std::string* reason = nullptr);
+
+ private:
+  int fd_ = -1;
+};
+
 // Why a save did not happen.
 enum class SaveRefusal {
   kNone,

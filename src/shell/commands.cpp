@@ -13,6 +13,8 @@ FileFilter SettingsFilter() {
   return FileFilter{std::string(kSettingsFilterText), std::string(kSettingsFilterPattern)};
 }
 
+constexpr int kSaveLockWaitMs = 5000;
+
 std::string_view Title() { return StringResource(kWindowTitleId); }
 
 }  // namespace
@@ -25,6 +27,12 @@ SettingsFileIo SettingsFileIo::Real() {
         return report;
       },
       [](Document& doc, const std::string& path, SaveStatus* status, SaveOptions options) {
+        // The same lock as veltrix-cli set takes, so that neither loses the other's change.
+        FileUpdateLock lock;
+        if (!lock.Acquire(path, kSaveLockWaitMs, &status->reason)) {
+          status->refusal = SaveRefusal::kFailed;
+          return false;
+        }
         return WriteSettingsFileTo(doc, path, status, options);
       }};
 }

@@ -455,6 +455,7 @@ TEST(SRecordFramer, LongRecordsSplitBeforeTheBufferIsFull) {
   std::size_t data = 0;
   for (const auto& f : frames) {
     EXPECT_LE(f.size(), kFrameBufferBytes);
+    EXPECT_EQ(f[2], f.size() - 4);  // the count byte still holds the frame's count
     EXPECT_EQ(AddressOf(f), next);
     next += static_cast<std::uint32_t>(f.size() - 9);
     data += f.size() - 9;

@@ -377,6 +377,27 @@ TEST_F(SettingsFileTest, SaveRespectsWhatIsAtTheName) {
   EXPECT_EQ(status.reason, std::strerror(EROFS));
 }
 
+// Twelve veltrix-cli set at once on one file, each changing its own line: every change lands.
+TEST_F(SettingsFileTest, ConcurrentSetsAllLand) {
+  const std::string path = folder_.File("shared.QVL");
+  const std::string cli = VELTRIX_CLI_PATH;
+  ASSERT_EQ(std::system((cli + " new --product 1 --out " + path).c_str()), 0);
+  std::string script;
+  for (int i = 0; i < 12; ++i) {
+    script += cli + " set " + path + " 'TerminalScreen[" + std::to_string(i / 8) + "][" +
+              std::to_string(i % 8) + "]=L" + std::to_string(i) + "' & ";
+  }
+  ASSERT_EQ(std::system(("(" + script + "wait) >/dev/null 2>&1").c_str()), 0);
+  auto doc = std::make_unique<Document>();
+  ASSERT_TRUE(ReadSettingsFile(*doc, path));
+  for (int i = 0; i < 12; ++i) {
+    const std::string line(
+        reinterpret_cast<const char*>(doc->record.data()) + kTerminalScreen.OffsetOf(i / 8, i % 8),
+        2 + (i >= 10));
+    EXPECT_EQ(line, "L" + std::to_string(i));
+  }
+}
+
 // Short writes are carried on, and the file and then its folder are flushed before success.
 TEST_F(SettingsFileTest, SaveFlushesTheFileAndItsFolder) {
   static int flushes;
