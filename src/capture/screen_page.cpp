@@ -15,15 +15,12 @@
 #include "capture/identification.h"
 #include "capture/screen_file.h"
 #include "resources/fixed_font_qt.h"
+#include "resources/text_qt.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/field.h"
 
 namespace veltrix {
 namespace {
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QPushButton* Button(const QString& text, const char* name) {
   auto* button = new QPushButton(text);
@@ -47,7 +44,7 @@ ScreenPage::ScreenPage(Document& doc, QWidget* parent) : SettingsPage(doc, paren
   setObjectName("SCREEN_DLG");
   ask_file_ = [this]() -> std::optional<std::string> {
     const QString name =
-        QFileDialog::getOpenFileName(this, QString(), QString(), Text(kScreenFileFilter));
+        QFileDialog::getOpenFileName(this, QString(), QString(), QtText(kScreenFileFilter));
     if (name.isEmpty()) return std::nullopt;
     return name.toStdString();
   };
@@ -231,7 +228,7 @@ void ScreenPage::LoadFile() {
 }
 
 void ScreenPage::DeletePage() {
-  if (!ask_(QStringLiteral("Screen"), Text(kDeletePageQuestion))) return;
+  if (!ask_(QStringLiteral("Screen"), QtText(kDeletePageQuestion))) return;
   editor_.DeleteCurrent();
   ShowView();
 }

@@ -23,7 +23,6 @@ struct Terminal {
   QElapsedTimer clock;
   int retries_left = 0;
   std::string outcome;  // the last message, in the download's own words
-  bool done = false;
   bool succeeded = false;
   double seconds = 0;
 };
@@ -141,7 +140,6 @@ int Run(const DownloadRequest& request, CliIo& io) {
       QObject::connect(t.session, &DownloadSessionQt::progressClosed, [&] { progress.Close(); });
     }
     QObject::connect(t.session, &DownloadSessionQt::finished, [&](bool succeeded) {
-      t.done = true;
       t.succeeded = succeeded;
       t.seconds = static_cast<double>(t.clock.elapsed()) / 1000.0;
       if (t.outcome.empty() || (!succeeded && t.outcome == download_text::kCompleted)) {

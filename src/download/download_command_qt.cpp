@@ -4,17 +4,10 @@
 #include <QMessageBox>
 #include <QWidget>
 
+#include "resources/text_qt.h"
 #include "settings/system/system_settings.h"
 
 namespace veltrix {
-namespace {
-
-QString Q(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-}  // namespace
-
 DownloadCommandQt::DownloadCommandQt(QWidget* window) : QObject(window), window_(window) {
   ask_program_ = [this](const QString& last) -> std::optional<QString> {
     QFileDialog dialog(window_);
@@ -66,7 +59,7 @@ void DownloadCommandQt::Run(DownloadKind kind, const Document& doc) {
     if (!file) return;
     last_program_ = *file;
     if (!program_.Open(file->toStdString())) {
-      ShowMessage(Q(download_text::kCannotOpenFile), Q(download_text::kDownload));
+      ShowMessage(QtText(download_text::kCannotOpenFile), QtText(download_text::kDownload));
       return;
     }
   }

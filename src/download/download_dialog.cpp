@@ -10,23 +10,16 @@
 #include <QVBoxLayout>
 
 #include "download/download_engine.h"
+#include "resources/text_qt.h"
 #include "settings/system/system_settings.h"
 
 namespace veltrix {
-namespace {
-
-QString Q(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-}  // namespace
-
 DownloadPropertiesDialog::DownloadPropertiesDialog(int via, int baud_index,
                                                    const QStringList& ports, QWidget* parent)
     : QDialog(parent), via_(new QComboBox), port_(new QComboBox), rate_(new QComboBox) {
   setWindowTitle(tr("Download Properties"));
-  for (std::string_view name : kDownloadViaNames) via_->addItem(Q(name));
-  for (std::string_view name : kBaudRateNames) rate_->addItem(Q(name));
+  for (std::string_view name : kDownloadViaNames) via_->addItem(QtText(name));
+  for (std::string_view name : kBaudRateNames) rate_->addItem(QtText(name));
   port_->setEditable(true);
   port_->setInsertPolicy(QComboBox::NoInsert);
   port_->addItems(ports);
@@ -72,13 +65,13 @@ QStringList DownloadPropertiesDialog::SystemPorts() {
 
 DownloadProgressDialog::DownloadProgressDialog(int maximum, QWidget* parent)
     : QDialog(parent), bar_(new QProgressBar) {
-  setWindowTitle(Q(download_text::kProgressCaption));
+  setWindowTitle(QtText(download_text::kProgressCaption));
   bar_->setRange(0, maximum);
   bar_->setValue(0);
   bar_->setFormat(QStringLiteral("%p%"));
   bar_->setMinimumWidth(260);
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(new QLabel(Q(download_text::kDownloading)));
+  layout->addWidget(new QLabel(QtText(download_text::kDownloading)));
   layout->addWidget(bar_);
   setModal(false);
 }

@@ -394,10 +394,7 @@ void DownloadEngine::NextProgramStep() {
 void DownloadEngine::FrameReply() {
   if (discarding_) return ResendFrame();
   ++looks_;
-  if (reply_ == "FA") {
-    ++block_;
-    return NextProgramStep();
-  }
+  if (reply_ == "FA") return NextProgramStep();
   if (reply_ == "FN") return ResendFrame();
   if (reply_ == "FF") {
     Message(download_text::kDownloadError, download_text::kDownload);

@@ -149,15 +149,10 @@ class DownloadEngine {
   std::optional<std::int64_t> deadline() const { return deadline_; }
   bool finished() const { return step_ == Step::kDone; }
   bool succeeded() const { return succeeded_; }
-  bool waiting_for_answer() const { return step_ == Step::kAskRetry; }
   // A reply is being collected.
   bool collecting() const { return collecting_; }
-  DownloadKind kind() const { return kind_; }
-  DownloadVia via() const { return via_; }
   // The text of the last reply collected.
   const std::string& last_reply() const { return reply_; }
-  // Settings blocks acknowledged or program frames accepted in the current attempt.
-  int blocks_done() const { return block_; }
 
  private:
   enum class Step {

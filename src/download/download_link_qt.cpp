@@ -6,12 +6,10 @@
 #include <QTimer>
 #include <span>
 
+#include "resources/text_qt.h"
+
 namespace veltrix {
 namespace {
-
-QString Q(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::span<const std::uint8_t> Span(const QByteArray& bytes) {
   return {reinterpret_cast<const std::uint8_t*>(bytes.constData()),
@@ -163,7 +161,7 @@ void DownloadSessionQt::StartEngine() { Carry(engine_->Start(Now())); }
 
 void DownloadSessionQt::Fail(std::string_view text, std::string_view caption) {
   CloseSerial();
-  emit message(Q(text), Q(caption));
+  emit message(QtText(text), QtText(caption));
   End(false);
 }
 

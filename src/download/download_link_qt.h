@@ -72,8 +72,6 @@ class DownloadSessionQt : public QObject {
   void AnswerRetry(bool retry);
   // Stops at once: closes the link, no message; finished(false) follows.
   void Cancel();
-  bool running() const { return started_ && !done_; }
-  const DownloadEngine& engine() const { return *engine_; }
   // The terminal's address over RF ("127.0.0.1:40112"), the port name over serial.
   QString peer() const { return peer_; }
   // The port the session's own listener listens on (0 when it is not listening).
@@ -101,7 +99,7 @@ class DownloadSessionQt : public QObject {
   void OnSocketClosed();
   void Send(const std::vector<std::uint8_t>& bytes);
   bool OpenSerial();
-  bool ApplyLine(bool with_modem_lines);
+  bool ApplyLine(bool report);
   void RunIr(std::vector<IrAction> actions);
   void StartEngine();
   void Listen();

@@ -11,15 +11,12 @@
 #include <QVBoxLayout>
 
 #include "resources/fixed_font_qt.h"
+#include "resources/text_qt.h"
 #include "shell/about_text.h"
 #include "shell/tool_icons_qt.h"
 
 namespace veltrix {
 namespace {
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 // The licence text's fixed-pitch font, about 16 pixels per line and 8 per character.
 QFont LicenceFont() {
@@ -31,7 +28,7 @@ QFont LicenceFont() {
 }  // namespace
 
 AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
-  setWindowTitle(Text(kAboutTitle));
+  setWindowTitle(QtText(kAboutTitle));
   setModal(true);
 
   auto* icon = new QLabel(this);

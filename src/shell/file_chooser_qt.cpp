@@ -4,17 +4,15 @@
 #include <QFileInfo>
 #include <QScreen>
 
+#include "resources/text_qt.h"
+
 namespace veltrix {
 namespace {
 
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
 // "Settings (*.QVL)": the dialog matches the pattern without regard to case.
 QString NameFilter(const FileFilter& filter) {
-  QString description = Text(filter.description);
-  const QString pattern = Text(filter.pattern);
+  QString description = QtText(filter.description);
+  const QString pattern = QtText(filter.pattern);
   if (!description.contains(pattern)) description += " (" + pattern + ")";
   return description;
 }
@@ -38,7 +36,7 @@ std::optional<std::string> QtFileChooser::ChooseFileToOpen(const FileFilter& fil
   QFileDialog dialog(parent_, QString(), last_folder_, NameFilter(filter));
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
-  if (!initial.empty()) dialog.selectFile(Text(initial));
+  if (!initial.empty()) dialog.selectFile(QtText(initial));
   return Run(dialog);
 }
 
@@ -47,7 +45,7 @@ std::optional<std::string> QtFileChooser::ChooseFileToSave(const FileFilter& fil
   QFileDialog dialog(parent_, QString(), last_folder_, NameFilter(filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setDefaultSuffix(Text(default_extension));
+  dialog.setDefaultSuffix(QtText(default_extension));
   return Run(dialog);
 }
 

@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "resources/strings.h"
+#include "resources/text_qt.h"
 #include "shell/about_dialog.h"
 #include "shell/command_table.h"
 #include "shell/file_chooser_qt.h"
@@ -29,10 +30,6 @@
 
 namespace veltrix {
 namespace {
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 // The gap between the toolbar and the tree or host screen.
 constexpr int kClientGap = 2;
@@ -55,7 +52,7 @@ MainWindow::MainWindow(Ports ports, const SettingsPageRegistry& pages, QWidget* 
 
   UpdateTitle();
   setWindowIcon(ProgramIcon());
-  setObjectName(Text(StringResource(kApplicationNameId)));
+  setObjectName(QtText(StringResource(kApplicationNameId)));
   CreateActions();
   CreateMenus();
   CreateToolBar();
@@ -85,15 +82,15 @@ MainWindow::~MainWindow() {
 
 void MainWindow::CreateActions() {
   for (const CommandDef& command : kCommands) {
-    auto* action = new QAction(Text(MenuLabel(command.menu_text)), this);
-    const QString description = Text(CommandDescription(command.id));
+    auto* action = new QAction(QtText(MenuLabel(command.menu_text)), this);
+    const QString description = QtText(CommandDescription(command.id));
     action->setStatusTip(description);
     const std::string_view tooltip = CommandTooltip(command.id);
-    action->setToolTip(tooltip.empty() ? Text(MenuLabel(command.menu_text)).remove('&')
-                                       : Text(tooltip));
+    action->setToolTip(tooltip.empty() ? QtText(MenuLabel(command.menu_text)).remove('&')
+                                       : QtText(tooltip));
     const std::string_view shortcut = MenuShortcut(command.menu_text);
     if (!shortcut.empty()) {
-      action->setShortcut(QKeySequence(Text(shortcut)));
+      action->setShortcut(QKeySequence(QtText(shortcut)));
       action->setShortcutContext(Qt::WindowShortcut);
     }
     action->setData(command.id);
@@ -106,7 +103,7 @@ void MainWindow::CreateActions() {
 
 void MainWindow::CreateMenus() {
   for (const MenuDef& menu_def : kMenus) {
-    QMenu* menu = menuBar()->addMenu(Text(menu_def.title));
+    QMenu* menu = menuBar()->addMenu(QtText(menu_def.title));
     for (int id : menu_def.items) {
       if (id == kSeparator) {
         menu->addSeparator();
@@ -139,11 +136,11 @@ void MainWindow::CreateToolBar() {
   product_box_->setObjectName("product_box");
   product_box_->setFixedWidth(kProductBoxWidth);
   product_box_->setMaxVisibleItems(kProductBoxDropHeight / 20);
-  product_box_->addItem(Text(kSelectProduct));
+  product_box_->addItem(QtText(kSelectProduct));
   for (const std::string& name : ProductNameTable()) {
     product_box_->addItem(QString::fromStdString(name));
   }
-  product_box_->setToolTip(Text(kSelectProduct));
+  product_box_->setToolTip(QtText(kSelectProduct));
   tool_bar_->addWidget(product_box_);
   connect(product_box_, &QComboBox::activated, this, &MainWindow::OnProductChosen);
 }
@@ -253,7 +250,7 @@ void MainWindow::ExecuteCommand(int command_id) {
   if (destroying_) return;
   const CommandDef* command = FindCommand(command_id);
   if (command == nullptr || !action(command_id)->isEnabled()) return;
-  ShowCommandStatus(Text(CommandDescription(command_id)).left(255));
+  ShowCommandStatus(QtText(CommandDescription(command_id)).left(255));
   if (!commands_->CheckProduct(command_id)) {
     product_box_->setFocus();
     return;
@@ -292,7 +289,7 @@ void MainWindow::ExecuteCommand(int command_id) {
 }
 
 void MainWindow::UpdateTitle() {
-  const QString program = Text(StringResource(kWindowTitleId));
+  const QString program = QtText(StringResource(kWindowTitleId));
   const QString file = QFileInfo(QString::fromStdString(doc_->file_name)).fileName();
   setWindowTitle(file.isEmpty() ? program + "[*]" : file + "[*] - " + program);
   setWindowModified(doc_->modified);

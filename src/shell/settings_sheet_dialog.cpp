@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "resources/text_qt.h"
 #include "shell/tool_icons_qt.h"
 
 namespace veltrix {
@@ -21,10 +22,6 @@ QSize PageSize(const QFontMetrics& metrics) {
   return QSize(420 * metrics.averageCharWidth() / 4, 250 * metrics.height() / 8);
 }
 
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
 }  // namespace
 
 SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegistry& registry,
@@ -33,7 +30,7 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
       doc_(doc),
       registry_(registry),
       lifecycle_(doc, [this](int index) { return CreatePage(index); }) {
-  setWindowTitle(Text(kSheetCaption));
+  setWindowTitle(QtText(kSheetCaption));
   setWindowIcon(ProgramIcon());
   setModal(true);
 
@@ -49,7 +46,7 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
     holders_[i] = new QVBoxLayout(holder);
     holders_[i]->setContentsMargins(0, 0, 0, 0);
     areas[i]->setWidget(holder);
-    tabs_->addTab(areas[i], Text(kSheetPages[i].caption));
+    tabs_->addTab(areas[i], QtText(kSheetPages[i].caption));
   }
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);

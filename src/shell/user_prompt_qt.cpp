@@ -2,12 +2,10 @@
 
 #include <QMessageBox>
 
+#include "resources/text_qt.h"
+
 namespace veltrix {
 namespace {
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 QMessageBox::Icon BoxIcon(PromptIcon icon) {
   switch (icon) {
@@ -26,12 +24,12 @@ QMessageBox::Icon BoxIcon(PromptIcon icon) {
 }  // namespace
 
 void QtUserPrompt::ShowMessage(std::string_view caption, std::string_view text, PromptIcon icon) {
-  QMessageBox box(BoxIcon(icon), Text(caption), Text(text), QMessageBox::Ok, parent_);
+  QMessageBox box(BoxIcon(icon), QtText(caption), QtText(text), QMessageBox::Ok, parent_);
   box.exec();
 }
 
 PromptAnswer QtUserPrompt::AskYesNoCancel(std::string_view caption, std::string_view text) {
-  QMessageBox box(QMessageBox::Question, Text(caption), Text(text),
+  QMessageBox box(QMessageBox::Question, QtText(caption), QtText(text),
                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent_);
   box.setDefaultButton(QMessageBox::Yes);
   box.setEscapeButton(QMessageBox::Cancel);
@@ -46,7 +44,7 @@ PromptAnswer QtUserPrompt::AskYesNoCancel(std::string_view caption, std::string_
 }
 
 bool QtUserPrompt::AskYesNo(std::string_view caption, std::string_view text) {
-  return QMessageBox::question(parent_, Text(caption), Text(text),
+  return QMessageBox::question(parent_, QtText(caption), QtText(text),
                                QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 

@@ -17,14 +17,11 @@
 #include <string_view>
 
 #include "resources/fixed_font_qt.h"
+#include "resources/text_qt.h"
 #include "settings/rewriting_edit_qt.h"
 
 namespace veltrix {
 namespace {
-
-QString Caption(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QRadioButton* AddRadio(QButtonGroup* group, const QString& text, int id, const char* name,
                        QLayout* layout) {
@@ -90,8 +87,8 @@ QWidget* SystemPage::BuildSecurityGroup() {
   layout->addLayout(row);
   for (std::size_t i = 0; i < kSecurityFlags.size(); ++i) {
     // The captions escape "&" as "&&", which a button shows as one "&".
-    security_[i] = new QCheckBox(Caption(kSecurityFlags[i].caption));
-    security_[i]->setObjectName(Caption(kSecurityFlags[i].field->name));
+    security_[i] = new QCheckBox(QtText(kSecurityFlags[i].caption));
+    security_[i]->setObjectName(QtText(kSecurityFlags[i].field->name));
     layout->addWidget(security_[i]);
   }
   return box;
@@ -147,10 +144,10 @@ QWidget* SystemPage::BuildRightSide() {
 
   download_via_ = new QComboBox;
   download_via_->setObjectName("download_via");
-  for (std::string_view name : kDownloadViaNames) download_via_->addItem(Caption(name));
+  for (std::string_view name : kDownloadViaNames) download_via_->addItem(QtText(name));
   baud_rate_ = new QComboBox;
   baud_rate_->setObjectName("baud_rate");
-  for (std::string_view name : kBaudRateNames) baud_rate_->addItem(Caption(name));
+  for (std::string_view name : kBaudRateNames) baud_rate_->addItem(QtText(name));
   key_click_ = new QCheckBox(tr("Key Click"));
   key_click_->setObjectName("key_click");
   reset_ = new QPushButton(tr("Reset"));
