@@ -10,13 +10,23 @@
 
 namespace {
 
+// Every key of the keyboard.
 constexpr veltrix::HostKey kKeys[] = {
-    veltrix::HostKey::kBackspace, veltrix::HostKey::kEnter,     veltrix::HostKey::kReset,
-    veltrix::HostKey::kF1,        veltrix::HostKey::kF12,       veltrix::HostKey::kUp,
-    veltrix::HostKey::kDown,      veltrix::HostKey::kLeft,      veltrix::HostKey::kRight,
-    veltrix::HostKey::kPageUp,    veltrix::HostKey::kPageDown,  veltrix::HostKey::kTab,
-    veltrix::HostKey::kHome,      veltrix::HostKey::kEnd,       veltrix::HostKey::kDelete,
-    veltrix::HostKey::kFieldPlus, veltrix::HostKey::kFieldMinus};
+    veltrix::HostKey::kBackspace, veltrix::HostKey::kEnter,      veltrix::HostKey::kReset,
+    veltrix::HostKey::kF1,        veltrix::HostKey::kF2,         veltrix::HostKey::kF3,
+    veltrix::HostKey::kF4,        veltrix::HostKey::kF5,         veltrix::HostKey::kF6,
+    veltrix::HostKey::kF7,        veltrix::HostKey::kF8,         veltrix::HostKey::kF9,
+    veltrix::HostKey::kF10,       veltrix::HostKey::kF11,        veltrix::HostKey::kF12,
+    veltrix::HostKey::kUp,        veltrix::HostKey::kDown,       veltrix::HostKey::kLeft,
+    veltrix::HostKey::kRight,     veltrix::HostKey::kPageUp,     veltrix::HostKey::kPageDown,
+    veltrix::HostKey::kTab,       veltrix::HostKey::kHome,       veltrix::HostKey::kEnd,
+    veltrix::HostKey::kDelete,    veltrix::HostKey::kFieldPlus,  veltrix::HostKey::kFieldMinus};
+constexpr std::size_t kKeyCount = sizeof kKeys / sizeof kKeys[0];
+
+// Marker bytes after FE FE that are not a key or a character.
+constexpr std::uint8_t kConnect = 0xF0;
+constexpr std::uint8_t kPoint = 0xF1;       // two more bytes: row, column
+constexpr std::uint8_t kDoubleByte = 0xF2;  // two more bytes: the PC code
 
 }  // namespace
 
@@ -27,15 +37,25 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   config.local_name = "FUZZ";
   veltrix::Session session(config);
   std::span<const std::uint8_t> rest(data + 1, size - 1);
-  // 0xFE 0xFE K: press key K (a key of the enum, or a printable character); anything else is
-  // host data up to the next marker.
+  // 0xFE 0xFE K: press key K (a key of the list, Connect, a click or a double-byte character
+  // with their two bytes, or a printable character); anything else is host data up to the
+  // next marker.
   std::size_t start = 0;
   for (std::size_t i = 0; i + 2 < rest.size(); ++i) {
     if (rest[i] != 0xFE || rest[i + 1] != 0xFE) continue;
     session.Receive(rest.subspan(start, i - start));
     const std::uint8_t k = rest[i + 2];
-    if (k < sizeof kKeys / sizeof kKeys[0]) {
+    const bool has_two = i + 4 < rest.size();
+    if (k < kKeyCount) {
       session.KeyInput(kKeys[k]);
+    } else if (k == kConnect) {
+      session.Connect();
+    } else if (k == kPoint && has_two) {
+      session.PointAt(rest[i + 3] - 8, rest[i + 4] - 8);  // a few off the screen too
+      i += 2;
+    } else if (k == kDoubleByte && has_two) {
+      session.TypeDoubleByte(rest[i + 3], rest[i + 4]);
+      i += 2;
     } else {
       session.TypeCharacter(k);
     }
@@ -50,6 +70,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (int c = 0; c < ps.Columns(); ++c) sum += ps.Character(r, c) + ps.Attribute(r, c);
   }
   for (const auto& f : session.Fields().Records()) sum += f.Serialize()[0];
+  // Between records the cursor is always a cell of the screen.
+  if (session.BetweenRecords() && !ps.OnScreen(ps.CursorRow(), ps.CursorColumn())) {
+    __builtin_trap();
+  }
   // The screen as text, double-byte characters decoded, as the replay prints it.
   for (int r = 0; r < ps.Rows(); ++r) {
     sum += static_cast<unsigned>(veltrix::ScreenRowText(ps, config.emulation_type, r).size());

@@ -30,7 +30,7 @@ for trace in ../shared/peer-data/tn5250-traces/*.bin; do
 done
 
 # A screen file of a dozen screens is 125,108 bytes.
-declare -A max_len=([srecord]=65536 [settings_file]=600000 [tn5250]=8192 [set_assignment]=4096 [screen_file]=140000)
+declare -A max_len=([srecord]=65536 [settings_file]=600000 [tn5250]=70000 [demo_host]=70000 [replay_keys]=1024 [set_assignment]=4096 [screen_file]=140000)
 pids=()
 for target in build-sanitize/*_fuzz; do
   name=$(basename "$target" _fuzz)

@@ -22,7 +22,7 @@ std::unique_ptr<Document> LoadSettingsInput(const std::string& path, CliIo& io,
   SetDefaults(*doc, 0);
   SettingsFileReport found;
   if (!ReadSettingsFile(*doc, path, &found)) {
-    Fail(io, "cannot open '" + path + "' for reading");
+    Fail(io, "cannot open '" + path + "' for reading: " + found.read_error);
     return nullptr;
   }
   for (const std::string& finding : OpenFindings(found)) Warn(io, "'" + path + "': " + finding);

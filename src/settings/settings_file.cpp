@@ -116,8 +116,12 @@ bool ReadSettingsFile(Document& doc, const std::string& path) {
 
 bool ReadSettingsFile(Document& doc, const std::string& path, SettingsFileReport* report) {
   // Only what the layout holds is read, whatever the file's size.
-  std::optional<FileRead> read = ReadRegularFile(path, kSettingsFileSize);
-  if (!read) return false;
+  std::string reason;
+  std::optional<FileRead> read = ReadRegularFile(path, kSettingsFileSize, &reason);
+  if (!read) {
+    if (report) report->read_error = reason;
+    return false;
+  }
   SettingsFileReport found = ReadSettingsImage(doc, read->bytes);
   found.file_size = read->file_size;
   if (report) *report = found;

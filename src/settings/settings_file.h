@@ -19,6 +19,7 @@ struct SettingsFileReport {
   std::size_t bytes_read = 0;  // at most a whole settings file
   bool refused = false;        // tag, version or product not accepted: defaults of product 1
   bool converted = false;      // a previous-layout ('V') file, converted in place
+  std::string read_error;      // the system's reason when the file could not be read
 };
 
 // A whole settings file of an accepted tag, version and product: saving over it loses nothing.

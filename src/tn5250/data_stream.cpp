@@ -289,6 +289,13 @@ void DataStreamInterpreter::EndRecord() {
   consumed_ = 0;
   pending_ = false;
   if (host_.move_cursor) PlaceCursor();
+  // The address may end a record past the screen's edge; the cursor the user sees may not.
+  PresentationSpace& ps = host_.ps;
+  if (!ps.OnScreen(ps.CursorRow(), ps.CursorColumn())) {
+    Trace(TraceCode::kCursorOffScreen);
+    const int cell = std::clamp(ps.Linear(ps.Cursor()), 0, ps.Rows() * ps.Columns() - 1);
+    ps.SetCursor(cell / ps.Columns(), cell % ps.Columns());
+  }
 }
 
 bool DataStreamInterpreter::ConvertPair(std::uint8_t& first, std::uint8_t& second) {

@@ -93,6 +93,9 @@ class PresentationSpace {
     cursor_row_ = row;
     cursor_column_ = column;
   }
+  bool OnScreen(int row, int column) const {
+    return row >= 0 && row < rows_ && column >= 0 && column < columns_;
+  }
   // Writes the bytes from p on at the cursor, each mapped through map, for as long as accept
   // holds for them and p is before stop; gives the number written. The same as WriteAtCursor
   // for each byte, done a row segment at a time.

@@ -75,7 +75,11 @@ void WriteErrorCode(DataStreamInterpreter& s, Item item) {
   h.SetKeyboardLocked(true);
   std::size_t begin = 1;
   if (item.size() >= 5 && item[1] == 0x13) {
-    h.ps.SetCursor(item[2] - 1, item[3] - 1);
+    if (h.ps.OnScreen(item[2] - 1, item[3] - 1)) {
+      h.ps.SetCursor(item[2] - 1, item[3] - 1);
+    } else {
+      s.Trace(TraceCode::kCursorOffScreen);
+    }
     begin = 4;
   }
   h.ps.SaveErrorRow();

@@ -26,6 +26,11 @@ void SetBufferAddress(DataStreamInterpreter& s, Item item) {
 
 void InsertCursor(DataStreamInterpreter& s, Item item) {
   const CellAddress a = OrderAddress(item[1], item[2]);
+  // An insert cursor off the screen would leave the user's cursor nowhere: the order is dropped.
+  if (!s.host().ps.OnScreen(a.row, a.column)) {
+    s.Trace(TraceCode::kCursorOffScreen);
+    return;
+  }
   s.host().ps.SetCursor(a.row, a.column);
   s.host().ps.SetInsertCursor(a.row, a.column);
 }

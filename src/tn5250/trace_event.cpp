@@ -11,7 +11,7 @@ struct TraceInfo {
 };
 
 // In the order of TraceCode.
-constexpr std::array<TraceInfo, 12> kTraces{{
+constexpr std::array<TraceInfo, 13> kTraces{{
     {"CallAlarm", "Call Alarm\r\n"},
     {"ResetAid", "Reset AID code\r\n"},
     {"ClearFormatTable", "CLEAR FORMAT TABLE\r\n"},
@@ -24,6 +24,7 @@ constexpr std::array<TraceInfo, 12> kTraces{{
     {"IbmWrite", "IBMWrite\r\n"},
     {"EraseChar", "EraseChar\r\n"},
     {"Backspace", "Backspace\r\n"},
+    {"CursorOffScreen", "Cursor address off the screen\r\n"},
 }};
 
 const TraceInfo& InfoOf(TraceCode code) {

@@ -21,6 +21,7 @@ enum class TraceCode : std::uint8_t {
   kIbmWrite,
   kEraseChar,
   kBackspace,
+  kCursorOffScreen,
 };
 
 struct TraceEvent {

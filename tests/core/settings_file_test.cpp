@@ -1,5 +1,6 @@
 #include "settings/settings_file.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -345,6 +346,11 @@ TEST_F(SettingsFileTest, SaveRespectsWhatIsAtTheName) {
   EXPECT_FALSE(WriteFileAtomically(fifo, parts, SystemFileCalls(), &status));
   EXPECT_EQ(status.refusal, SaveRefusal::kNotRegular);
   EXPECT_TRUE(fs::is_fifo(fifo));
+  // Reading a FIFO nobody writes to neither hangs nor goes without a reason.
+  Document doc;
+  SettingsFileReport report;
+  EXPECT_FALSE(ReadSettingsFile(doc, fifo, &report));
+  EXPECT_THAT(report.read_error, ::testing::HasSubstr("not a regular file"));
 
   WriteBytes(real, old_bytes);
   fs::permissions(real, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);

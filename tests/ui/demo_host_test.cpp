@@ -253,6 +253,8 @@ class DemoHostTest : public QObject {
   void sessionGivesTheSameBytesForAnyChunking();
   void sessionSurvivesGarbage();
   void negotiationAndSignOnOverLoopback();
+  void hostileStations_data();
+  void hostileStations();
   void scriptSendsExpectsAndLogs();
   void scriptWithoutNegotiation();
   void executablePrintsItsEphemeralPort();
@@ -344,6 +346,71 @@ void DemoHostTest::negotiationAndSignOnOverLoopback() {
   station.SendRecord(AidRecord(6, 53, kAidF3));
   QVERIFY(station.WaitDisconnected());
   QTRY_COMPARE(gone.count(), 1);
+}
+
+// Kernel's count of this process's resident memory, in KB.
+long ResidentKb() {
+  QFile status(QStringLiteral("/proc/self/status"));
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  for (const QByteArray& line : status.readAll().split('\n')) {
+    if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').first().toLong();
+  }
+  return 0;
+}
+
+void DemoHostTest::hostileStations_data() {
+  QTest::addColumn<QByteArray>("sends");
+  QTest::addColumn<int>("repeat");
+  QTest::addColumn<bool>("dropped");
+  QTest::addColumn<QString>("log");
+  // Field data ending in a Set Buffer Address: answered like any record, the host goes on.
+  QTest::newRow("record ending in an SBA")
+      << Bytes({0x00, 0x0E, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 1, 1, 0xF1, 0x11, 0xFF, 0xEF}) << 1
+      << false << "Enter at 1,1";
+  QTest::newRow("50 MB without a record end") << QByteArray(1 << 20, 'A') << 50 << true
+                                               << "longer than any record";
+  QByteArray records;
+  while (records.size() < (1 << 20)) records += AidRecord(1, 1, kAidEnter) + Bytes({0xFF, 0xEF});
+  QTest::newRow("50 MB of records, none of the answers read")
+      << records << 50 << true << "does not read";
+  QTest::newRow("malformed records") << Bytes({0x00, 0x02, 0x01, 0xFF, 0xEF}) << 16 << true
+                                     << "sends garbage";
+  QTest::newRow("silence") << QByteArray() << 0 << true << "idle for 0.3 s";
+}
+
+// One hostile station at a time: the host stays bounded in memory, drops the station where it
+// should, and keeps serving a well-behaved one.
+void DemoHostTest::hostileStations() {
+  QFETCH(QByteArray, sends);
+  QFETCH(int, repeat);
+  QFETCH(bool, dropped);
+  QFETCH(QString, log);
+  DemoHostServer server;
+  server.SetIdleLimit(sends.isEmpty() ? 300 : 30000);
+  Station good;
+  Station hostile;
+  QVERIFY(server.Listen(0) && hostile.Connect(server.port()));
+  QVERIFY(hostile.Negotiate("HOSTILE"));
+  // From here on the hostile station reads nothing: the kernel's buffers fill up.
+  QObject::disconnect(&hostile.socket, &QTcpSocket::readyRead, nullptr, nullptr);
+  hostile.socket.setReadBufferSize(4096);
+  const long before = ResidentKb();
+  for (int i = 0; i < repeat && hostile.socket.state() == QAbstractSocket::ConnectedState; ++i) {
+    hostile.Send(sends);
+    // Bounded by the socket, as a real flood is.
+    while (hostile.socket.bytesToWrite() > (4 << 20)) QTest::qWait(1);
+  }
+  QVERIFY(good.Connect(server.port()) && good.Negotiate("GOOD"));
+  good.NextRecord();  // the query
+  QVERIFY(good.NextRecord().contains(Host("GOOD")));
+  QTRY_VERIFY_WITH_TIMEOUT(server.log().join('\n').contains(log), 5000);
+  if (dropped) QVERIFY(hostile.WaitDisconnected());
+  // (When silence is the fault, the good station soon goes quiet and is dropped as well.)
+  if (!sends.isEmpty()) QCOMPARE(server.openConnections(), dropped ? 1 : 2);
+  QVERIFY(server.receivedBytes().size() <= DemoHostServer::kMaxKeptBytes);
+  QVERIFY2(ResidentKb() - before < 64 * 1024, qPrintable(QString::number(ResidentKb() - before)));
+  good.SendRecord(AidRecord(6, 53, kAidF3));
+  QVERIFY(good.WaitDisconnected());
 }
 
 void DemoHostTest::scriptSendsExpectsAndLogs() {

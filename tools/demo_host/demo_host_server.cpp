@@ -3,6 +3,7 @@
 #include <QHostAddress>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 
 #include "demo_host/demo_application.h"
 
@@ -77,16 +78,26 @@ void DemoHostServer::OnNewConnection() {
     sessions_.insert(socket, session);
     latest_ = session;
     ++connection_count_;
-    log_.append(QStringLiteral("station connected from %1:%2")
-                    .arg(socket->peerAddress().toString())
-                    .arg(socket->peerPort()));
-    emit logLine(log_.last());
+    Log(QStringLiteral("station connected from %1:%2")
+            .arg(socket->peerAddress().toString())
+            .arg(socket->peerPort()));
+    // A flooding station is read a piece at a time; the rest waits in the kernel, not here.
+    socket->setReadBufferSize(64 * 1024);
+    if (idle_limit_ms_ > 0) {
+      auto* idle = new QTimer(socket);
+      idle->setObjectName(QStringLiteral("idle"));
+      idle->setSingleShot(true);
+      connect(idle, &QTimer::timeout, this, [this, socket] {
+        Log(QStringLiteral("station idle for %1 s; connection closed").arg(idle_limit_ms_ / 1000.0));
+        Drop(socket);
+      });
+      idle->start(idle_limit_ms_);
+    }
     connect(socket, &QTcpSocket::readyRead, this, [this, socket] { OnReadyRead(socket); });
     connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
-      sessions_.remove(socket);
+      if (sessions_.remove(socket) == 0) return;
       socket->deleteLater();
-      log_.append(QStringLiteral("station disconnected"));
-      emit logLine(log_.last());
+      Log(QStringLiteral("station disconnected"));
       emit stationDisconnected();
     });
     emit stationConnected();
@@ -98,8 +109,9 @@ void DemoHostServer::OnReadyRead(QTcpSocket* socket) {
   const auto it = sessions_.find(socket);
   if (it == sessions_.end()) return;
   const std::shared_ptr<HostSession> session = it.value();
+  if (auto* idle = socket->findChild<QTimer*>(QStringLiteral("idle"))) idle->start();
   const QByteArray bytes = socket->readAll();
-  received_bytes_.append(bytes);
+  received_bytes_.append(bytes.first(std::min(bytes.size(), kMaxKeptBytes - received_bytes_.size())));
   emit bytesReceived(bytes);
   const auto* data = reinterpret_cast<const std::uint8_t*>(bytes.constData());
   Write(socket, *session, session->Receive({data, static_cast<std::size_t>(bytes.size())}));
@@ -107,15 +119,32 @@ void DemoHostServer::OnReadyRead(QTcpSocket* socket) {
 
 void DemoHostServer::Write(QTcpSocket* socket, HostSession& session,
                            const std::vector<std::uint8_t>& bytes) {
-  for (const auto& line : session.TakeLog()) {
-    log_.append(QString::fromStdString(line));
-    emit logLine(log_.last());
-  }
+  for (const auto& line : session.TakeLog()) Log(QString::fromStdString(line));
   if (!bytes.empty()) {
     socket->write(reinterpret_cast<const char*>(bytes.data()), qint64(bytes.size()));
   }
   // The station sees everything sent before the connection ends.
   if (session.wants_close()) socket->disconnectFromHost();
+  if (socket->bytesToWrite() > kMaxUnsentBytes) {
+    Log(QStringLiteral("the station does not read what it is sent; connection closed"));
+    Drop(socket);
+  }
+}
+
+void DemoHostServer::Log(const QString& line) {
+  if (log_.size() >= kMaxLogLines) log_.remove(0, kMaxLogLines / 2);
+  log_.append(line);
+  emit logLine(line);
+}
+
+// Forgets the station at once; its socket goes when the event loop next runs.
+void DemoHostServer::Drop(QTcpSocket* socket) {
+  if (sessions_.remove(socket) == 0) return;
+  socket->disconnect(this);
+  socket->abort();
+  socket->deleteLater();
+  Log(QStringLiteral("station disconnected"));
+  emit stationDisconnected();
 }
 
 }  // namespace veltrix::demo_host

@@ -40,8 +40,16 @@ class DemoHostServer : public QObject {
   QString error() const;
   void Close();
 
+  // A station that sends nothing for this long is disconnected (0: never).
+  void SetIdleLimit(int milliseconds) { idle_limit_ms_ = milliseconds; }
   int connectionCount() const { return connection_count_; }
-  // Every byte received from any station, in arrival order.
+  int openConnections() const { return int(sessions_.size()); }
+  // What the server keeps of a flood: the first kMaxKeptBytes received, the last kMaxLogLines.
+  static constexpr qsizetype kMaxKeptBytes = 4 << 20;
+  static constexpr qsizetype kMaxLogLines = 10000;
+  // Output a station leaves unread beyond this drops it.
+  static constexpr qint64 kMaxUnsentBytes = 1 << 20;
+  // Every byte received from any station, in arrival order (up to kMaxKeptBytes).
   QByteArray receivedBytes() const { return received_bytes_; }
   // The 5250 records of the latest connection.
   QList<QByteArray> receivedRecords() const;
@@ -62,10 +70,13 @@ class DemoHostServer : public QObject {
   void OnNewConnection();
   void OnReadyRead(QTcpSocket* socket);
   void Write(QTcpSocket* socket, HostSession& session, const std::vector<std::uint8_t>& bytes);
+  void Log(const QString& line);
+  void Drop(QTcpSocket* socket);
 
   QTcpServer* server_;
   ApplicationFactory factory_;
   bool negotiate_ = true;
+  int idle_limit_ms_ = 15 * 60 * 1000;
   QHash<QTcpSocket*, std::shared_ptr<HostSession>> sessions_;
   std::shared_ptr<HostSession> latest_;
   int connection_count_ = 0;

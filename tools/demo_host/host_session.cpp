@@ -71,14 +71,23 @@ std::vector<std::uint8_t> HostSession::Receive(std::span<const std::uint8_t> byt
         OnSubnegotiation(event.option, event.bytes, out);
         break;
       case TelnetEvent::Kind::kRecord:
+        CountRecord(event);
+        if (close_) break;
         if (phase_ != Phase::kRunning) {
           log_.push_back("record before the negotiation ended, ignored: " + HexBytes(event.bytes));
           break;
         }
-        records_.push_back(event.bytes);
+        if (kept_bytes_ + event.bytes.size() <= kMaxKeptBytes) {
+          kept_bytes_ += event.bytes.size();
+          records_.push_back(event.bytes);
+        }
         Emit(application_->OnRecord(event.bytes), out);
         break;
     }
+  }
+  if (telnet_.overflowing() && !close_) {
+    log_.push_back("the station sends a record longer than any record; connection closed");
+    close_ = true;
   }
   return out;
 }
@@ -138,6 +147,15 @@ void HostSession::OnSubnegotiation(std::uint8_t option, std::span<const std::uin
     station_.terminal_type.assign(bytes.begin() + 1, bytes.end());
     log_.push_back("terminal type " + station_.terminal_type);
     AskFraming(out);
+  }
+}
+
+void HostSession::CountRecord(const TelnetEvent& event) {
+  const bool bad = phase_ != Phase::kRunning || event.truncated || !HasValidHeader(event.bytes);
+  bad_in_a_row_ = bad ? bad_in_a_row_ + 1 : 0;
+  if (bad_in_a_row_ >= kMaxBadRecords) {
+    log_.push_back("the station sends garbage; connection closed");
+    close_ = true;
   }
 }
 

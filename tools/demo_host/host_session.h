@@ -27,8 +27,12 @@ class HostSession {
   bool wants_close() const { return close_; }
   const StationInfo& station() const { return station_; }
   HostApplication& application() { return *application_; }
-  // Every 5250 record received since the application started, in order.
+  // The 5250 records received since the application started, in order, as long as they fit
+  // in kMaxKeptBytes together (later ones are handed on but not kept).
   const std::vector<std::vector<std::uint8_t>>& records() const { return records_; }
+  static constexpr std::size_t kMaxKeptBytes = 1 << 20;
+  // A station that sends this many malformed records in a row is sending garbage: it is dropped.
+  static constexpr int kMaxBadRecords = 16;
   // Log lines gathered since the last call.
   std::vector<std::string> TakeLog();
 
@@ -51,7 +55,11 @@ class HostSession {
   // Answers still awaited in the framing phase: DO EOR, WILL EOR, DO BINARY, WILL BINARY.
   bool awaiting_[4] = {false, false, false, false};
   bool close_ = false;
+  void CountRecord(const TelnetEvent& event);
+
   std::vector<std::vector<std::uint8_t>> records_;
+  std::size_t kept_bytes_ = 0;
+  int bad_in_a_row_ = 0;
   std::vector<std::string> log_;
 };
 

@@ -1,5 +1,6 @@
 #include "demo_host/inbound_record.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "demo_host/ebcdic_text.h"
@@ -40,7 +41,9 @@ void SplitFields(InboundRecord& out) {
   std::size_t i = 0;
   while (i < data.size()) {
     InboundField field;
-    if (data[i] == kOrderSetBufferAddress && i + 2 < data.size()) {
+    if (data[i] == kOrderSetBufferAddress) {
+      // An address cut off by the record's end carries no field.
+      if (i + 2 >= data.size()) break;
       field.row = data[i + 1];
       field.column = data[i + 2];
       i += 3;
@@ -52,6 +55,11 @@ void SplitFields(InboundRecord& out) {
 }
 
 }  // namespace
+
+bool HasValidHeader(std::span<const std::uint8_t> record) {
+  InboundRecord unused;
+  return CheckHeader(record, unused);
+}
 
 InboundRecord ParseAidRecord(std::span<const std::uint8_t> record) {
   InboundRecord out;
@@ -106,9 +114,13 @@ std::string FieldText(std::span<const std::uint8_t> data) {
 
 std::string HexBytes(std::span<const std::uint8_t> bytes) {
   std::string out;
-  char hex[4];
-  for (const std::uint8_t b : bytes) {
+  char hex[48];
+  for (const std::uint8_t b : bytes.first(std::min(bytes.size(), kMaxHexBytes))) {
     std::snprintf(hex, sizeof hex, out.empty() ? "%02X" : " %02X", b);
+    out += hex;
+  }
+  if (bytes.size() > kMaxHexBytes) {
+    std::snprintf(hex, sizeof hex, " ... (%zu bytes)", bytes.size());
     out += hex;
   }
   return out;

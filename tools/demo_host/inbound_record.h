@@ -46,7 +46,11 @@ QueryReplyInfo ParseQueryReply(std::span<const std::uint8_t> record);
 // Field text as ASCII: NULs become blanks, trailing blanks are dropped.
 std::string FieldText(std::span<const std::uint8_t> data);
 
-// "00 0A 12 A0 ..." for logs and messages.
+// Whether the record's header holds: at least 10 bytes, its length field, type 12 A0.
+bool HasValidHeader(std::span<const std::uint8_t> record);
+
+// "00 0A 12 A0 ..." for logs and messages; at most kMaxHexBytes bytes, then the length.
+inline constexpr std::size_t kMaxHexBytes = 256;
 std::string HexBytes(std::span<const std::uint8_t> bytes);
 
 }  // namespace veltrix::demo_host

@@ -1,5 +1,6 @@
 // veltrix-demo-host: a small TN5250 host on 127.0.0.1 for trying Veltrix.
-//   veltrix-demo-host [--port N]   (default 2323; 0 picks a free port)
+//   veltrix-demo-host [--port N] [--idle-seconds S]
+//   (port 2323 by default, 0 picks a free one; idle stations are dropped after 900 s, 0 = never)
 #include <QCoreApplication>
 #include <QStringList>
 #include <cstdio>
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);
   const QStringList args = app.arguments();
   quint16 port = 2323;
+  int idle_seconds = 900;
   for (int i = 1; i < args.size(); ++i) {
     if (args[i] == QLatin1String("--port") && i + 1 < args.size()) {
       bool ok = false;
@@ -19,14 +21,24 @@ int main(int argc, char** argv) {
         return 2;
       }
       port = static_cast<quint16>(value);
+    } else if (args[i] == QLatin1String("--idle-seconds") && i + 1 < args.size()) {
+      bool ok = false;
+      const uint value = args[++i].toUInt(&ok);
+      if (!ok || value > 24 * 3600) {
+        std::fprintf(stderr, "veltrix-demo-host: invalid idle time '%s'\n", qPrintable(args[i]));
+        return 2;
+      }
+      idle_seconds = int(value);
     } else {
       std::fprintf(stderr,
-                   "usage: veltrix-demo-host [--port N]\n"
-                   "Serves a TN5250 demo host on 127.0.0.1 (default port 2323, 0 = any free).\n");
+                   "usage: veltrix-demo-host [--port N] [--idle-seconds S]\n"
+                   "Serves a TN5250 demo host on 127.0.0.1 (default port 2323, 0 = any free);\n"
+                   "stations idle for S seconds are dropped (900 by default, 0 = never).\n");
       return args[i] == QLatin1String("--help") ? 0 : 2;
     }
   }
   veltrix::demo_host::DemoHostServer server;
+  server.SetIdleLimit(idle_seconds * 1000);
   QObject::connect(&server, &veltrix::demo_host::DemoHostServer::logLine,
                    [](const QString& line) { std::fprintf(stderr, "%s\n", qPrintable(line)); });
   if (!server.Listen(port)) {

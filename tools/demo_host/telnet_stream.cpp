@@ -13,13 +13,16 @@ std::vector<TelnetEvent> TelnetStream::Feed(std::span<const std::uint8_t> bytes)
           state_ = State::kIac;
         } else if (record_.size() < kMaxRecord) {
           record_.push_back(b);
+        } else {
+          truncated_ = true;
         }
         break;
       case State::kIac:
         state_ = State::kData;
         if (b == kEor) {
-          events.push_back({TelnetEvent::Kind::kRecord, 0, 0, std::move(record_)});
+          events.push_back({TelnetEvent::Kind::kRecord, 0, 0, std::move(record_), truncated_});
           record_.clear();
+          truncated_ = false;
         } else if (b == kWill || b == kWont || b == kDo || b == kDont) {
           verb_ = b;
           state_ = State::kVerb;
@@ -28,10 +31,18 @@ std::vector<TelnetEvent> TelnetStream::Feed(std::span<const std::uint8_t> bytes)
           state_ = State::kSub;
         } else if (b >= kSe) {
           // IAC IAC is a data 0xFF; other commands (NOP, GA, ...) carry nothing for us.
-          if (b == kIac && record_.size() < kMaxRecord) record_.push_back(kIac);
+          if (b == kIac) {
+            if (record_.size() < kMaxRecord) {
+              record_.push_back(kIac);
+            } else {
+              truncated_ = true;
+            }
+          }
         } else if (record_.size() + 1 < kMaxRecord) {
           record_.push_back(kIac);  // an undoubled 0xFF inside a record
           record_.push_back(b);
+        } else {
+          truncated_ = true;
         }
         break;
       case State::kVerb:

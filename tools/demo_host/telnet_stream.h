@@ -14,6 +14,7 @@ struct TelnetEvent {
   std::uint8_t verb = 0;            // kOption: WILL, WONT, DO or DONT
   std::uint8_t option = 0;          // kOption, kSubnegotiation
   std::vector<std::uint8_t> bytes;  // kSubnegotiation: after the option; kRecord: the record
+  bool truncated = false;           // kRecord: longer than any record, the rest dropped
 };
 
 // Receiving side of the host's Telnet: option answers, subnegotiations, and 5250 records ended
@@ -22,6 +23,8 @@ struct TelnetEvent {
 class TelnetStream {
  public:
   std::vector<TelnetEvent> Feed(std::span<const std::uint8_t> bytes);
+  // The record being received is already longer than any record can be.
+  bool overflowing() const { return truncated_; }
 
  private:
   enum class State { kData, kIac, kVerb, kSub, kSubIac };
@@ -31,6 +34,7 @@ class TelnetStream {
   State state_ = State::kData;
   std::uint8_t verb_ = 0;
   std::vector<std::uint8_t> record_;
+  bool truncated_ = false;
   std::vector<std::uint8_t> sub_;
 };
 
