@@ -23,8 +23,19 @@ class SystemEditorTest : public ::testing::Test {
     editor_ = std::make_unique<SystemEditor>(*doc_);
     editor_->Initialise();
   }
+  // A control of the page's binding table, as the user changes it.
+  BindingOutcome Type(std::string_view control, std::string_view text) {
+    return StoreBoundText(*doc_, *FindBinding(SystemBindings(), control), text);
+  }
+  void Choose(std::string_view control, std::int64_t value) {
+    StoreBoundValue(*doc_, *FindBinding(SystemBindings(), control), value);
+  }
+  std::int64_t Shown(std::string_view control) {
+    return BoundValue(*doc_, *FindBinding(SystemBindings(), control));
+  }
   // OK as the sheet gives it to this page.
   void Ok() {
+    PadBoundTexts(*doc_, SystemBindings());
     editor_->Apply();
     snapshot_.MarkApplied(*doc_);
   }
@@ -40,38 +51,32 @@ TEST_F(SystemEditorTest, InitialiseStartsOnTheFirstScreen) {
   EXPECT_EQ("1. Telnet   ", editor_->Rows()[0].text);
 }
 
-TEST_F(SystemEditorTest, AutoPowerOffWithLeadingZeroIsStoredInBothBytes) {
-  const NumericEdit edit = editor_->EditAutoPowerOff("0300");
-  EXPECT_EQ("300", edit.rewrite.value_or(""));
+TEST_F(SystemEditorTest, NumberEditsAreCorrectedAndStored) {
+  EXPECT_EQ("300", Type("auto_power_off", "0300").rewrite.value_or(""));
   EXPECT_EQ(44, doc_->record[26]);
   EXPECT_EQ(1, doc_->record[62]);
-  EXPECT_EQ(300u, editor_->Value(kAutoPowerOff));
-}
-
-TEST_F(SystemEditorTest, IdleEditIsClampedAndStored) {
-  editor_->EditIdle("12");
+  EXPECT_EQ(300, Shown("auto_power_off"));
+  Type("idle", "12");
   EXPECT_EQ(9, doc_->record[29]);
-  editor_->EditIdle("0");
+  Type("idle", "0");
   EXPECT_EQ(1, doc_->record[29]);
 }
 
-TEST_F(SystemEditorTest, SetValueIgnoresValuesOutsideTheFieldRange) {
-  editor_->SetValue(kDownloadVia, 2);
-  editor_->SetValue(kDownloadVia, -1);  // a combo without selection
-  editor_->SetValue(kDownloadVia, 4);
-  EXPECT_EQ(2u, editor_->Value(kDownloadVia));
-  editor_->SetValue(kPassword, 1);
-  EXPECT_EQ("", editor_->Password());
+TEST_F(SystemEditorTest, ValuesOutsideTheFieldRangeAreIgnored) {
+  Choose("download_via", 2);
+  Choose("download_via", -1);  // a combo without selection
+  Choose("download_via", 4);
+  EXPECT_EQ(2, Shown("download_via"));
 }
 
 TEST_F(SystemEditorTest, ResetBringsBackDefaultsAndTheFirstScreen) {
-  editor_->EditAutoPowerOff("300");
+  Type("auto_power_off", "300");
   editor_->SelectScreen(2);
   editor_->EditPromptLine(0, "changed");
-  editor_->EditPassword("42");
+  Type("password", "42");
   editor_->Reset();
-  EXPECT_EQ(180u, editor_->Value(kAutoPowerOff));
-  EXPECT_EQ("", editor_->Password());
+  EXPECT_EQ(180, Shown("auto_power_off"));
+  EXPECT_EQ("", ReadText(doc_->record, kPassword));
   EXPECT_EQ(0, editor_->prompts().selected());
   EXPECT_EQ("1. Subnet Mask  ", ReadText(doc_->record, kPromptText, PromptSlot(2, 0)));
   EXPECT_EQ("1. Subnet Mask  ", editor_->prompts().Line(2, 0));
@@ -79,19 +84,19 @@ TEST_F(SystemEditorTest, ResetBringsBackDefaultsAndTheFirstScreen) {
 
 TEST_F(SystemEditorTest, CancelWithoutApplyRestoresTheSnapshot) {
   const SettingsRecord before = doc_->record;
-  editor_->SetValue(kPowerOn, 1);
-  editor_->EditPassword("secret");
+  Choose("power_on", 1);
+  Type("password", "secret");
   editor_->EditPromptLine(1, "x");
   editor_->Reset();
-  editor_->EditAutoPowerOff("0300");
+  Type("auto_power_off", "0300");
   EXPECT_TRUE(snapshot_.RestoreOnCancel(*doc_));
   EXPECT_EQ(before, doc_->record);
   EXPECT_FALSE(doc_->modified);
 }
 
 TEST_F(SystemEditorTest, ApplyPadsSetsModifiedAndCancelThenKeepsTheRecord) {
-  editor_->EditPassword("123456789");
-  editor_->EditPassword("12");
+  Type("password", "123456789");
+  Type("password", "12");
   Ok();
   EXPECT_TRUE(doc_->modified);
   for (int k = 3; k < 10; ++k) EXPECT_EQ(0, doc_->record[kPassword.offset + k]);

@@ -41,19 +41,27 @@ void ExpectSummaryMatchesGolden(const Document& doc, const std::string& name) {
   EXPECT_TRUE(testing::MatchesGolden(RenderSummaryText({system}), "summary/" + name));
 }
 
+// Changes as the page's controls make them.
+void Set(Document& doc, std::string_view control, std::int64_t value) {
+  StoreBoundValue(doc, *FindBinding(SystemBindings(), control), value);
+}
+void Type(Document& doc, std::string_view control, std::string_view text) {
+  StoreBoundText(doc, *FindBinding(SystemBindings(), control), text);
+}
+
 TEST(SystemSummary, ChangedFields) {
   auto doc = testing::DefaultDocument(2);
   SystemEditor editor(*doc);
   editor.Initialise();
-  editor.SetValue(kPowerOn, 1);
-  editor.EditAutoPowerOff("300");
-  editor.SetValue(kBacklight, 1);
-  editor.EditIdle("9");
-  editor.SetValue(kDownloadVia, 3);
-  editor.SetValue(kBaudRate, 2);
-  editor.SetValue(kKeyClick, 0);
-  editor.EditPassword("1234");
-  for (const SecurityFlag& flag : kSecurityFlags) editor.SetValue(*flag.field, 1);
+  Set(*doc, "power_on", 1);
+  Type(*doc, "auto_power_off", "300");
+  Set(*doc, "backlight", 1);
+  Type(*doc, "idle", "9");
+  Set(*doc, "download_via", 3);
+  Set(*doc, "baud_rate", 2);
+  Set(*doc, "key_click", 0);
+  Type(*doc, "password", "1234");
+  for (const SecurityFlag& flag : kSecurityFlags) Set(*doc, flag.field->name, 1);
   editor.SelectScreen(0);
   editor.EditPromptLine(0, "1. Host");
   ExpectSummaryMatchesGolden(*doc, "system_changed.txt");
@@ -65,8 +73,8 @@ TEST(SystemSummary, AppliedDravinSWithEmptyPassword) {
   auto doc = testing::DefaultDocument(1);
   SystemEditor editor(*doc);
   editor.Initialise();
-  editor.EditPassword("abc");
-  editor.EditPassword("");
+  Type(*doc, "password", "abc");
+  Type(*doc, "password", "");
   editor.Apply();
   ExpectSummaryMatchesGolden(*doc, "system_applied_empty_password.txt");
 }

@@ -1,9 +1,35 @@
 #include "settings/system/system_editor.h"
 
+#include <array>
+
 #include "settings/prompts/prompts.h"
 #include "settings/system/system_settings.h"
 
 namespace veltrix {
+
+namespace {
+
+// The controls that edit one field each; the security check boxes follow from their table.
+constexpr auto kBindings = [] {
+  std::array<FieldBinding, 8 + kSecurityFlags.size()> table{{
+      {"power_on", ControlKind::kRadioGroup, &kPowerOn},
+      {"backlight", ControlKind::kRadioGroup, &kBacklight},
+      {"auto_power_off", ControlKind::kNumberEdit, &kAutoPowerOff, 0, CorrectFieldEdit},
+      {"idle", ControlKind::kNumberEdit, &kTurnOffIfIdleFor, 0, CorrectFieldEdit},
+      {"password", ControlKind::kTextEdit, &kPassword},
+      {"key_click", ControlKind::kCheckBox, &kKeyClick},
+      {"download_via", ControlKind::kList, &kDownloadVia},
+      {"baud_rate", ControlKind::kList, &kBaudRate},
+  }};
+  for (std::size_t i = 0; i < kSecurityFlags.size(); ++i) {
+    table[8 + i] = {kSecurityFlags[i].field->name, ControlKind::kCheckBox, kSecurityFlags[i].field};
+  }
+  return table;
+}();
+
+}  // namespace
+
+std::span<const FieldBinding> SystemBindings() { return kBindings; }
 
 SystemEditor::SystemEditor(Document& doc) : doc_(doc) {}
 
@@ -11,33 +37,6 @@ void SystemEditor::Initialise() {
   prompts_.Select(0);
   prompts_.Load(doc_.record);
 }
-
-std::uint32_t SystemEditor::Value(const FieldDef& field) const {
-  return ReadNumber(doc_.record, field);
-}
-
-std::string SystemEditor::Password() const { return ReadText(doc_.record, kPassword); }
-
-void SystemEditor::SetValue(const FieldDef& field, std::int64_t value) {
-  if (!field.numeric() || value < field.min || value > field.max) return;
-  WriteNumber(doc_.record, field, static_cast<std::uint32_t>(value));
-}
-
-NumericEdit SystemEditor::EditNumber(const FieldDef& field, std::string_view text) {
-  NumericEdit edit = CorrectFieldEdit(text, field);
-  WriteNumber(doc_.record, field, edit.value);
-  return edit;
-}
-
-NumericEdit SystemEditor::EditAutoPowerOff(std::string_view text) {
-  return EditNumber(kAutoPowerOff, text);
-}
-
-NumericEdit SystemEditor::EditIdle(std::string_view text) {
-  return EditNumber(kTurnOffIfIdleFor, text);
-}
-
-void SystemEditor::EditPassword(std::string_view text) { StorePassword(doc_.record, text); }
 
 std::vector<std::string> SystemEditor::ScreenNames() const {
   return PromptScreenNames(doc_.product());

@@ -2,19 +2,24 @@
 #define VELTRIX_SETTINGS_SYSTEM_SYSTEM_EDITOR_H_
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "settings/document.h"
+#include "settings/field_binding.h"
 #include "settings/prompts/prompt_editor.h"
 #include "settings/system/system_rules.h"
 
 namespace veltrix {
 
-// Everything the System page does to the document, without any widget: it writes the record as
-// the user works and owns the prompts editor. The snapshot for Cancel and the modified flag are
-// the settings sheet's (PageSnapshot).
+// The System page's controls that edit one field each (power, backlight, the two numbers, the
+// password, the security flags, key click, download port and baud rate).
+std::span<const FieldBinding> SystemBindings();
+
+// The rest of the System page without any widget: the prompts editor, "Reset" and OK. The
+// snapshot for Cancel and the modified flag are the settings sheet's (PageSnapshot).
 class SystemEditor {
  public:
   explicit SystemEditor(Document& doc);
@@ -26,19 +31,6 @@ class SystemEditor {
   const Document& document() const { return doc_; }
   PromptEditor& prompts() { return prompts_; }
   const PromptEditor& prompts() const { return prompts_; }
-
-  // Values to load into the controls.
-  std::uint32_t Value(const FieldDef& field) const;
-  std::string Password() const;
-
-  // Radio buttons, check boxes and combos store their index or state at once. Values outside the
-  // field's range (a combo with no selection) are ignored.
-  void SetValue(const FieldDef& field, std::int64_t value);
-
-  // The Auto Power Off and idle edits, on every change of their text.
-  NumericEdit EditAutoPowerOff(std::string_view text);
-  NumericEdit EditIdle(std::string_view text);
-  void EditPassword(std::string_view text);
 
   // The prompts combo and the eight line edits.
   std::vector<std::string> ScreenNames() const;
@@ -52,8 +44,6 @@ class SystemEditor {
   void Apply();
 
  private:
-  NumericEdit EditNumber(const FieldDef& field, std::string_view text);
-
   Document& doc_;
   PromptEditor prompts_;
 };

@@ -18,7 +18,9 @@
 
 #include "resources/fixed_font_qt.h"
 #include "resources/text_qt.h"
+#include "settings/field_binder_qt.h"
 #include "settings/rewriting_edit_qt.h"
+#include "settings/system/system_rules.h"
 
 namespace veltrix {
 namespace {
@@ -43,7 +45,8 @@ QLineEdit* NumberEdit(const char* name, int digits) {
 
 }  // namespace
 
-SystemPage::SystemPage(Document& doc, QWidget* parent) : SettingsPage(doc, parent), editor_(doc) {
+SystemPage::SystemPage(Document& doc, QWidget* parent)
+    : SettingsPage(doc, parent), editor_(doc), binder_(new FieldBinder(doc, this)) {
   setObjectName("SYSTEM_DLG");
   auto* left = new QVBoxLayout;
   left->addWidget(BuildPowerOnGroup());
@@ -61,6 +64,7 @@ QWidget* SystemPage::BuildPowerOnGroup() {
   auto* box = new QGroupBox(tr("Power On"));
   auto* layout = new QVBoxLayout(box);
   power_on_ = new QButtonGroup(this);
+  power_on_->setObjectName("power_on");
   AddRadio(power_on_, tr("Resume Program"), 0, "power_resume", layout);
   AddRadio(power_on_, tr("Restart Program"), 1, "power_restart", layout);
   auto* row = new QHBoxLayout;
@@ -98,6 +102,7 @@ QWidget* SystemPage::BuildBacklightGroup() {
   auto* box = new QGroupBox(tr("Backlight"));
   auto* layout = new QVBoxLayout(box);
   backlight_ = new QButtonGroup(this);
+  backlight_->setObjectName("backlight");
   AddRadio(backlight_, tr("Turn Off"), 0, "backlight_off", layout);
   AddRadio(backlight_, tr("Turn On upon power up"), 1, "backlight_on", layout);
   auto* row = new QHBoxLayout;
@@ -171,32 +176,7 @@ QWidget* SystemPage::BuildRightSide() {
 }
 
 void SystemPage::ConnectControls() {
-  connect(power_on_, &QButtonGroup::idClicked, this,
-          [this](int id) { editor_.SetValue(kPowerOn, id); });
-  connect(backlight_, &QButtonGroup::idClicked, this,
-          [this](int id) { editor_.SetValue(kBacklight, id); });
-  const auto active = [this] { return !loading_; };
-  BindRewritingEdit(
-      auto_power_off_,
-      [this](const std::string& text) { return editor_.EditAutoPowerOff(text).rewrite; }, active);
-  BindRewritingEdit(
-      idle_, [this](const std::string& text) { return editor_.EditIdle(text).rewrite; }, active);
-  connect(password_, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (!loading_) editor_.EditPassword(ToRecordText(text));
-  });
-  for (std::size_t i = 0; i < kSecurityFlags.size(); ++i) {
-    const FieldDef* field = kSecurityFlags[i].field;
-    connect(security_[i], &QCheckBox::clicked, this,
-            [this, field](bool checked) { editor_.SetValue(*field, checked ? 1 : 0); });
-  }
-  connect(key_click_, &QCheckBox::clicked, this,
-          [this](bool checked) { editor_.SetValue(kKeyClick, checked ? 1 : 0); });
-  connect(download_via_, &QComboBox::currentIndexChanged, this, [this](int index) {
-    if (!loading_) editor_.SetValue(kDownloadVia, index);
-  });
-  connect(baud_rate_, &QComboBox::currentIndexChanged, this, [this](int index) {
-    if (!loading_) editor_.SetValue(kBaudRate, index);
-  });
+  binder_->Bind(SystemBindings());
   connect(screens_, &QComboBox::currentIndexChanged, this, [this](int index) {
     if (loading_) return;
     editor_.SelectScreen(index);
@@ -218,24 +198,17 @@ void SystemPage::Initialise(Document& /*doc*/) {
   LoadControls();
 }
 
-void SystemPage::Apply(Document& /*doc*/) { editor_.Apply(); }
+void SystemPage::Apply(Document& /*doc*/) {
+  binder_->Pad();
+  editor_.Apply();
+}
 
 void SystemPage::LoadControls() {
+  binder_->Load();
   loading_ = true;
-  power_on_->button(editor_.Value(kPowerOn) != 0 ? 1 : 0)->setChecked(true);
-  auto_power_off_->setText(QString::number(editor_.Value(kAutoPowerOff)));
-  password_->setText(FromRecordText(editor_.Password()));
-  for (std::size_t i = 0; i < kSecurityFlags.size(); ++i) {
-    security_[i]->setChecked(editor_.Value(*kSecurityFlags[i].field) != 0);
-  }
-  backlight_->button(editor_.Value(kBacklight) != 0 ? 1 : 0)->setChecked(true);
-  idle_->setText(QString::number(editor_.Value(kTurnOffIfIdleFor)));
   screens_->clear();
   for (const std::string& name : editor_.ScreenNames()) screens_->addItem(FromRecordText(name));
   screens_->setCurrentIndex(editor_.prompts().selected());
-  download_via_->setCurrentIndex(static_cast<int>(editor_.Value(kDownloadVia)));
-  baud_rate_->setCurrentIndex(static_cast<int>(editor_.Value(kBaudRate)));
-  key_click_->setChecked(editor_.Value(kKeyClick) != 0);
   loading_ = false;
   ShowScreen();
 }

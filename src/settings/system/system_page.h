@@ -17,6 +17,8 @@ class QPushButton;
 
 namespace veltrix {
 
+class FieldBinder;
+
 // The "System" page of the settings sheet (dialog "SYSTEM_DLG"): power, security and backlight
 // on the left; the menu and message texts, the download port and key click on the right. Every
 // control writes the record at once through SystemEditor.
@@ -42,7 +44,8 @@ class SystemPage : public SettingsPage {
   void ShowScreen();
 
   SystemEditor editor_;
-  bool loading_ = false;
+  FieldBinder* binder_;
+  bool loading_ = false;  // while the prompts combo is filled
 
   QButtonGroup* power_on_ = nullptr;
   QLineEdit* auto_power_off_ = nullptr;
