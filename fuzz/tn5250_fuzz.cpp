@@ -12,15 +12,15 @@ namespace {
 
 // Every key of the keyboard.
 constexpr veltrix::HostKey kKeys[] = {
-    veltrix::HostKey::kBackspace, veltrix::HostKey::kEnter,      veltrix::HostKey::kReset,
-    veltrix::HostKey::kF1,        veltrix::HostKey::kF2,         veltrix::HostKey::kF3,
-    veltrix::HostKey::kF4,        veltrix::HostKey::kF5,         veltrix::HostKey::kF6,
-    veltrix::HostKey::kF7,        veltrix::HostKey::kF8,         veltrix::HostKey::kF9,
-    veltrix::HostKey::kF10,       veltrix::HostKey::kF11,        veltrix::HostKey::kF12,
-    veltrix::HostKey::kUp,        veltrix::HostKey::kDown,       veltrix::HostKey::kLeft,
-    veltrix::HostKey::kRight,     veltrix::HostKey::kPageUp,     veltrix::HostKey::kPageDown,
-    veltrix::HostKey::kTab,       veltrix::HostKey::kHome,       veltrix::HostKey::kEnd,
-    veltrix::HostKey::kDelete,    veltrix::HostKey::kFieldPlus,  veltrix::HostKey::kFieldMinus};
+    veltrix::HostKey::kBackspace, veltrix::HostKey::kEnter,     veltrix::HostKey::kReset,
+    veltrix::HostKey::kF1,        veltrix::HostKey::kF2,        veltrix::HostKey::kF3,
+    veltrix::HostKey::kF4,        veltrix::HostKey::kF5,        veltrix::HostKey::kF6,
+    veltrix::HostKey::kF7,        veltrix::HostKey::kF8,        veltrix::HostKey::kF9,
+    veltrix::HostKey::kF10,       veltrix::HostKey::kF11,       veltrix::HostKey::kF12,
+    veltrix::HostKey::kUp,        veltrix::HostKey::kDown,      veltrix::HostKey::kLeft,
+    veltrix::HostKey::kRight,     veltrix::HostKey::kPageUp,    veltrix::HostKey::kPageDown,
+    veltrix::HostKey::kTab,       veltrix::HostKey::kHome,      veltrix::HostKey::kEnd,
+    veltrix::HostKey::kDelete,    veltrix::HostKey::kFieldPlus, veltrix::HostKey::kFieldMinus};
 constexpr std::size_t kKeyCount = sizeof kKeys / sizeof kKeys[0];
 
 // Marker bytes after FE FE that are not a key or a character.

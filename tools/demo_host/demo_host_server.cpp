@@ -88,7 +88,8 @@ void DemoHostServer::OnNewConnection() {
       idle->setObjectName(QStringLiteral("idle"));
       idle->setSingleShot(true);
       connect(idle, &QTimer::timeout, this, [this, socket] {
-        Log(QStringLiteral("station idle for %1 s; connection closed").arg(idle_limit_ms_ / 1000.0));
+        Log(QStringLiteral("station idle for %1 s; connection closed")
+                .arg(idle_limit_ms_ / 1000.0));
         Drop(socket);
       });
       idle->start(idle_limit_ms_);
@@ -111,7 +112,8 @@ void DemoHostServer::OnReadyRead(QTcpSocket* socket) {
   const std::shared_ptr<HostSession> session = it.value();
   if (auto* idle = socket->findChild<QTimer*>(QStringLiteral("idle"))) idle->start();
   const QByteArray bytes = socket->readAll();
-  received_bytes_.append(bytes.first(std::min(bytes.size(), kMaxKeptBytes - received_bytes_.size())));
+  received_bytes_.append(
+      bytes.first(std::min(bytes.size(), kMaxKeptBytes - received_bytes_.size())));
   emit bytesReceived(bytes);
   const auto* data = reinterpret_cast<const std::uint8_t*>(bytes.constData());
   Write(socket, *session, session->Receive({data, static_cast<std::size_t>(bytes.size())}));
