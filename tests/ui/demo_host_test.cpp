@@ -367,14 +367,14 @@ void DemoHostTest::hostileStations_data() {
   QTest::newRow("record ending in an SBA")
       << Bytes({0x00, 0x0E, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 1, 1, 0xF1, 0x11, 0xFF, 0xEF}) << 1
       << false << "Enter at 1,1";
-  QTest::newRow("50 MB without a record end") << QByteArray(1 << 20, 'A') << 50 << true
-                                               << "longer than any record";
+  QTest::newRow("50 MB without a record end")
+      << QByteArray(1 << 20, 'A') << 50 << true << "longer than any record";
   QByteArray records;
   while (records.size() < (1 << 20)) records += AidRecord(1, 1, kAidEnter) + Bytes({0xFF, 0xEF});
   QTest::newRow("50 MB of records, none of the answers read")
       << records << 50 << true << "does not read";
-  QTest::newRow("malformed records") << Bytes({0x00, 0x02, 0x01, 0xFF, 0xEF}) << 16 << true
-                                     << "sends garbage";
+  QTest::newRow("malformed records")
+      << Bytes({0x00, 0x02, 0x01, 0xFF, 0xEF}) << 16 << true << "sends garbage";
   QTest::newRow("silence") << QByteArray() << 0 << true << "idle for 0.3 s";
 }
 
