@@ -1,6 +1,7 @@
 // The pages of the settings sheet that this build has. Plug a page in with one line:
 //   registry.Register<SystemPage>(SheetPageId::kSystem);
 #include "capture/screen_page.h"
+#include "settings/emulation/emulation_page.h"
 #include "settings/system/system_page.h"
 #include "shell/settings_page_registry_qt.h"
 
@@ -8,6 +9,7 @@ namespace veltrix {
 
 void RegisterSettingsPages(SettingsPageRegistry& registry) {
   registry.Register<SystemPage>(SheetPageId::kSystem);
+  registry.Register<EmulationPage>(SheetPageId::kEmulation);
   registry.Register<ScreenPage>(SheetPageId::kScreen);
 }
 

@@ -4,6 +4,7 @@
 
 #include "settings/emulation/emulation_settings.h"
 #include "settings/emulation/function_keys.h"
+#include "settings/emulation/number_edit.h"
 #include "settings/field.h"
 
 namespace veltrix {
@@ -62,5 +63,41 @@ void ResetEmulationSection(Document& doc) {
   SetEmulationDefaults(doc);
   SetFunctionKeyDefaults(doc);
 }
+
+namespace {
+
+constexpr FieldBinding kEmulationBindings[] = {
+    {"language", ControlKind::kList, &kEmulationType, 0, nullptr,
+     [](Document& doc, std::int64_t v) { ChooseLanguage(doc, static_cast<int>(v)); }},
+    {"font_size", ControlKind::kRadioGroup, &kFontSize, 0, nullptr,
+     [](Document& doc, std::int64_t v) { ChooseFontSize(doc, static_cast<int>(v)); }},
+    {"field_length", ControlKind::kRadioGroup, &kFieldLengthIfExceed},
+    {"view_org_x", ControlKind::kNumberEdit, &kViewOrgX, 0,
+     [](std::string_view text, const FieldDef&) { return ViewOriginEdit(text, 80); }},
+    {"view_org_y", ControlKind::kNumberEdit, &kViewOrgY, 0,
+     [](std::string_view text, const FieldDef&) { return ViewOriginEdit(text, 25); }},
+    {"lock_screen", ControlKind::kCheckBox, &kLockScreen, 0, nullptr,
+     [](Document& doc, std::int64_t v) { SetLockScreen(doc, v != 0); }},
+    {"navigator", ControlKind::kList, &kNavigator},
+    {"navigator_key", ControlKind::kKeyCombo, &kNavigatorKey},
+    {"horizontal_steps", ControlKind::kNumberEdit, &kHorizontalSteps, 0,
+     [](std::string_view text, const FieldDef&) { return ScrollStepEdit(text); }},
+    {"vertical_steps", ControlKind::kNumberEdit, &kVerticalSteps, 0,
+     [](std::string_view text, const FieldDef&) { return ScrollStepEdit(text); }},
+    {"cursor_tracking", ControlKind::kCheckBox, &kCursorTracking, 0, nullptr,
+     [](Document& doc, std::int64_t v) { SetCursorTracking(doc, v != 0); }},
+    {"trim_spaces", ControlKind::kCheckBox, &kTrimSpaces},
+    {"remove_empty_line", ControlKind::kCheckBox, &kRemoveEmptyLine},
+    {"disable_local_echo", ControlKind::kCheckBox, &kDisableLocalEcho},
+    {"message_line", ControlKind::kList, &kMessageLineNumber},
+    {"message_key", ControlKind::kKeyCombo, &kMessageFunctionKey},
+    {"message_time_out", ControlKind::kNumberEdit, &kMessageTimeOut, 0,
+     [](std::string_view text, const FieldDef&) { return MessageTimeOutEdit(text); }},
+    {"exclude_string", ControlKind::kTextEdit, &kExcludeString},
+};
+
+}  // namespace
+
+std::span<const FieldBinding> EmulationBindings() { return kEmulationBindings; }
 
 }  // namespace veltrix

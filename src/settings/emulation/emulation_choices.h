@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "settings/document.h"
+#include "settings/field_binding.h"
 
 namespace veltrix {
 
@@ -22,6 +23,11 @@ bool ChooseFontSize(Document& doc, int font_size);
 // "Cursor Tracking" and "Lock Screen" are each other's complement.
 void SetCursorTracking(Document& doc, bool on);
 void SetLockScreen(Document& doc, bool on);
+
+// The Emulation page's controls, each with its field and rule: the language that also sets the
+// font size and steps, the font size that does so only when it changes, the numeric edits, the
+// two key combos under the claim rule, "Cursor Tracking" and "Lock Screen" as complements.
+std::span<const FieldBinding> EmulationBindings();
 
 // "Reset" on the Emulation page: the emulation defaults, then the function key defaults, which
 // mark again the keys the login, logout and switch-key fields still name.

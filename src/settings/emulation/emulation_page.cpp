@@ -1,0 +1,220 @@
+#include "settings/emulation/emulation_page.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpressionValidator>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "resources/text_qt.h"
+#include "settings/emulation/emulation_choices.h"
+#include "settings/emulation/emulation_settings.h"
+#include "settings/emulation/function_key_dialog.h"
+#include "settings/emulation/function_keys.h"
+#include "settings/emulation/key_names.h"
+#include "settings/field_binder_qt.h"
+
+namespace veltrix {
+namespace {
+
+QComboBox* Combo(const char* name, std::span<const std::string_view> entries) {
+  auto* combo = new QComboBox;
+  combo->setObjectName(name);
+  for (std::string_view entry : entries) combo->addItem(QtText(entry));
+  return combo;
+}
+
+QLineEdit* Edit(const char* name, int characters, bool digits_only) {
+  auto* edit = new QLineEdit;
+  edit->setObjectName(name);
+  edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QString(characters + 2, '0')) + 12);
+  if (digits_only) {
+    edit->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), edit));
+  }
+  return edit;
+}
+
+QButtonGroup* Radios(QWidget* owner, const char* name, std::span<const std::string_view> captions,
+                     QBoxLayout* layout) {
+  auto* group = new QButtonGroup(owner);
+  group->setObjectName(name);
+  for (std::size_t i = 0; i < captions.size(); ++i) {
+    auto* button = new QRadioButton(QtText(captions[i]));
+    button->setObjectName(QStringLiteral("%1_%2").arg(name).arg(i));
+    group->addButton(button, static_cast<int>(i));
+    layout->addWidget(button);
+  }
+  return group;
+}
+
+QCheckBox* Check(const char* name, const QString& caption) {
+  auto* box = new QCheckBox(caption);
+  box->setObjectName(name);
+  return box;
+}
+
+// A label and its control on one row of a form grid.
+void AddRow(QGridLayout* grid, int row, const QString& caption, QWidget* control) {
+  auto* label = new QLabel(caption);
+  label->setBuddy(control);
+  grid->addWidget(label, row, 0);
+  grid->addWidget(control, row, 1);
+}
+
+constexpr std::string_view kFontSizes[] = {"Small (6x8)", "Large (8x16)"};
+
+}  // namespace
+
+EmulationPage::EmulationPage(Document& doc, QWidget* parent)
+    : SettingsPage(doc, parent), binder_(new FieldBinder(doc, this)) {
+  setObjectName("EMULATION_DLG");
+
+  auto* top = new QHBoxLayout;
+  auto* language = Combo("language", LanguageChoices());
+  auto* language_label = new QLabel(tr("Language:"));
+  language_label->setBuddy(language);
+  auto* reset = new QPushButton(tr("Reset"));
+  reset->setObjectName("reset");
+  top->addWidget(language_label);
+  top->addWidget(language);
+  top->addStretch();
+  top->addWidget(reset);
+
+  auto* font_box = new QGroupBox(tr("Font Size"));
+  auto* font_layout = new QVBoxLayout(font_box);
+  Radios(this, "font_size", kFontSizes, font_layout);
+
+  auto* length_box = new QGroupBox(tr("Field Length if Exceed"));
+  auto* length_layout = new QVBoxLayout(length_box);
+  Radios(this, "field_length", FieldLengthChoices(), length_layout);
+
+  auto* lock_box = new QGroupBox(tr("Lock Screen"));
+  auto* lock_layout = new QGridLayout(lock_box);
+  AddRow(lock_layout, 0, tr("X"), Edit("view_org_x", 2, true));
+  AddRow(lock_layout, 1, tr("Y"), Edit("view_org_y", 2, true));
+  lock_layout->addWidget(Check("lock_screen", tr("Lock Screen")), 2, 0, 1, 2);
+
+  auto* scroll_box = new QGroupBox(tr("Screen Scroll && Control"));
+  auto* scroll = new QGridLayout(scroll_box);
+  AddRow(scroll, 0, tr("Navigator :"), Combo("navigator", NavigatorChoices()));
+  AddRow(scroll, 1, tr("Navigator Key :"), Combo("navigator_key", KeyFieldChoices()));
+  AddRow(scroll, 2, tr("Horizontal Steps :"), Edit("horizontal_steps", 3, false));
+  AddRow(scroll, 3, tr("Vertical Steps :"), Edit("vertical_steps", 3, false));
+  scroll->addWidget(Check("cursor_tracking", tr("Cursor Tracking")), 4, 0, 1, 2);
+  scroll->addWidget(Check("trim_spaces", tr("Trim Spaces")), 5, 0, 1, 2);
+  scroll->addWidget(Check("remove_empty_line", tr("Remove Empty Line")), 6, 0, 1, 2);
+  // Kept as the terminal's page has it: present, bound, never shown.
+  QCheckBox* echo = Check("disable_local_echo", tr("Disable Local Echo"));
+  echo->setParent(scroll_box);
+  echo->hide();
+
+  auto* message_box = new QGroupBox(tr("Message"));
+  auto* message = new QGridLayout(message_box);
+  auto* lines = new QComboBox;
+  lines->setObjectName("message_line");
+  for (int n = 1; n <= 24; ++n) lines->addItem(QString::number(n));
+  AddRow(message, 0, tr("Line Number"), lines);
+  AddRow(message, 1, tr("Function Key"), Combo("message_key", KeyFieldChoices()));
+  AddRow(message, 2, tr("Time Out (Second)"), Edit("message_time_out", 3, true));
+  QLineEdit* exclude = Edit("exclude_string", 19, false);
+  exclude->setMaxLength(static_cast<int>(kExcludeString.width) - 1);
+  AddRow(message, 3, tr("Exclude String"), exclude);
+
+  auto* left = new QVBoxLayout;
+  left->addWidget(font_box);
+  left->addWidget(length_box);
+  left->addWidget(lock_box);
+  left->addStretch();
+  auto* middle = new QVBoxLayout;
+  middle->addWidget(scroll_box);
+  middle->addWidget(message_box);
+  middle->addStretch();
+  auto* columns = new QHBoxLayout;
+  columns->addLayout(left);
+  columns->addLayout(middle);
+  columns->addWidget(BuildMapping(), 1);
+  auto* layout = new QVBoxLayout(this);
+  layout->addLayout(top);
+  layout->addLayout(columns, 1);
+
+  binder_->Bind(EmulationBindings());
+  // A key combo may claim or release a key of the mapping.
+  binder_->OnChanged([this] { ShowMapping(); });
+  connect(reset, &QPushButton::clicked, this, [this] {
+    ResetEmulationSection(this->doc());
+    binder_->Load();
+    ShowMapping();
+  });
+}
+
+QWidget* EmulationPage::BuildMapping() {
+  auto* box = new QGroupBox(tr("Function Key Mapping"));
+  // The 39 rows scroll within the group, so the page keeps the sheet's size.
+  auto* rows = new QWidget;
+  auto* grid = new QGridLayout(rows);
+  grid->setVerticalSpacing(2);
+  grid->setHorizontalSpacing(4);
+  const std::span<const int> keys = MappingRowKeys();
+  for (int row = 0; row < kMappingRowCount; ++row) {
+    const int key = keys[static_cast<std::size_t>(row)];
+    auto* button = new QPushButton(QtText(MappingButtonText(row)));
+    button->setObjectName(QStringLiteral("key_%1").arg(key));
+    button->setMaximumWidth(button->fontMetrics().horizontalAdvance(QStringLiteral("Insert")) + 18);
+    auto* label = new QLabel;
+    label->setObjectName(QStringLiteral("key_label_%1").arg(key));
+    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("Navigator Key")));
+    grid->addWidget(button, row, 0);
+    grid->addWidget(new QLabel(QStringLiteral("=>")), row, 1);
+    grid->addWidget(label, row, 2);
+    key_buttons_[static_cast<std::size_t>(row)] = button;
+    key_labels_[static_cast<std::size_t>(row)] = label;
+    connect(button, &QPushButton::clicked, this, [this, key] {
+      FunctionKeyDialog dialog(doc(), key, this);
+      if (dialog.exec() == QDialog::Accepted) ShowMapping();
+    });
+  }
+  auto* scroll = new QScrollArea;
+  scroll->setObjectName("key_mapping");
+  scroll->setWidget(rows);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setMinimumWidth(rows->sizeHint().width() +
+                          scroll->verticalScrollBar()->sizeHint().width());
+  auto* layout = new QVBoxLayout(box);
+  layout->setContentsMargins(4, 4, 4, 4);
+  layout->addWidget(scroll);
+  return box;
+}
+
+void EmulationPage::Initialise(Document& doc) {
+  ApplyKeyAvailability(doc);
+  binder_->Load();
+  ShowMapping();
+}
+
+// The Wireless LAN and Barcode pages may have claimed keys meanwhile.
+void EmulationPage::SetActive(Document& /*doc*/) {
+  binder_->Load();
+  ShowMapping();
+}
+
+void EmulationPage::ShowMapping() {
+  const std::span<const int> keys = MappingRowKeys();
+  for (int row = 0; row < kMappingRowCount; ++row) {
+    const int key = keys[static_cast<std::size_t>(row)];
+    key_labels_[static_cast<std::size_t>(row)]->setText(QtText(MappingLabel(doc(), key)));
+    key_buttons_[static_cast<std::size_t>(row)]->setEnabled(MappingRowEnabled(doc(), key));
+  }
+}
+
+}  // namespace veltrix

@@ -1,0 +1,271 @@
+// The Emulation page driven as a user does, alone and inside the settings sheet.
+#include "settings/emulation/emulation_page.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QtTest>
+#include <memory>
+
+#include "settings/document.h"
+#include "settings/emulation/emulation_choices.h"
+#include "settings/emulation/emulation_settings.h"
+#include "settings/emulation/function_key_dialog.h"
+#include "settings/emulation/function_keys.h"
+#include "settings/network/network_settings.h"
+#include "shell/settings_page_registry_qt.h"
+#include "shell/settings_sheet_dialog.h"
+#include "support/modal.h"
+
+using namespace veltrix;
+
+class EmulationPageTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    doc_ = std::make_unique<Document>();
+    SetDefaults(*doc_, 2);
+    page_ = std::make_unique<EmulationPage>(*doc_);
+    page_->Initialise(*doc_);
+    page_->SetActive(*doc_);
+  }
+  void cleanup() {
+    page_.reset();
+    doc_.reset();
+  }
+
+  void languageChoosesFontAndSteps_data() {
+    QTest::addColumn<int>("language");
+    QTest::addColumn<QString>("font");
+    QTest::addColumn<QString>("horizontal");
+    QTest::addColumn<QString>("vertical");
+    QTest::newRow("Japanese") << 4 << "font_size_1"
+                              << "14"
+                              << "3";
+    QTest::newRow("French") << 6 << "font_size_0"
+                            << "19"
+                            << "7";
+  }
+  void languageChoosesFontAndSteps() {
+    QFETCH(int, language);
+    QFETCH(QString, font);
+    Find<QComboBox>("language")->setCurrentIndex(3);  // Korean first: large
+    Find<QComboBox>("language")->setCurrentIndex(language);
+    QVERIFY(Find<QRadioButton>(font)->isChecked());
+    QTEST(Find<QLineEdit>("horizontal_steps")->text(), "horizontal");
+    QTEST(Find<QLineEdit>("vertical_steps")->text(), "vertical");
+    QCOMPARE(Value(kEmulationType), language);
+    QCOMPARE(Value(kHorizontalSteps), Find<QLineEdit>("horizontal_steps")->text().toInt());
+  }
+
+  // The font size button already chosen changes nothing, not even steps typed by hand.
+  void sameFontSizeKeepsTypedSteps() {
+    Type("horizontal_steps", "25");
+    Find<QRadioButton>("font_size_0")->click();
+    QCOMPARE(Value(kHorizontalSteps), 25);
+    Find<QRadioButton>("font_size_1")->click();
+    QCOMPARE(Value(kHorizontalSteps), 14);
+    QCOMPARE(Find<QLineEdit>("horizontal_steps")->text(), QString("14"));
+  }
+
+  void numberEditsAreCorrectedAsTyped_data() {
+    QTest::addColumn<QString>("edit");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("X 90") << "view_org_x"
+                          << "90"
+                          << "79" << 79;
+    QTest::newRow("Y 30") << "view_org_y"
+                          << "30"
+                          << "24" << 24;
+    QTest::newRow("X letters refused") << "view_org_x"
+                                       << "a5"
+                                       << "5" << 5;
+    QTest::newRow("time-out 300") << "message_time_out"
+                                  << "300"
+                                  << "300" << 44;
+    QTest::newRow("steps 007") << "vertical_steps"
+                               << "007"
+                               << "7" << 7;
+    QTest::newRow("steps 0") << "vertical_steps"
+                             << "0"
+                             << "1" << 1;
+    QTest::newRow("steps 300") << "vertical_steps"
+                               << "300"
+                               << "255" << 255;
+  }
+  void numberEditsAreCorrectedAsTyped() {
+    QFETCH(QString, edit);
+    QFETCH(QString, typed);
+    Type(edit, typed);
+    QTEST(Find<QLineEdit>(edit)->text(), "shown");
+    const FieldBinding* b = FindBinding(EmulationBindings(), edit.toStdString());
+    QTEST(int(BoundValue(*doc_, *b)), "stored");
+  }
+
+  void excludeStringKeepsNineteenCharacters() {
+    Type("exclude_string", "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kExcludeString)),
+             QString("ABCDEFGHIJKLMNOPQRS"));
+  }
+
+  void cursorTrackingAndLockScreenExcludeEachOther() {
+    Find<QCheckBox>("lock_screen")->click();
+    QVERIFY(!Find<QCheckBox>("cursor_tracking")->isChecked());
+    QCOMPARE(std::pair(Value(kCursorTracking), Value(kLockScreen)), std::pair(0, 1));
+    Find<QCheckBox>("cursor_tracking")->click();
+    QVERIFY(!Find<QCheckBox>("lock_screen")->isChecked());
+    QCOMPARE(std::pair(Value(kCursorTracking), Value(kLockScreen)), std::pair(1, 0));
+    QVERIFY(!Find<QCheckBox>("disable_local_echo")->isVisibleTo(page_.get()));
+  }
+
+  // FN+2 as navigator key: its row reads "Navigator Key" and its button is off; the message key
+  // cannot take it too; "Disable" gives FN+2 back to PF2.
+  void keyCombosClaimAndRelease() {
+    Find<QComboBox>("navigator_key")->setCurrentIndex(2);
+    QCOMPARE(Find<QLabel>("key_label_2")->text(), QString("Navigator Key"));
+    QVERIFY(!Find<QPushButton>("key_2")->isEnabled());
+    QString message;
+    testing::AnswerMessageBox(&message);
+    Find<QComboBox>("message_key")->setCurrentIndex(2);
+    QCOMPARE(message, QString("Function Key Mapping: The function key is defined already !!"));
+    QCOMPARE(Find<QComboBox>("message_key")->currentIndex(), 0);
+    QCOMPARE(Value(kMessageFunctionKey), 0);
+    Find<QComboBox>("navigator_key")->setCurrentIndex(0);
+    QCOMPARE(Find<QLabel>("key_label_2")->text(), QString("PF2"));
+    QVERIFY(Find<QPushButton>("key_2")->isEnabled());
+  }
+
+  void mappingDialogOkAndCancel_data() {
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("OK") << true << "PF13";
+    QTest::newRow("Cancel") << false << "PF5";
+  }
+  void mappingDialogOkAndCancel() {
+    QFETCH(bool, ok);
+    QString code_shown;
+    testing::WhenModal([&](QWidget* w) {
+      auto* dialog = qobject_cast<FunctionKeyDialog*>(w);
+      QVERIFY(dialog);
+      QVERIFY(!dialog->findChild<QComboBox*>("group")->isEnabled());
+      auto* host = dialog->findChild<QComboBox*>("host_key");
+      QCOMPARE(host->currentText(), QString("PF5"));
+      host->setFocus();
+      QTest::keyClicks(host, "PF13");  // typed as a user picks from a list
+      host->setCurrentIndex(13);
+      code_shown = dialog->findChild<QLineEdit*>("key_code")->text();
+      ok ? dialog->accept() : dialog->reject();
+    });
+    Find<QPushButton>("key_5")->click();
+    QCOMPARE(code_shown, QString("ESC [ V "));
+    QTEST(Find<QLabel>("key_label_5")->text(), "label");
+    const auto code = FieldBytes(std::span<const std::uint8_t>(doc_->record), kKeyCode, 5);
+    QCOMPARE(code[2], std::uint8_t(ok ? 0x56 : 0x4D));
+  }
+
+  void dravinSHasTwelveKeyButtons() {
+    SetDefaults(*doc_, 1);
+    page_ = std::make_unique<EmulationPage>(*doc_);
+    page_->Initialise(*doc_);
+    int enabled = 0;
+    for (auto* button : page_->findChildren<QPushButton*>(QRegularExpression("^key_\\d+$"))) {
+      enabled += button->isEnabled();
+    }
+    QCOMPARE(enabled, 12);
+    QVERIFY(Find<QPushButton>("key_37")->isEnabled());   // Down
+    QVERIFY(!Find<QPushButton>("key_38")->isEnabled());  // Left
+  }
+
+  void resetKeepsFieldLengthAndRestoresTheRest() {
+    Find<QRadioButton>("field_length_1")->click();
+    Find<QComboBox>("language")->setCurrentIndex(4);
+    Find<QComboBox>("navigator_key")->setCurrentIndex(3);
+    WriteNumber(doc_->record, kLoginNameKey, 4);
+    ClaimFunctionKey(*doc_, 4, kRoleNameKey);
+    Find<QPushButton>("reset")->click();
+    QCOMPARE(Value(kFieldLengthIfExceed), 1);
+    QCOMPARE(Find<QComboBox>("language")->currentIndex(), 0);
+    QCOMPARE(Find<QLabel>("key_label_3")->text(), QString("PF3"));
+    QCOMPARE(Find<QLabel>("key_label_4")->text(), QString("Name Key"));
+  }
+
+  // Inside the sheet: Cancel puts back the record and the key code table; a language chosen
+  // here changes the Screen page's sizes; a key claimed elsewhere shows when the tab is shown.
+  void insideTheSheet() {
+    const Document before = *doc_;
+    {
+      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+      sheet.tabs()->setCurrentIndex(3);
+      QWidget* page = sheet.page(3);
+      // A key code of its own, picked in the grid editor key by key: Clear, Right, Enter.
+      testing::WhenModal([](QWidget* w) {
+        w->findChild<QComboBox*>("host_key")->setCurrentIndex(13);
+        auto* code = w->findChild<QLineEdit*>("key_code");
+        testing::WhenModal(
+            [](QWidget* grid) {
+              grid->findChild<QPushButton*>("grid_clear")->click();
+              QWidget* chart = grid->findChild<QWidget*>("grid_chart");
+              QTest::keyClick(chart, Qt::Key_Right);
+              QTest::keyClick(chart, Qt::Key_Return);
+              qobject_cast<QDialog*>(grid)->accept();
+            },
+            w);
+        QTest::mouseClick(code, Qt::LeftButton);
+        QCOMPARE(code->text(), QString("F2 "));
+        qobject_cast<QDialog*>(w)->accept();
+      });
+      page->findChild<QPushButton*>("key_36")->click();
+      QVERIFY(doc_->key_codes != before.key_codes);
+      sheet.reject();
+    }
+    QVERIFY(doc_->record == before.record);
+    QVERIFY(doc_->key_codes == before.key_codes);
+
+    SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+    sheet.tabs()->setCurrentIndex(4);
+    auto* sizes = sheet.page(4)->findChild<QComboBox*>("terminal_size");
+    const QString small_first = sizes->itemText(0);
+    sheet.tabs()->setCurrentIndex(3);
+    sheet.page(3)->findChild<QComboBox*>("language")->setCurrentIndex(4);
+    ClaimFunctionKey(*doc_, 6, kRoleNameKey);  // as the Wireless LAN page would
+    sheet.tabs()->setCurrentIndex(4);
+    QVERIFY(sizes->itemText(0) != small_first);
+    sheet.tabs()->setCurrentIndex(3);
+    QCOMPARE(sheet.page(3)->findChild<QLabel*>("key_label_6")->text(), QString("Name Key"));
+    sheet.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&sheet));
+    QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("emulation_page.png")));
+    sheet.accept();
+    QVERIFY(doc_->modified);
+  }
+
+ private:
+  template <typename T>
+  T* Find(const QString& name) {
+    T* widget = page_->findChild<T*>(name);
+    if (widget == nullptr) qFatal("no control %s", qPrintable(name));
+    return widget;
+  }
+  int Value(const FieldDef& field) { return int(ReadNumber(doc_->record, field)); }
+  void Type(const QString& name, const QString& text) {
+    auto* edit = Find<QLineEdit>(name);
+    edit->clear();
+    QTest::keyClicks(edit, text);
+  }
+
+  std::unique_ptr<Document> doc_;
+  std::unique_ptr<EmulationPage> page_;
+};
+
+QTEST_MAIN(EmulationPageTest)
+#include "emulation_page_test.moc"
