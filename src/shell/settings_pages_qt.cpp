@@ -2,6 +2,7 @@
 //   registry.Register<SystemPage>(SheetPageId::kSystem);
 #include "capture/screen_page.h"
 #include "settings/emulation/emulation_page.h"
+#include "settings/network/wireless_lan_page.h"
 #include "settings/system/system_page.h"
 #include "shell/settings_page_registry_qt.h"
 
@@ -9,6 +10,7 @@ namespace veltrix {
 
 void RegisterSettingsPages(SettingsPageRegistry& registry) {
   registry.Register<SystemPage>(SheetPageId::kSystem);
+  registry.Register<WirelessLanPage>(SheetPageId::kWirelessLan);
   registry.Register<EmulationPage>(SheetPageId::kEmulation);
   registry.Register<ScreenPage>(SheetPageId::kScreen);
 }

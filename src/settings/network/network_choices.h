@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "settings/document.h"
+#include "settings/field_binding.h"
 
 namespace veltrix {
 
@@ -23,6 +24,10 @@ struct NetworkControlStates {
   friend bool operator==(const NetworkControlStates&, const NetworkControlStates&) = default;
 };
 NetworkControlStates NetworkControlStatesOf(const Document& doc);
+
+// The Wireless LAN page's controls that edit one field each, with their rules and enabling
+// (the host combo and the four WEP key edits have rules of their own).
+std::span<const FieldBinding> NetworkBindings();
 
 // Text typed into the host combo: its first 49 characters go into the active host entry only.
 void StoreActiveHostText(Document& doc, std::string_view text);

@@ -1,0 +1,207 @@
+// The Wireless LAN page driven as a user does, alone and inside the settings sheet.
+#include "settings/network/wireless_lan_page.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QtTest>
+#include <memory>
+
+#include "settings/document.h"
+#include "settings/emulation/key_mapping.h"
+#include "settings/grid/grid_dialog.h"
+#include "settings/network/network_settings.h"
+#include "shell/settings_page_registry_qt.h"
+#include "shell/settings_sheet_dialog.h"
+#include "support/modal.h"
+
+using namespace veltrix;
+
+class WirelessLanPageTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    doc_ = std::make_unique<Document>();
+    SetDefaults(*doc_, 2);
+    page_ = std::make_unique<WirelessLanPage>(*doc_);
+    page_->Initialise(*doc_);
+  }
+  void cleanup() {
+    page_.reset();
+    doc_.reset();
+  }
+
+  void dhcpDisablesTheAddressesAndKeepsThem() {
+    QVERIFY(!Find<QLineEdit>("gateway")->isEnabled());
+    Find<QCheckBox>("dhcp_server")->click();
+    QVERIFY(Find<QLineEdit>("gateway")->isEnabled());
+    Type("gateway", "10.0.0.1");
+    Find<QCheckBox>("dhcp_server")->click();
+    QVERIFY(!Find<QLineEdit>("gateway")->isEnabled());
+    QCOMPARE(Text(kGateway), QString("10.0.0.1"));
+    QVERIFY(!Find<QLineEdit>("eap_id")->isEnabled());
+    QVERIFY(!Find<QLineEdit>("wep_key_1")->isEnabled());
+  }
+
+  void numberEditsAreCorrectedAsTyped_data() {
+    QTest::addColumn<QString>("edit");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("port 70000") << "telnet_port"
+                                << "70000"
+                                << "70000" << 4464;
+    QTest::newRow("port abc") << "telnet_port"
+                              << "abc"
+                              << "0" << 0;
+    QTest::newRow("keep-alive 300") << "keep_alive"
+                                    << "300"
+                                    << "255" << 255;
+    QTest::newRow("keep-alive 007") << "keep_alive"
+                                    << "007"
+                                    << "7" << 7;
+  }
+  void numberEditsAreCorrectedAsTyped() {
+    QFETCH(QString, edit);
+    QFETCH(QString, typed);
+    Type(edit, typed);
+    QTEST(Find<QLineEdit>(edit)->text(), "shown");
+    const FieldDef& field = edit == "telnet_port" ? kTelnetPort : kKeepAliveMinutes;
+    QTEST(int(ReadNumber(doc_->record, field)), "stored");
+  }
+
+  // FN+3 for the login name, then for the password: refused. FN+4 for the password releases its
+  // former key and claims FN+4; Reset gives every key back.
+  void keyCombosFollowTheClaimRule() {
+    Find<QComboBox>("login_password_key")->setCurrentIndex(5);
+    Find<QComboBox>("login_name_key")->setCurrentIndex(3);
+    QString message;
+    testing::AnswerMessageBox(&message);
+    Find<QComboBox>("login_password_key")->setCurrentIndex(3);
+    QCOMPARE(message, QString("Function Key Mapping: The function key is defined already !!"));
+    QCOMPARE(Find<QComboBox>("login_password_key")->currentIndex(), 5);
+    Find<QComboBox>("login_password_key")->setCurrentIndex(4);
+    QCOMPARE(MappingLabel(*doc_, 5), std::string("PF5"));
+    QCOMPARE(MappingLabel(*doc_, 4), std::string("Password Key"));
+    QVERIFY(QString::fromStdString(MappingSummaryLine(*doc_, 3)).contains("Name Key"));
+    Find<QCheckBox>("auto_sign_on")->click();
+    Find<QPushButton>("reset")->click();
+    QCOMPARE(MappingLabel(*doc_, 3), std::string("PF3"));
+    QCOMPARE(MappingLabel(*doc_, 4), std::string("PF4"));
+    QCOMPARE(Find<QComboBox>("login_name_key")->currentIndex(), 0);
+    QCOMPARE(ReadNumber(doc_->record, kAutoSignOn), 0u);
+  }
+
+  void keyLengthShowsAndCutsTheKeys() {
+    Find<QCheckBox>("wep")->click();
+    for (int i = 0; i < 16; ++i) doc_->record[kWepKey.offset + i] = std::uint8_t(i + 1);
+    page_->SetActive(*doc_);
+    QCOMPARE(Find<QLineEdit>("wep_key_1")->text(), QString("01 02 03 04 05 "));
+    Find<QComboBox>("wep_key_length")->setCurrentIndex(1);
+    QCOMPARE(Find<QLineEdit>("wep_key_1")->text(),
+             QString("01 02 03 04 05 00 00 00 00 00 00 00 00 "));
+    Find<QComboBox>("wep_key_length")->setCurrentIndex(0);
+    for (int i = 5; i < 16; ++i) QCOMPARE(doc_->record[kWepKey.offset + i], std::uint8_t(0));
+  }
+
+  // Key 2 through the grid editor: it opens full (five bytes), so the sixth click after Clear is
+  // refused; OK stores what was picked, Cancel leaves the key.
+  void wepKeysComeFromTheGridEditor_data() {
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("OK") << true << "41 41 41 41 41 ";
+    QTest::newRow("Cancel") << false << "00 00 00 00 00 ";
+  }
+  void wepKeysComeFromTheGridEditor() {
+    QFETCH(bool, ok);
+    Find<QCheckBox>("wep")->click();
+    QString refusal;
+    testing::WhenModal([&](QWidget* w) {
+      auto* grid = qobject_cast<GridDialog*>(w);
+      QVERIFY(grid);
+      QCOMPARE(grid->editor().bytes().size(), std::size_t{5});
+      grid->findChild<QPushButton*>("grid_clear")->click();
+      QWidget* chart = grid->findChild<QWidget*>("grid_chart");
+      const QPoint cell(chart->width() / 17 * 5 + 3, chart->height() / 17 * 2 + 3);  // 0x41
+      for (int i = 0; i < 5; ++i) QTest::mouseClick(chart, Qt::LeftButton, {}, cell);
+      testing::AnswerMessageBox(&refusal, grid);
+      QTest::mouseClick(chart, Qt::LeftButton, {}, cell);
+      QCOMPARE(refusal, QString("The Grid Control: Too many characters !!!"));
+      ok ? grid->accept() : grid->reject();
+    });
+    QTest::mouseClick(Find<QLineEdit>("wep_key_2"), Qt::LeftButton);
+    QTEST(Find<QLineEdit>("wep_key_2")->text(), "text");
+    QCOMPARE(doc_->record[kWepKey.offset + 16], std::uint8_t(ok ? 0x41 : 0));
+  }
+
+  // Typed into the host combo while entry 3 is active: entry 3 changes, the others stay; OK
+  // pads the active entry only.
+  void hostComboEditsTheActiveEntry() {
+    WriteText(doc_->record, kHostIpOrName, "abcdef", 1);
+    WriteText(doc_->record, kHostIpOrName, "x", 1);  // "def" stays behind the NUL
+    auto* hosts = Find<QComboBox>("host");
+    page_->SetActive(*doc_);
+    hosts->setCurrentIndex(2);
+    QCOMPARE(ReadNumber(doc_->record, kActiveHostIpOrName), 2u);
+    hosts->lineEdit()->clear();
+    QTest::keyClicks(hosts->lineEdit(), "host.example");
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kHostIpOrName, 2)),
+             QString("host.example"));
+    QCOMPARE(hosts->itemText(2), QString("host.example"));
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kHostIpOrName, 0)),
+             QString("192.168.1.10"));
+    page_->Apply(*doc_);
+    QCOMPARE(doc_->record[kHostIpOrName.OffsetOf(1) + 3], std::uint8_t('d'));
+    for (std::uint32_t i = 12; i < 50; ++i) {
+      QCOMPARE(doc_->record[kHostIpOrName.OffsetOf(2) + i], std::uint8_t(0));
+    }
+  }
+
+  // Inside the sheet: a key claimed here shows as taken on the Emulation page; Cancel puts the
+  // record back.
+  void insideTheSheet() {
+    const SettingsRecord before = doc_->record;
+    {
+      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+      sheet.tabs()->setCurrentIndex(2);
+      sheet.page(2)->findChild<QComboBox*>("login_name_key")->setCurrentIndex(7);
+      sheet.tabs()->setCurrentIndex(3);
+      QCOMPARE(sheet.page(3)->findChild<QLabel*>("key_label_7")->text(), QString("Name Key"));
+      QVERIFY(!sheet.page(3)->findChild<QPushButton*>("key_7")->isEnabled());
+      sheet.tabs()->setCurrentIndex(2);
+      sheet.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&sheet));
+      QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("wireless_lan_page.png")));
+      sheet.reject();
+    }
+    QVERIFY(doc_->record == before);
+  }
+
+ private:
+  template <typename T>
+  T* Find(const QString& name) {
+    T* widget = page_->findChild<T*>(name);
+    if (widget == nullptr) qFatal("no control %s", qPrintable(name));
+    return widget;
+  }
+  QString Text(const FieldDef& field) {
+    return QString::fromStdString(ReadText(doc_->record, field));
+  }
+  void Type(const QString& name, const QString& text) {
+    auto* edit = Find<QLineEdit>(name);
+    edit->clear();
+    QTest::keyClicks(edit, text);
+  }
+
+  std::unique_ptr<Document> doc_;
+  std::unique_ptr<WirelessLanPage> page_;
+};
+
+QTEST_MAIN(WirelessLanPageTest)
+#include "wireless_lan_page_test.moc"
