@@ -23,6 +23,7 @@
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 #include "support/modal.h"
+#include "support/page_test.h"
 
 using namespace veltrix;
 
@@ -76,33 +77,7 @@ class EmulationPageTest : public QObject {
     QCOMPARE(Find<QLineEdit>("horizontal_steps")->text(), QString("14"));
   }
 
-  void numberEditsAreCorrectedAsTyped_data() {
-    QTest::addColumn<QString>("edit");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<int>("stored");
-    QTest::newRow("X 90") << "view_org_x"
-                          << "90"
-                          << "79" << 79;
-    QTest::newRow("Y 30") << "view_org_y"
-                          << "30"
-                          << "24" << 24;
-    QTest::newRow("X letters refused") << "view_org_x"
-                                       << "a5"
-                                       << "5" << 5;
-    QTest::newRow("time-out 300") << "message_time_out"
-                                  << "300"
-                                  << "300" << 44;
-    QTest::newRow("steps 007") << "vertical_steps"
-                               << "007"
-                               << "7" << 7;
-    QTest::newRow("steps 0") << "vertical_steps"
-                             << "0"
-                             << "1" << 1;
-    QTest::newRow("steps 300") << "vertical_steps"
-                               << "300"
-                               << "255" << 255;
-  }
+  void numberEditsAreCorrectedAsTyped_data() { testing::AddNumberEditRows("emulation"); }
   void numberEditsAreCorrectedAsTyped() {
     QFETCH(QString, edit);
     QFETCH(QString, typed);
@@ -252,15 +227,11 @@ class EmulationPageTest : public QObject {
  private:
   template <typename T>
   T* Find(const QString& name) {
-    T* widget = page_->findChild<T*>(name);
-    if (widget == nullptr) qFatal("no control %s", qPrintable(name));
-    return widget;
+    return testing::FindControl<T>(page_.get(), name);
   }
   int Value(const FieldDef& field) { return int(ReadNumber(doc_->record, field)); }
   void Type(const QString& name, const QString& text) {
-    auto* edit = Find<QLineEdit>(name);
-    edit->clear();
-    QTest::keyClicks(edit, text);
+    testing::TypeInto(Find<QLineEdit>(name), text);
   }
 
   std::unique_ptr<Document> doc_;

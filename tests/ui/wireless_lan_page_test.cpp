@@ -19,6 +19,7 @@
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 #include "support/modal.h"
+#include "support/page_test.h"
 
 using namespace veltrix;
 
@@ -49,24 +50,7 @@ class WirelessLanPageTest : public QObject {
     QVERIFY(!Find<QLineEdit>("wep_key_1")->isEnabled());
   }
 
-  void numberEditsAreCorrectedAsTyped_data() {
-    QTest::addColumn<QString>("edit");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<int>("stored");
-    QTest::newRow("port 70000") << "telnet_port"
-                                << "70000"
-                                << "70000" << 4464;
-    QTest::newRow("port abc") << "telnet_port"
-                              << "abc"
-                              << "0" << 0;
-    QTest::newRow("keep-alive 300") << "keep_alive"
-                                    << "300"
-                                    << "255" << 255;
-    QTest::newRow("keep-alive 007") << "keep_alive"
-                                    << "007"
-                                    << "7" << 7;
-  }
+  void numberEditsAreCorrectedAsTyped_data() { testing::AddNumberEditRows("wlan"); }
   void numberEditsAreCorrectedAsTyped() {
     QFETCH(QString, edit);
     QFETCH(QString, typed);
@@ -171,8 +155,8 @@ class WirelessLanPageTest : public QObject {
       dialog.show();
       QVERIFY(QTest::qWaitForWindowExposed(&dialog));
       QTest::keyClick(dialog.findChild<QWidget*>("grid_chart"), Qt::Key_Down);
-      QVERIFY(dialog.grab().save(QDir(VELTRIX_BINARY_DIR)
-                                     .filePath(QStringLiteral("grid_mode_%1.png").arg(int(mode)))));
+      QVERIFY(dialog.grab().save(
+          QDir(VELTRIX_BINARY_DIR).filePath(QStringLiteral("grid_mode_%1.png").arg(int(mode)))));
     }
   }
 
@@ -199,17 +183,13 @@ class WirelessLanPageTest : public QObject {
  private:
   template <typename T>
   T* Find(const QString& name) {
-    T* widget = page_->findChild<T*>(name);
-    if (widget == nullptr) qFatal("no control %s", qPrintable(name));
-    return widget;
+    return testing::FindControl<T>(page_.get(), name);
   }
   QString Text(const FieldDef& field) {
     return QString::fromStdString(ReadText(doc_->record, field));
   }
   void Type(const QString& name, const QString& text) {
-    auto* edit = Find<QLineEdit>(name);
-    edit->clear();
-    QTest::keyClicks(edit, text);
+    testing::TypeInto(Find<QLineEdit>(name), text);
   }
 
   std::unique_ptr<Document> doc_;
