@@ -119,12 +119,6 @@ void FieldBinder::Load(const QObject* except) {
   loading_ = false;
 }
 
-void FieldBinder::Pad() {
-  std::vector<FieldBinding> bindings;
-  for (const Bound& b : bound_) bindings.push_back(*b.binding);
-  PadBoundTexts(doc_, bindings);
-}
-
 void ShowKeyTaken(QWidget* parent) {
   QMessageBox::warning(parent, QtText(kKeyMappingCaption), QtText(kKeyTakenMessage));
 }

@@ -28,8 +28,6 @@ class FieldBinder : public QObject {
   void Bind(std::span<const FieldBinding> table);
   // Fills every bound control from the record and sets its enabling.
   void Load();
-  // OK: pads the bound texts.
-  void Pad();
   // Called after every store the user made (for what the table cannot say: labels, lists).
   void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 

@@ -1,7 +1,5 @@
 #include "settings/field_binding.h"
 
-#include <algorithm>
-
 #include "settings/emulation/function_keys.h"
 
 namespace veltrix {
@@ -63,19 +61,6 @@ const FieldBinding* FindBinding(std::span<const FieldBinding> table, std::string
     if (b.control == control) return &b;
   }
   return nullptr;
-}
-
-void PadBoundTexts(Document& doc, std::span<const FieldBinding> bindings) {
-  for (const FieldBinding& b : bindings) {
-    if (b.kind != ControlKind::kTextEdit || b.field == nullptr ||
-        b.field->type != FieldType::kText) {
-      continue;
-    }
-    std::span<std::uint8_t> bytes =
-        FieldBytes(std::span<std::uint8_t>(doc.record), *b.field, b.index);
-    const auto end = std::find(bytes.begin(), bytes.end(), std::uint8_t{0});
-    std::fill(end, bytes.end(), std::uint8_t{0});
-  }
 }
 
 }  // namespace veltrix

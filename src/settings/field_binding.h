@@ -62,9 +62,6 @@ BindingOutcome StoreBoundText(Document& doc, const FieldBinding& binding, std::s
 // The table's line for a control, or null.
 const FieldBinding* FindBinding(std::span<const FieldBinding> table, std::string_view control);
 
-// OK on a page: every bound text is NUL-filled behind its text to its field's full width.
-void PadBoundTexts(Document& doc, std::span<const FieldBinding> bindings);
-
 }  // namespace veltrix
 
 #endif  // VELTRIX_SETTINGS_FIELD_BINDING_H_

@@ -35,7 +35,6 @@ class SystemEditorTest : public ::testing::Test {
   }
   // OK as the sheet gives it to this page.
   void Ok() {
-    PadBoundTexts(*doc_, SystemBindings());
     editor_->Apply();
     snapshot_.MarkApplied(*doc_);
   }

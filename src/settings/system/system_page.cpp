@@ -198,10 +198,7 @@ void SystemPage::Initialise(Document& /*doc*/) {
   LoadControls();
 }
 
-void SystemPage::Apply(Document& /*doc*/) {
-  binder_->Pad();
-  editor_.Apply();
-}
+void SystemPage::Apply(Document& /*doc*/) { editor_.Apply(); }
 
 void SystemPage::LoadControls() {
   binder_->Load();
