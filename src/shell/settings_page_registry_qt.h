@@ -10,8 +10,8 @@
 
 namespace veltrix {
 
-// Which widget class makes each page of the settings sheet. A page left unregistered shows as a
-// tab saying it is not available in this build.
+// Which widget class makes each page of the settings sheet. The installed registry has every
+// page; one built for a test may leave pages out, which then show empty.
 class SettingsPageRegistry {
  public:
   using Factory = std::function<SettingsPage*(Document& doc, QWidget* parent)>;
@@ -31,7 +31,7 @@ class SettingsPageRegistry {
     factories_[static_cast<int>(id)] = std::move(factory);
   }
 
-  // Creates the page for `id` (the stand-in when none is registered).
+  // Creates the page for `id` (an empty one when none is registered).
   SettingsPage* Create(SheetPageId id, Document& doc, QWidget* parent) const;
 
  private:

@@ -3,6 +3,7 @@
 #include "capture/screen_page.h"
 #include "settings/emulation/emulation_page.h"
 #include "settings/network/wireless_lan_page.h"
+#include "settings/reader/barcode_page.h"
 #include "settings/system/system_page.h"
 #include "shell/settings_page_registry_qt.h"
 
@@ -10,6 +11,7 @@ namespace veltrix {
 
 void RegisterSettingsPages(SettingsPageRegistry& registry) {
   registry.Register<SystemPage>(SheetPageId::kSystem);
+  registry.Register<BarcodePage>(SheetPageId::kBarcode);
   registry.Register<WirelessLanPage>(SheetPageId::kWirelessLan);
   registry.Register<EmulationPage>(SheetPageId::kEmulation);
   registry.Register<ScreenPage>(SheetPageId::kScreen);

@@ -29,9 +29,9 @@ struct BoxCase {
 class NumberBox : public ::testing::TestWithParam<BoxCase> {};
 
 TEST_P(NumberBox, CorrectsWhatIsTyped) {
-  const CorrectedNumber got = CorrectNumberText(GetParam().typed, *GetParam().rule);
+  const NumericEdit got = CorrectNumberText(GetParam().typed, *GetParam().rule);
   EXPECT_EQ(GetParam().value, got.value);
-  EXPECT_EQ(std::to_string(GetParam().value), got.text);
+  EXPECT_EQ(std::to_string(GetParam().value), got.rewrite.value_or(GetParam().typed));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -22,16 +22,10 @@
 #include "settings/emulation/function_keys.h"
 #include "settings/emulation/key_names.h"
 #include "settings/field_binder_qt.h"
+#include "settings/page_controls_qt.h"
 
 namespace veltrix {
 namespace {
-
-QComboBox* Combo(const char* name, std::span<const std::string_view> entries) {
-  auto* combo = new QComboBox;
-  combo->setObjectName(name);
-  for (std::string_view entry : entries) combo->addItem(QtText(entry));
-  return combo;
-}
 
 QLineEdit* Edit(const char* name, int characters, bool digits_only) {
   auto* edit = new QLineEdit;
@@ -43,33 +37,6 @@ QLineEdit* Edit(const char* name, int characters, bool digits_only) {
   return edit;
 }
 
-QButtonGroup* Radios(QWidget* owner, const char* name, std::span<const std::string_view> captions,
-                     QBoxLayout* layout) {
-  auto* group = new QButtonGroup(owner);
-  group->setObjectName(name);
-  for (std::size_t i = 0; i < captions.size(); ++i) {
-    auto* button = new QRadioButton(QtText(captions[i]));
-    button->setObjectName(QStringLiteral("%1_%2").arg(name).arg(i));
-    group->addButton(button, static_cast<int>(i));
-    layout->addWidget(button);
-  }
-  return group;
-}
-
-QCheckBox* Check(const char* name, const QString& caption) {
-  auto* box = new QCheckBox(caption);
-  box->setObjectName(name);
-  return box;
-}
-
-// A label and its control on one row of a form grid.
-void AddRow(QGridLayout* grid, int row, const QString& caption, QWidget* control) {
-  auto* label = new QLabel(caption);
-  label->setBuddy(control);
-  grid->addWidget(label, row, 0);
-  grid->addWidget(control, row, 1);
-}
-
 constexpr std::string_view kFontSizes[] = {"Small (6x8)", "Large (8x16)"};
 
 }  // namespace
@@ -79,7 +46,7 @@ EmulationPage::EmulationPage(Document& doc, QWidget* parent)
   setObjectName("EMULATION_DLG");
 
   auto* top = new QHBoxLayout;
-  auto* language = Combo("language", LanguageChoices());
+  auto* language = MakeCombo("language", LanguageChoices());
   auto* language_label = new QLabel(tr("Language:"));
   language_label->setBuddy(language);
   auto* reset = new QPushButton(tr("Reset"));
@@ -91,29 +58,29 @@ EmulationPage::EmulationPage(Document& doc, QWidget* parent)
 
   auto* font_box = new QGroupBox(tr("Font Size"));
   auto* font_layout = new QVBoxLayout(font_box);
-  Radios(this, "font_size", kFontSizes, font_layout);
+  MakeRadios(this, "font_size", kFontSizes, font_layout);
 
   auto* length_box = new QGroupBox(tr("Field Length if Exceed"));
   auto* length_layout = new QVBoxLayout(length_box);
-  Radios(this, "field_length", FieldLengthChoices(), length_layout);
+  MakeRadios(this, "field_length", FieldLengthChoices(), length_layout);
 
   auto* lock_box = new QGroupBox(tr("Lock Screen"));
   auto* lock_layout = new QGridLayout(lock_box);
-  AddRow(lock_layout, 0, tr("X"), Edit("view_org_x", 2, true));
-  AddRow(lock_layout, 1, tr("Y"), Edit("view_org_y", 2, true));
-  lock_layout->addWidget(Check("lock_screen", tr("Lock Screen")), 2, 0, 1, 2);
+  AddFormRow(lock_layout, 0, tr("X"), Edit("view_org_x", 2, true));
+  AddFormRow(lock_layout, 1, tr("Y"), Edit("view_org_y", 2, true));
+  lock_layout->addWidget(MakeCheck("lock_screen", tr("Lock Screen")), 2, 0, 1, 2);
 
   auto* scroll_box = new QGroupBox(tr("Screen Scroll && Control"));
   auto* scroll = new QGridLayout(scroll_box);
-  AddRow(scroll, 0, tr("Navigator :"), Combo("navigator", NavigatorChoices()));
-  AddRow(scroll, 1, tr("Navigator Key :"), Combo("navigator_key", KeyFieldChoices()));
-  AddRow(scroll, 2, tr("Horizontal Steps :"), Edit("horizontal_steps", 3, false));
-  AddRow(scroll, 3, tr("Vertical Steps :"), Edit("vertical_steps", 3, false));
-  scroll->addWidget(Check("cursor_tracking", tr("Cursor Tracking")), 4, 0, 1, 2);
-  scroll->addWidget(Check("trim_spaces", tr("Trim Spaces")), 5, 0, 1, 2);
-  scroll->addWidget(Check("remove_empty_line", tr("Remove Empty Line")), 6, 0, 1, 2);
+  AddFormRow(scroll, 0, tr("Navigator :"), MakeCombo("navigator", NavigatorChoices()));
+  AddFormRow(scroll, 1, tr("Navigator Key :"), MakeCombo("navigator_key", KeyFieldChoices()));
+  AddFormRow(scroll, 2, tr("Horizontal Steps :"), Edit("horizontal_steps", 3, false));
+  AddFormRow(scroll, 3, tr("Vertical Steps :"), Edit("vertical_steps", 3, false));
+  scroll->addWidget(MakeCheck("cursor_tracking", tr("Cursor Tracking")), 4, 0, 1, 2);
+  scroll->addWidget(MakeCheck("trim_spaces", tr("Trim Spaces")), 5, 0, 1, 2);
+  scroll->addWidget(MakeCheck("remove_empty_line", tr("Remove Empty Line")), 6, 0, 1, 2);
   // Kept as the terminal's page has it: present, bound, never shown.
-  QCheckBox* echo = Check("disable_local_echo", tr("Disable Local Echo"));
+  QCheckBox* echo = MakeCheck("disable_local_echo", tr("Disable Local Echo"));
   echo->setParent(scroll_box);
   echo->hide();
 
@@ -122,12 +89,12 @@ EmulationPage::EmulationPage(Document& doc, QWidget* parent)
   auto* lines = new QComboBox;
   lines->setObjectName("message_line");
   for (int n = 1; n <= 24; ++n) lines->addItem(QString::number(n));
-  AddRow(message, 0, tr("Line Number"), lines);
-  AddRow(message, 1, tr("Function Key"), Combo("message_key", KeyFieldChoices()));
-  AddRow(message, 2, tr("Time Out (Second)"), Edit("message_time_out", 3, true));
+  AddFormRow(message, 0, tr("Line Number"), lines);
+  AddFormRow(message, 1, tr("Function Key"), MakeCombo("message_key", KeyFieldChoices()));
+  AddFormRow(message, 2, tr("Time Out (Second)"), Edit("message_time_out", 3, true));
   QLineEdit* exclude = Edit("exclude_string", 19, false);
   exclude->setMaxLength(static_cast<int>(kExcludeString.width) - 1);
-  AddRow(message, 3, tr("Exclude String"), exclude);
+  AddFormRow(message, 3, tr("Exclude String"), exclude);
 
   auto* left = new QVBoxLayout;
   left->addWidget(font_box);

@@ -18,6 +18,7 @@
 #include "settings/field_binder_qt.h"
 #include "settings/grid/grid_dialog.h"
 #include "settings/network/network_choices.h"
+#include "settings/page_controls_qt.h"
 #include "settings/network/network_settings.h"
 #include "settings/rewriting_edit_qt.h"
 
@@ -29,26 +30,6 @@ QLineEdit* Edit(const char* name, int characters) {
   edit->setObjectName(name);
   edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(QString(characters, 'x')) + 12);
   return edit;
-}
-
-QCheckBox* Check(const char* name, const QString& caption) {
-  auto* box = new QCheckBox(caption);
-  box->setObjectName(name);
-  return box;
-}
-
-QComboBox* KeyCombo(const char* name) {
-  auto* combo = new QComboBox;
-  combo->setObjectName(name);
-  for (std::string_view entry : KeyFieldChoices()) combo->addItem(QtText(entry));
-  return combo;
-}
-
-void AddRow(QGridLayout* grid, int row, const QString& caption, QWidget* control, int span = 1) {
-  auto* label = new QLabel(caption);
-  label->setBuddy(control);
-  grid->addWidget(label, row, 0);
-  grid->addWidget(control, row, 1, 1, span);
 }
 
 }  // namespace
@@ -81,13 +62,13 @@ WirelessLanPage::WirelessLanPage(Document& doc, QWidget* parent)
 QWidget* WirelessLanPage::BuildIp() {
   auto* box = new QGroupBox(tr("IP"));
   auto* grid = new QGridLayout(box);
-  grid->addWidget(Check("dhcp_server", tr("Enable DHCP Server")), 0, 0, 1, 2);
-  AddRow(grid, 1, tr("Subnet Mask :"), Edit("subnet_mask", 15));
-  AddRow(grid, 2, tr("Gateway :"), Edit("gateway", 15));
-  AddRow(grid, 3, tr("DNS Server :"), Edit("dns_server", 15));
-  AddRow(grid, 4, tr("Terminal IP :"), Edit("terminal_ip", 15));
-  AddRow(grid, 5, tr("Local Name :"), Edit("local_name", 15));
-  AddRow(grid, 6, tr("SSID :"), Edit("ssid", 15));
+  grid->addWidget(MakeCheck("dhcp_server", tr("Enable DHCP Server")), 0, 0, 1, 2);
+  AddFormRow(grid, 1, tr("Subnet Mask :"), Edit("subnet_mask", 15));
+  AddFormRow(grid, 2, tr("Gateway :"), Edit("gateway", 15));
+  AddFormRow(grid, 3, tr("DNS Server :"), Edit("dns_server", 15));
+  AddFormRow(grid, 4, tr("Terminal IP :"), Edit("terminal_ip", 15));
+  AddFormRow(grid, 5, tr("Local Name :"), Edit("local_name", 15));
+  AddFormRow(grid, 6, tr("SSID :"), Edit("ssid", 15));
   grid->setRowStretch(7, 1);
   grid->setVerticalSpacing(2);
   return box;
@@ -102,10 +83,10 @@ QWidget* WirelessLanPage::BuildLogin() {
   hosts_->setEditable(true);
   hosts_->setInsertPolicy(QComboBox::NoInsert);
   hosts_->lineEdit()->setMaxLength(static_cast<int>(kHostIpOrName.width) - 1);
-  AddRow(grid, 0, tr("Host IP or Name :"), hosts_, 3);
-  AddRow(grid, 1, tr("Telnet Port :"), Edit("telnet_port", 5));
+  AddFormRow(grid, 0, tr("Host IP or Name :"), hosts_, 3);
+  AddFormRow(grid, 1, tr("Telnet Port :"), Edit("telnet_port", 5));
   auto* keep_alive = Edit("keep_alive", 3);
-  AddRow(grid, 2, tr("Keep Alive "), keep_alive);
+  AddFormRow(grid, 2, tr("Keep Alive "), keep_alive);
   grid->addWidget(new QLabel(tr("(minutes) ")), 2, 2, 1, 2);
   struct Text {
     const char* caption;
@@ -118,14 +99,14 @@ QWidget* WirelessLanPage::BuildLogin() {
                              {"Logout Command :", "logout_command", "logout_key"}};
   for (int i = 0; i < 3; ++i) {
     QLineEdit* edit = Edit(kTexts[i].edit, 10);
-    AddRow(grid, 3 + i, tr(kTexts[i].caption), edit);
-    QComboBox* key = KeyCombo(kTexts[i].key);
+    AddFormRow(grid, 3 + i, tr(kTexts[i].caption), edit);
+    QComboBox* key = MakeCombo(kTexts[i].key, KeyFieldChoices());
     auto* key_label = new QLabel(tr("Key :"));
     key_label->setBuddy(key);
     grid->addWidget(key_label, 3 + i, 2);
     grid->addWidget(key, 3 + i, 3);
   }
-  grid->addWidget(Check("auto_sign_on", tr("Auto Sign On")), 6, 0, 1, 2);
+  grid->addWidget(MakeCheck("auto_sign_on", tr("Auto Sign On")), 6, 0, 1, 2);
   grid->setColumnStretch(1, 1);
   grid->setRowStretch(7, 1);
   grid->setVerticalSpacing(2);
@@ -151,7 +132,7 @@ QWidget* WirelessLanPage::BuildLogin() {
 QWidget* WirelessLanPage::BuildSecurity() {
   auto* box = new QGroupBox(tr("Security"));
   auto* grid = new QGridLayout(box);
-  grid->addWidget(Check("eap", tr("EAP")), 0, 0);
+  grid->addWidget(MakeCheck("eap", tr("EAP")), 0, 0);
   auto* identity_label = new QLabel(tr("Identity :"));
   QLineEdit* identity = Edit("eap_id", 12);
   identity_label->setBuddy(identity);
@@ -177,7 +158,7 @@ QWidget* WirelessLanPage::BuildSecurity() {
     auth_row->addWidget(radio);
   }
   auth_row->addSpacing(16);
-  auth_row->addWidget(Check("wep", tr("WEP")));
+  auth_row->addWidget(MakeCheck("wep", tr("WEP")));
   auto* length = new QComboBox;
   length->setObjectName("wep_key_length");
   for (std::string_view entry : WepKeyLengthChoices()) length->addItem(QtText(entry));

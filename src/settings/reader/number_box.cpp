@@ -1,6 +1,7 @@
 #include "settings/reader/number_box.h"
 
 #include <cctype>
+#include <string>
 
 namespace veltrix {
 namespace {
@@ -13,7 +14,7 @@ std::string_view Trimmed(std::string_view text) {
 
 }  // namespace
 
-CorrectedNumber CorrectNumberText(std::string_view text, const NumberBoxRule& rule) {
+NumericEdit CorrectNumberText(std::string_view text, const NumberBoxRule& rule) {
   const std::string_view digits = Trimmed(text);
   std::int64_t value = rule.if_not_number;
   if (!digits.empty()) {
@@ -32,7 +33,9 @@ CorrectedNumber CorrectNumberText(std::string_view text, const NumberBoxRule& ru
       value = parsed < rule.min ? rule.if_below : (parsed > rule.max ? rule.if_above : parsed);
     }
   }
-  return CorrectedNumber{value, std::to_string(value)};
+  NumericEdit edit{static_cast<std::uint32_t>(value), std::to_string(value)};
+  if (*edit.rewrite == text) edit.rewrite.reset();
+  return edit;
 }
 
 }  // namespace veltrix

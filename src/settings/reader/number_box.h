@@ -2,8 +2,9 @@
 #define VELTRIX_SETTINGS_READER_NUMBER_BOX_H_
 
 #include <cstdint>
-#include <string>
 #include <string_view>
+
+#include "settings/numeric_edit.h"
 
 namespace veltrix {
 
@@ -28,14 +29,9 @@ inline constexpr NumberBoxRule kStartPositionBox{1, 50, 1, 1, 50};   // advanced
 inline constexpr NumberBoxRule kMaximumLengthBox{1, 50, 50, 1, 50};  // advanced box 205
 inline constexpr NumberBoxRule kVibratorBox{0, 254, 0, 0, 0};        // advanced boxes 214, 216
 
-struct CorrectedNumber {
-  std::int64_t value;
-  std::string text;  // what the box shows after the correction
-};
-
-// The value of `text` under `rule` and the text the box shows for it. A number is one or more
-// decimal digits, optionally surrounded by blanks.
-CorrectedNumber CorrectNumberText(std::string_view text, const NumberBoxRule& rule);
+// The value of `text` under `rule`, and the text the box must show instead when it is not the
+// value as typed. A number is one or more decimal digits, optionally surrounded by blanks.
+NumericEdit CorrectNumberText(std::string_view text, const NumberBoxRule& rule);
 
 }  // namespace veltrix
 

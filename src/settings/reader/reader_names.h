@@ -35,8 +35,6 @@ inline constexpr std::array<std::string_view, 2> kTelepenFormatNames{"AIM Telepe
 inline constexpr std::array<std::string_view, 3> kGoodBeepNames{"No", "One-beep", "Two-beep"};
 inline constexpr std::array<std::string_view, 2> kScanControlSummaryNames{
     "Always enable after login", "Controled by ESC command"};
-inline constexpr std::array<std::string_view, 11> kSwitchKeyNames{
-    "Disable", "FN+1", "FN+2", "FN+3", "FN+4", "FN+5", "FN+6", "FN+7", "FN+8", "FN+9", "FN+0"};
 inline constexpr std::array<std::string_view, 4> kLengthOptionNames{"Any Length", "One Length",
                                                                     "Two Lengths", "Range"};
 

@@ -32,6 +32,19 @@ inline constexpr std::array<std::string_view, 4> kTwoDList401Names{"Turn off", "
                                                                    "External", "Both"};
 inline constexpr std::array<std::string_view, 2> kTwoDList402Names{"Turn off", "Turn on"};
 
+// The labels of the "Reader Settings" group: the two lists, box 201 and its unit. The terminal
+// names them only for the linear set; the two-dimensional set's are ours.
+struct ReaderSettingLabels {
+  std::string_view first_list;
+  std::string_view second_list;
+  std::string_view box201;
+  std::string_view box201_unit;
+};
+inline constexpr ReaderSettingLabels kLinearSettingLabels{"Scan mode :", "Read redundancy :",
+                                                          "Time out :", "sec"};
+inline constexpr ReaderSettingLabels kTwoDSettingLabels{"Reader option 1 :", "Reader option 2 :",
+                                                        "Reader option 3 :", ""};
+
 // A symbology check box of the page (ids 301-327) and the dialog its "more..." button opens
 // (empty when that button is hidden).
 struct PageCheckBox {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "settings/emulation/key_names.h"
 #include "settings/key_names_text.h"
 #include "settings/reader/length_pair.h"
 #include "settings/reader/linear_fields.h"
@@ -199,7 +200,7 @@ void AppendAdvanced(const Document& doc, SummaryNode& item) {
   item.Add(Labelled("Auto Enter", Value(doc, kAutoEnter)));
   item.Add(Labelled("Good Beep", Value(doc, kGoodBeep, kGoodBeepNames)));
   item.Add(Labelled("Scan Control", Value(doc, kScanControl, kScanControlSummaryNames)));
-  item.Add(Labelled("Scan SwitchKey Name", Value(doc, kScanSwitchKeyName, kSwitchKeyNames)));
+  item.Add(Labelled("Scan SwitchKey Name", Value(doc, kScanSwitchKeyName, KeyFieldChoices())));
 }
 
 }  // namespace

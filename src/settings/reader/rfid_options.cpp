@@ -46,10 +46,10 @@ RfidEnabling RfidControlsEnabled(const RfidState& state) {
   return {state.read_data, state.use_delimiter};
 }
 
-KeyComboResult ChooseScanSwitchKey(Document& doc, int key_index) {
-  if (key_index < 0 || key_index > kScanSwitchKeyName.max) return KeyComboResult::kRefused;
-  const int old_index = static_cast<int>(ReadNumber(doc.record, kScanSwitchKeyName));
-  return ApplyFunctionKeyCombo(doc, kScanSwitchKeyName, old_index, key_index, kRoleSwitchKey);
+std::span<const FieldBinding> RfidBindings() {
+  static constexpr FieldBinding kBindings[] = {
+      {.control = "switch_key", .kind = ControlKind::kKeyCombo, .field = &kScanSwitchKeyName}};
+  return kBindings;
 }
 
 }  // namespace veltrix

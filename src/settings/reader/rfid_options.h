@@ -2,9 +2,10 @@
 #define VELTRIX_SETTINGS_READER_RFID_OPTIONS_H_
 
 #include <cstdint>
+#include <span>
 
 #include "settings/document.h"
-#include "settings/emulation/function_keys.h"
+#include "settings/field_binding.h"
 
 namespace veltrix {
 
@@ -36,9 +37,9 @@ struct RfidEnabling {
 };
 RfidEnabling RfidControlsEnabled(const RfidState& state);
 
-// Choosing an entry of the "SwitchKey" list: takes effect at once (before OK, kept on Cancel).
-// Refused, with nothing changed, when another role holds that key.
-KeyComboResult ChooseScanSwitchKey(Document& doc, int key_index);
+// The dialog's controls that write the record at once: the "SwitchKey" list, a key combo under
+// the claim rule (its choice stands before OK and stays on Cancel).
+std::span<const FieldBinding> RfidBindings();
 
 }  // namespace veltrix
 

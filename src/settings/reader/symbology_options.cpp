@@ -28,22 +28,22 @@ constexpr std::array kIndustrial25Checks{
     CheckBoxControl{301, "Verify Checksum", &kIndustrial25VerifyChecksum},
     CheckBoxControl{302, "Transmit Checksum", &kIndustrial25TransmitChecksum}};
 constexpr std::array kIndustrial25Radios{
-    ChoiceControl{601, kStartStopNames, &kIndustrial25StartStop}};
+    ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kIndustrial25StartStop}};
 constexpr std::array kInterleave25Checks{
     CheckBoxControl{301, "Verify Checksum", &kInterleave25VerifyChecksum},
     CheckBoxControl{302, "Transmit Checksum", &kInterleave25TransmitChecksum}};
 constexpr std::array kInterleave25Radios{
-    ChoiceControl{601, kStartStopNames, &kInterleave25StartStop}};
+    ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kInterleave25StartStop}};
 constexpr std::array kMatrix25Checks{
     CheckBoxControl{301, "Verify Checksum", &kMatrix25VerifyChecksum},
     CheckBoxControl{302, "Transmit Checksum", &kMatrix25TransmitChecksum}};
-constexpr std::array kMatrix25Radios{ChoiceControl{601, kStartStopNames, &kMatrix25StartStop}};
+constexpr std::array kMatrix25Radios{ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kMatrix25StartStop}};
 constexpr std::array kCodabarRadios{
-    ChoiceControl{601, kCodabarRadioTexts, &kCodabarStartStopCharacter,
+    ChoiceControl{601, "Start/Stop Character", kCodabarRadioTexts, &kCodabarStartStopCharacter,
                   ChoiceCoding::kNoneThenIndex, &kCodabarTransmitStartStop}};
 constexpr std::array kMsiRadios{
-    ChoiceControl{601, kMsiVerificationNames, &kMsiChecksumVerification},
-    ChoiceControl{604, kMsiTransmissionNames, &kMsiChecksumTransmission}};
+    ChoiceControl{601, "Checksum Verification", kMsiVerificationNames, &kMsiChecksumVerification},
+    ChoiceControl{604, "Checksum Transmission", kMsiTransmissionNames, &kMsiChecksumTransmission}};
 constexpr std::array kPlesseyChecks{
     CheckBoxControl{301, "Convert to UK Plessey", &kPlesseyConvertToUkPlessey},
     CheckBoxControl{302, "Transmit Checksum", &kPlesseyTransmitChecksum}};
@@ -61,7 +61,7 @@ constexpr std::array kEan13Checks{
     CheckBoxControl{305, "Transmit UPCA Checksum", &kUpcaTransmitChecksum},
     CheckBoxControl{306, "Convert UPCA to EAN 13", &kUpcaConvertToEan13}};
 constexpr std::array kTelepenRadios{
-    ChoiceControl{601, kTelepenRadioTexts, &kTelepenFormat, ChoiceCoding::kReversed}};
+    ChoiceControl{601, "Telepen Format", kTelepenRadioTexts, &kTelepenFormat, ChoiceCoding::kReversed}};
 constexpr std::array kRss14Checks{
     CheckBoxControl{301, "Transmit Code ID", &kRss14TransmitCodeId},
     CheckBoxControl{302, "Transmit Application ID", &kRss14TransmitApplicationId},
