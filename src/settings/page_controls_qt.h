@@ -33,8 +33,7 @@ int NumberBoxValue(const QLineEdit* edit, const NumberBoxRule& rule);
 QButtonGroup* MakeRadios(QWidget* owner, const QString& name,
                          std::span<const std::string_view> captions, QBoxLayout* layout);
 // A label and its control on one row of a form grid.
-void AddFormRow(QGridLayout* grid, int row, const QString& caption, QWidget* control,
-                int span = 1);
+void AddFormRow(QGridLayout* grid, int row, const QString& caption, QWidget* control, int span = 1);
 
 }  // namespace veltrix
 

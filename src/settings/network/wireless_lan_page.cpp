@@ -18,8 +18,8 @@
 #include "settings/field_binder_qt.h"
 #include "settings/grid/grid_dialog.h"
 #include "settings/network/network_choices.h"
-#include "settings/page_controls_qt.h"
 #include "settings/network/network_settings.h"
+#include "settings/page_controls_qt.h"
 #include "settings/rewriting_edit_qt.h"
 
 namespace veltrix {

@@ -50,9 +50,10 @@ std::vector<std::uint8_t> UpToZero(std::span<const std::uint8_t> bytes) {
 // The prefix or suffix key codes, through the grid editor's key names (at most nine).
 void AttachKeyCodes(QLineEdit* edit, std::vector<std::uint8_t>& codes) {
   edit->setText(QtText(GridDisplayText(GridMode::kKeyNames, codes)));
-  AttachGridEditor(edit, {GridMode::kKeyNames, [] { return static_cast<int>(kMaxKeyCodes); },
-                          [&codes] { return codes; },
-                          [&codes](std::span<const std::uint8_t> bytes) { codes = UpToZero(bytes); }});
+  AttachGridEditor(edit,
+                   {GridMode::kKeyNames, [] { return static_cast<int>(kMaxKeyCodes); },
+                    [&codes] { return codes; },
+                    [&codes](std::span<const std::uint8_t> bytes) { codes = UpToZero(bytes); }});
 }
 
 // A beeper sequence, shown as hexadecimal pairs of its used length (ten bytes at most).
@@ -85,6 +86,7 @@ AdvancedBarcodeDialog::AdvancedBarcodeDialog(Document& doc, QWidget* parent)
   leading_ = new QLineEdit(FromRecordText(state_.leading_code));
   leading_->setObjectName("leading_code");
   leading_->setMaxLength(static_cast<int>(kMaxLeadingCode));
+  leading_->setMinimumWidth(leading_->fontMetrics().horizontalAdvance(QString(12, 'W')));
   read_partial_ = MakeCheck("read_partial_code", tr("Read Partial Code"));
   start_ = LengthSpin("start_position", state_.start_position);
   maximum_ = LengthSpin("maximum_length", state_.maximum_length);

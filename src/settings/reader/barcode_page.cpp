@@ -30,6 +30,7 @@ constexpr int kReaderProduct = 3;
 QPushButton* MoreButton(const QString& name) {
   auto* button = new QPushButton(QObject::tr("more..."));
   button->setObjectName(name);
+  button->setFixedWidth(button->fontMetrics().horizontalAdvance(button->text()) + 14);
   // Hidden buttons keep their place, so that the columns stay aligned in both sets.
   QSizePolicy policy = button->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
@@ -134,6 +135,7 @@ QWidget* BarcodePage::BuildSymbologies() {
   auto* box = new QGroupBox(tr("Barcode && Parameters"));
   auto* grid = new QGridLayout(box);
   grid->setVerticalSpacing(2);
+  grid->setHorizontalSpacing(4);
   for (int i = 0; i < kPageCheckBoxCount; ++i) {
     checks_[i] = MakeCheck(QStringLiteral("symbology_%1").arg(i + 1), QString());
     QSizePolicy policy = checks_[i]->sizePolicy();
@@ -179,9 +181,9 @@ void BarcodePage::Fill() {
   box201_->setMaxLength(two_d ? 1 : 3);
   box201_->setText(QString::number(state.box201));
   aim_->setText(QString::number(state.box202));
-  for (QWidget* control : std::initializer_list<QWidget*>{
-           setting_labels_[0], setting_labels_[1], setting_labels_[2], setting_labels_[3],
-           first_list_, second_list_, box201_}) {
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{setting_labels_[0], setting_labels_[1], setting_labels_[2],
+                                       setting_labels_[3], first_list_, second_list_, box201_}) {
     control->setEnabled(!two_d);
   }
   for (QWidget* control : std::initializer_list<QWidget*>{aim_label_, aim_, aim_unit_}) {

@@ -25,8 +25,6 @@ inline constexpr NumberBoxRule kLinearLengthBox{1, 127, 1, 1, 127};  // linear l
 inline constexpr NumberBoxRule kTwoDLengthBox{0, 127, 0, 0, 127};    // length option family
 inline constexpr NumberBoxRule kRfidLengthBox{1, 65279, 0, 0, 0};    // "Start", "Max Len"
 inline constexpr NumberBoxRule kRfidDelayBox{1, 65279, 1, 1, 1};     // "Delay before Reread"
-inline constexpr NumberBoxRule kStartPositionBox{1, 50, 1, 1, 50};   // advanced box 204
-inline constexpr NumberBoxRule kMaximumLengthBox{1, 50, 50, 1, 50};  // advanced box 205
 inline constexpr NumberBoxRule kVibratorBox{0, 254, 0, 0, 0};        // advanced boxes 214, 216
 
 // The value of `text` under `rule`, and the text the box must show instead when it is not the

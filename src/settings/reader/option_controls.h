@@ -26,7 +26,7 @@ enum class ChoiceCoding : std::uint8_t {
 };
 
 struct ChoiceControl {
-  int id;  // the list's id, or the first radio's id (the others follow)
+  int id;                    // the list's id, or the first radio's id (the others follow)
   std::string_view caption;  // the radio group's title, or the list's label
   std::span<const std::string_view> texts;
   const FieldDef* field;

@@ -40,10 +40,10 @@ struct ReaderSettingLabels {
   std::string_view box201;
   std::string_view box201_unit;
 };
-inline constexpr ReaderSettingLabels kLinearSettingLabels{"Scan mode :", "Read redundancy :",
-                                                          "Time out :", "sec"};
-inline constexpr ReaderSettingLabels kTwoDSettingLabels{"Reader option 1 :", "Reader option 2 :",
-                                                        "Reader option 3 :", ""};
+inline constexpr ReaderSettingLabels kLinearSettingLabels{
+    "Scan mode :", "Read redundancy :", "Time out :", "sec"};
+inline constexpr ReaderSettingLabels kTwoDSettingLabels{
+    "Reader option 1 :", "Reader option 2 :", "Reader option 3 :", ""};
 
 // A symbology check box of the page (ids 301-327) and the dialog its "more..." button opens
 // (empty when that button is hidden).

@@ -42,7 +42,10 @@ QButtonGroup* RadioPair(QWidget* owner, const char* name, const QString& title,
 }  // namespace
 
 RfidDialog::RfidDialog(Document& doc, QWidget* parent)
-    : QDialog(parent), doc_(doc), state_(OpenRfidOptions(doc)), binder_(new FieldBinder(doc, this)) {
+    : QDialog(parent),
+      doc_(doc),
+      state_(OpenRfidOptions(doc)),
+      binder_(new FieldBinder(doc, this)) {
   setObjectName("RFID_PARAM_DLG");
   setWindowTitle(tr("RFID"));
 
@@ -63,6 +66,8 @@ RfidDialog::RfidDialog(Document& doc, QWidget* parent)
   grid->addWidget(use_delimiter_, 4, 0);
   grid->addWidget(delimiter_, 4, 1);
   AddFormRow(grid, 5, tr("Delay before Reread(0.1s)"), delay_);
+  grid->setRowStretch(6, 1);
+  delimiter_->setMaximumWidth(start_->maximumWidth() * 2);
 
   read_uid_->setChecked(state_.read_uid);
   read_data_->setChecked(state_.read_data);
@@ -85,11 +90,11 @@ RfidDialog::RfidDialog(Document& doc, QWidget* parent)
                                 }});
 
   auto* modes = new QVBoxLayout;
-  working_mode_ =
-      RadioPair(this, "working_mode", tr("Working Mode"), kWorkingModes, state_.working_mode, modes);
+  working_mode_ = RadioPair(this, "working_mode", tr("Working Mode"), kWorkingModes,
+                            state_.working_mode, modes);
   control_ = RadioPair(this, "control", tr("Control"), kControls, state_.control, modes);
-  reading_mode_ =
-      RadioPair(this, "reading_mode", tr("Reading Mode"), kReadingModes, state_.reading_mode, modes);
+  reading_mode_ = RadioPair(this, "reading_mode", tr("Reading Mode"), kReadingModes,
+                            state_.reading_mode, modes);
 
   auto* key_row = new QHBoxLayout;
   QComboBox* key = MakeCombo("switch_key", KeyFieldChoices());

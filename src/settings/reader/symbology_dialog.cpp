@@ -94,6 +94,7 @@ LinearOptionsDialog::LinearOptionsDialog(Document& doc, const LinearOptionDialog
       lengths_[k]->setText(QString::number(values[k]));
       BindNumberBox(lengths_[k], kLinearLengthBox, [this] { return !loading_; });
       labels_[k] = new QLabel;
+      labels_[k]->setObjectName(QStringLiteral("length_%1_label").arg(k + 1));
       labels_[k]->setBuddy(lengths_[k]);
       grid->addWidget(labels_[k], k + 1, 0);
       grid->addWidget(lengths_[k], k + 1, 1);
@@ -119,8 +120,7 @@ void LinearOptionsDialog::accept() {
   for (QCheckBox* box : checks_) state.checked.push_back(box->isChecked());
   for (QButtonGroup* group : radios_) state.chosen.push_back(group->checkedId());
   if (qualification_ != nullptr) {
-    state.length = {qualification_->checkedId() == 1,
-                    NumberBoxValue(lengths_[0], kLinearLengthBox),
+    state.length = {qualification_->checkedId() == 1, NumberBoxValue(lengths_[0], kLinearLengthBox),
                     NumberBoxValue(lengths_[1], kLinearLengthBox)};
   }
   ApplyLinearOptions(doc_, table_, state);
@@ -129,8 +129,7 @@ void LinearOptionsDialog::accept() {
 
 // ---- two-dimensional ---------------------------------------------------------------------------
 
-TwoDOptionsDialog::TwoDOptionsDialog(Document& doc, const TwoDOptionDialog& table,
-                                     QWidget* parent)
+TwoDOptionsDialog::TwoDOptionsDialog(Document& doc, const TwoDOptionDialog& table, QWidget* parent)
     : QDialog(parent), doc_(doc), table_(table) {
   setObjectName(QtText(table.template_name));
   setWindowTitle(QtText(table.caption));
@@ -162,6 +161,7 @@ TwoDOptionsDialog::TwoDOptionsDialog(Document& doc, const TwoDOptionDialog& tabl
       lengths_[k]->setText(QString::number(values[k]));
       BindNumberBox(lengths_[k], kTwoDLengthBox, [this] { return !loading_; });
       labels_[k] = new QLabel;
+      labels_[k]->setObjectName(QStringLiteral("length_%1_label").arg(k + 1));
       labels_[k]->setBuddy(lengths_[k]);
       form->addWidget(labels_[k], row, 0);
       form->addWidget(lengths_[k], row++, 1, Qt::AlignLeft);
@@ -189,8 +189,8 @@ void TwoDOptionsDialog::ShowOption(bool chosen) {
   }
   if (!chosen) return;
   const LengthBoxes boxes = BoxesAfterChoosingOption(
-      option, {NumberBoxValue(lengths_[0], kTwoDLengthBox),
-               NumberBoxValue(lengths_[1], kTwoDLengthBox)});
+      option,
+      {NumberBoxValue(lengths_[0], kTwoDLengthBox), NumberBoxValue(lengths_[1], kTwoDLengthBox)});
   lengths_[0]->setText(QString::number(boxes.first));
   lengths_[1]->setText(QString::number(boxes.second));
 }

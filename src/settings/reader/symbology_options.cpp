@@ -37,7 +37,8 @@ constexpr std::array kInterleave25Radios{
 constexpr std::array kMatrix25Checks{
     CheckBoxControl{301, "Verify Checksum", &kMatrix25VerifyChecksum},
     CheckBoxControl{302, "Transmit Checksum", &kMatrix25TransmitChecksum}};
-constexpr std::array kMatrix25Radios{ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kMatrix25StartStop}};
+constexpr std::array kMatrix25Radios{
+    ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kMatrix25StartStop}};
 constexpr std::array kCodabarRadios{
     ChoiceControl{601, "Start/Stop Character", kCodabarRadioTexts, &kCodabarStartStopCharacter,
                   ChoiceCoding::kNoneThenIndex, &kCodabarTransmitStartStop}};
@@ -60,8 +61,8 @@ constexpr std::array kEan13Checks{
     CheckBoxControl{304, "Transmit UPCA System Number", &kUpcaTransmitSystemNumber},
     CheckBoxControl{305, "Transmit UPCA Checksum", &kUpcaTransmitChecksum},
     CheckBoxControl{306, "Convert UPCA to EAN 13", &kUpcaConvertToEan13}};
-constexpr std::array kTelepenRadios{
-    ChoiceControl{601, "Telepen Format", kTelepenRadioTexts, &kTelepenFormat, ChoiceCoding::kReversed}};
+constexpr std::array kTelepenRadios{ChoiceControl{601, "Telepen Format", kTelepenRadioTexts,
+                                                  &kTelepenFormat, ChoiceCoding::kReversed}};
 constexpr std::array kRss14Checks{
     CheckBoxControl{301, "Transmit Code ID", &kRss14TransmitCodeId},
     CheckBoxControl{302, "Transmit Application ID", &kRss14TransmitApplicationId},

@@ -21,23 +21,27 @@ constexpr std::array<std::string_view, 2> kMsiCheckDigitNames{"One Check Digit",
 constexpr std::array kUpcaChecks{
     CheckBoxControl{301, "Transmit Checksum", &kTwoDUpcaTransmitChecksum},
     CheckBoxControl{302, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
-constexpr std::array kUpcaLists{ChoiceControl{401, "UPCA Preamble :", kPreambleNames, &kTwoDUpcaPreamble},
-                                ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kUpcaLists{
+    ChoiceControl{401, "UPCA Preamble :", kPreambleNames, &kTwoDUpcaPreamble},
+    ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kUpceChecks{
     CheckBoxControl{301, "Transmit Checksum", &kTwoDUpceTransmitChecksum},
     CheckBoxControl{302, "Convert UPCE to UPCA", &kTwoDConvertUpceToUpca},
     CheckBoxControl{303, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
-constexpr std::array kUpceLists{ChoiceControl{401, "UPCE Preamble :", kPreambleNames, &kTwoDUpcePreamble},
-                                ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kUpceLists{
+    ChoiceControl{401, "UPCE Preamble :", kPreambleNames, &kTwoDUpcePreamble},
+    ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kUpce1Checks{
     CheckBoxControl{301, "Transmit Checksum", &kTwoDUpce1TransmitChecksum},
     CheckBoxControl{302, "Convert UPCE-1 to UPCA", &kTwoDConvertUpce1ToUpca},
     CheckBoxControl{303, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
-constexpr std::array kUpce1Lists{ChoiceControl{401, "UPCE-1 Preamble :", kPreambleNames, &kTwoDUpce1Preamble},
-                                 ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kUpce1Lists{
+    ChoiceControl{401, "UPCE-1 Preamble :", kPreambleNames, &kTwoDUpce1Preamble},
+    ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kEan8Checks{
     CheckBoxControl{301, "Convert EAN8 to EAN13", &kTwoDConvertEan8ToEan13}};
-constexpr std::array kEan8Lists{ChoiceControl{401, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+constexpr std::array kEan8Lists{
+    ChoiceControl{401, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kCode39Checks{
     CheckBoxControl{303, "Verify Checksum", &kTwoDCode39VerifyChecksum},
     CheckBoxControl{304, "Transmit Checksum", &kTwoDCode39TransmitChecksum},
@@ -48,15 +52,16 @@ constexpr std::array kCode11Checks{
 constexpr std::array kInterleave25Checks{
     CheckBoxControl{302, "Transmit Checksum", &kTwoDInterleave25TransmitChecksum},
     CheckBoxControl{303, "Convert Interleaved 25 to EAN13", &kTwoDConvertInterleave25ToEan13}};
-constexpr std::array kInterleave25Lists{
-    ChoiceControl{402, "Verify check digit :", kVerifyCheckDigitNames, &kTwoDInterleave25VerifyCheckDigit,
-                  ChoiceCoding::kOneOfTwoBits, &kTwoDInterleave25VerifyCheckDigitOpcc}};
+constexpr std::array kInterleave25Lists{ChoiceControl{
+    402, "Verify check digit :", kVerifyCheckDigitNames, &kTwoDInterleave25VerifyCheckDigit,
+    ChoiceCoding::kOneOfTwoBits, &kTwoDInterleave25VerifyCheckDigitOpcc}};
 constexpr std::array kCodabarChecks{
     CheckBoxControl{302, "NOTIS Editing", &kTwoDCodabarNotisEditing}};
 constexpr std::array kMsiChecks{
     CheckBoxControl{301, "Transmit Checksum", &kTwoDMsiTransmitChecksum}};
-constexpr std::array kMsiLists{ChoiceControl{402, "Check Algorithm :", kMsiAlgorithmNames, &kTwoDMsiCheckAlgorithm},
-                               ChoiceControl{403, "Check Digits :", kMsiCheckDigitNames, &kTwoDMsiCheckDigits}};
+constexpr std::array kMsiLists{
+    ChoiceControl{402, "Check Algorithm :", kMsiAlgorithmNames, &kTwoDMsiCheckAlgorithm},
+    ChoiceControl{403, "Check Digits :", kMsiCheckDigitNames, &kTwoDMsiCheckDigits}};
 constexpr std::array kPostalChecks{
     CheckBoxControl{301, "US Postnet", &kTwoDUsPostnet},
     CheckBoxControl{302, "US Planet", &kTwoDUsPlanet},

@@ -1,0 +1,396 @@
+// The "Barcode" page and every dialog it opens, driven as a user does.
+#include "settings/reader/barcode_page.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QtTest>
+#include <memory>
+
+#include "settings/document.h"
+#include "settings/emulation/function_keys.h"
+#include "settings/grid/grid_dialog.h"
+#include "settings/reader/linear_fields.h"
+#include "settings/reader/reader_record_fields.h"
+#include "settings/reader/reader_settings.h"
+#include "settings/reader/rfid_dialog.h"
+#include "settings/reader/symbology_dialog.h"
+#include "settings/reader/two_d_fields.h"
+#include "settings/reader/working_block.h"
+#include "shell/settings_page_registry_qt.h"
+#include "shell/settings_sheet_dialog.h"
+#include "support/modal.h"
+#include "support/page_test.h"
+
+using namespace veltrix;
+
+namespace {
+
+void Close(QDialog* dialog, bool ok) {
+  auto* buttons = dialog->findChild<QDialogButtonBox*>();
+  buttons->button(ok ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)->click();
+}
+
+void Save(QWidget* widget, const QString& name) {
+  widget->show();
+  QVERIFY(QTest::qWaitForWindowExposed(widget));
+  QVERIFY(widget->grab().save(QDir(VELTRIX_BINARY_DIR).filePath(name + ".png")));
+}
+
+bool SameReader(const Document& a, const Document& b) {
+  return a.record == b.record && a.reader_block1 == b.reader_block1 &&
+         a.reader_block2 == b.reader_block2;
+}
+
+// Toggles every check box of a symbology dialog; returns the state the controls then hold.
+template <typename State>
+State ToggleChecks(QWidget* dialog, std::span<const CheckBoxControl> checks, State state) {
+  for (std::size_t i = 0; i < checks.size(); ++i) {
+    testing::FindControl<QCheckBox>(dialog, ControlName(checks[i].text))->click();
+    state.checked[i] = !state.checked[i];
+  }
+  return state;
+}
+
+}  // namespace
+
+class BarcodePageTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    doc_ = std::make_unique<Document>();
+    SetDefaults(*doc_, 1);
+  }
+  void cleanup() {
+    page_.reset();
+    doc_.reset();
+  }
+
+  // Every linear dialog: each control changed, OK stores exactly what the core stores for those
+  // controls; Cancel leaves the working block as opening left it.
+  void linearDialogs_data() {
+    QTest::addColumn<int>("index");
+    QTest::addColumn<bool>("ok");
+    for (int i = 0; i < static_cast<int>(LinearOptionDialogs().size()); ++i) {
+      for (bool ok : {true, false}) {
+        QTest::newRow(qPrintable(QtName(LinearOptionDialogs()[i].template_name, ok))) << i << ok;
+      }
+    }
+  }
+  void linearDialogs() {
+    QFETCH(int, index);
+    QFETCH(bool, ok);
+    const LinearOptionDialog& table = LinearOptionDialogs()[index];
+    auto expected = std::make_unique<Document>(*doc_);
+    LinearOptionsDialog dialog(*doc_, table);
+    LinearOptionState state = ToggleChecks(&dialog, table.checks, OpenLinearOptions(*doc_, table));
+    for (std::size_t g = 0; g < table.radios.size(); ++g) {
+      const int next = (state.chosen[g] + 1) % static_cast<int>(table.radios[g].texts.size());
+      testing::FindControl<QAbstractButton>(
+          &dialog, QStringLiteral("%1_%2").arg(ControlName(table.radios[g].caption)).arg(next))
+          ->click();
+      state.chosen[g] = next;
+    }
+    if (table.length != nullptr) {
+      testing::FindControl<QAbstractButton>(&dialog, "length_qualification_1")->click();
+      QCOMPARE(testing::FindControl<QLabel>(&dialog, "length_1_label")->text(),
+               QString("Max Length :"));
+      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "length_1"), "20");
+      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "length_2"), "40");
+      state.length = {true, 20, 40};
+    }
+    if (index == 3) Save(&dialog, "symbology_dialog_linear");
+    Close(&dialog, ok);
+    if (ok) ApplyLinearOptions(*expected, table, state);
+    QVERIFY(SameReader(*doc_, *expected));
+  }
+
+  // Every two-dimensional dialog, the same way; the length option goes to "Two Lengths" with 6 and
+  // 10, which stores the larger first.
+  void twoDDialogs_data() {
+    QTest::addColumn<int>("index");
+    QTest::addColumn<bool>("ok");
+    for (int i = 0; i < static_cast<int>(TwoDOptionDialogs().size()); ++i) {
+      for (bool ok : {true, false}) {
+        QTest::newRow(qPrintable(QtName(TwoDOptionDialogs()[i].template_name, ok))) << i << ok;
+      }
+    }
+  }
+  void twoDDialogs() {
+    QFETCH(int, index);
+    QFETCH(bool, ok);
+    const TwoDOptionDialog& table = TwoDOptionDialogs()[index];
+    auto expected = std::make_unique<Document>(*doc_);
+    TwoDOptionState state =
+        ToggleChecks(&TwoDDialog(table), table.checks, OpenTwoDOptions(*expected, table));
+    for (std::size_t l = 0; l < table.lists.size(); ++l) {
+      const int next = (state.chosen[l] + 1) % static_cast<int>(table.lists[l].texts.size());
+      testing::FindControl<QComboBox>(dialog_.get(), ControlName(table.lists[l].caption))
+          ->setCurrentIndex(next);
+      state.chosen[l] = next;
+    }
+    if (table.length_option != nullptr) {
+      testing::FindControl<QComboBox>(dialog_.get(), "length_option")->setCurrentIndex(2);
+      QCOMPARE(testing::FindControl<QLineEdit>(dialog_.get(), "length_2")->text(), QString("0"));
+      testing::TypeInto(testing::FindControl<QLineEdit>(dialog_.get(), "length_1"), "6");
+      testing::TypeInto(testing::FindControl<QLineEdit>(dialog_.get(), "length_2"), "10");
+      state.option = kTwoLengths;
+      state.lengths = {6, 10};
+    }
+    if (index == 0) Save(dialog_.get(), "symbology_dialog_upc");
+    if (index == 4) Save(dialog_.get(), "symbology_dialog_length_option");
+    Close(dialog_.get(), ok);
+    if (ok) ApplyTwoDOptions(*expected, table, state);
+    QVERIFY(SameReader(*doc_, *expected));
+    if (ok && table.length_option != nullptr) {
+      QCOMPARE(ReadWorking(*doc_, *table.length1), 10u);
+      QCOMPARE(ReadWorking(*doc_, *table.length2), 6u);
+    }
+  }
+
+  void timeOutIsCorrectedAsTypedAndStoredOnApply_data() { testing::AddNumberEditRows("barcode"); }
+  void timeOutIsCorrectedAsTypedAndStoredOnApply() {
+    QFETCH(QString, edit);
+    QFETCH(QString, typed);
+    Open(1);
+    testing::TypeInto(Find<QLineEdit>(edit), typed);
+    QTEST(Find<QLineEdit>(edit)->text(), "shown");
+    page_->Apply(*doc_);
+    QTEST(int(ReadNumber(doc_->record, kTimeOut)), "stored");
+  }
+
+  // The linear set as a new document shows it; EAN128 unchecked stores 2; Reset to Default puts
+  // back the defaults and the page shows them.
+  void linearSet() {
+    Open(1);
+    QVERIFY(!Find<QComboBox>("barcode_reader")->isEnabled());
+    QVERIFY(!Find<QPushButton>("rfid_more")->isEnabled());
+    QCOMPARE(Find<QComboBox>("scan_mode")->currentText(), QString("Laser"));
+    QCOMPARE(Find<QCheckBox>("symbology_25")->text(), QString("EAN128"));
+    QVERIFY(Find<QCheckBox>("symbology_25")->isChecked());
+    QVERIFY(Find<QCheckBox>("symbology_27")->isHidden());
+    QVERIFY(Find<QPushButton>("more_25")->isVisibleTo(page_.get()));
+    QVERIFY(Find<QPushButton>("more_11")->isHidden());
+    QVERIFY(!Find<QLineEdit>("aim_duration")->isEnabled());
+    Save(page_.get(), "barcode_page_linear");
+
+    Find<QCheckBox>("symbology_25")->click();
+    Find<QCheckBox>("symbology_1")->click();
+    Find<QComboBox>("scan_mode")->setCurrentIndex(1);
+    page_->Apply(*doc_);
+    QCOMPARE(int(doc_->record[3712] >> 6), 2);
+    QCOMPARE(int(doc_->record[3690] & 0x80), 0);
+    QCOMPARE(int(ReadNumber(doc_->record, kScanMode)), 1);
+
+    Find<QPushButton>("reset_to_default")->click();
+    QCOMPARE(QByteArray(reinterpret_cast<const char*>(&doc_->record[3690]), 4).toHex(),
+             QByteArray("9bc9003f"));
+    QCOMPARE(QByteArray(reinterpret_cast<const char*>(&doc_->record[3710]), 3).toHex(),
+             QByteArray("660303"));
+    QVERIFY(Find<QCheckBox>("symbology_1")->isChecked());
+    QCOMPARE(Find<QComboBox>("scan_mode")->currentText(), QString("Laser"));
+  }
+
+  // Product 3 may choose the reader: the record takes it at once and the page relabels; the long
+  // range laser disables the 2D-only symbologies and applying clears them.
+  void readerChangeRelabelsAndRefills() {
+    doc_->record[kProductOffset] = 3;
+    Open(3);
+    Find<QComboBox>("barcode_reader")->setCurrentIndex(1);
+    QCOMPARE(int(doc_->record[kReaderType.offset] & 0x05), 1);
+    QCOMPARE(Find<QCheckBox>("symbology_1")->text(), QString("UPC-A"));
+    QVERIFY(Find<QCheckBox>("symbology_27")->isVisibleTo(page_.get()));
+    QVERIFY(!Find<QComboBox>("scan_mode")->isEnabled());
+    QCOMPARE(Find<QComboBox>("scan_mode")->currentText(), QString("Internal"));
+    Save(page_.get(), "barcode_page_two_d");
+    Find<QCheckBox>("symbology_5")->click();  // EAN13 off: Bookland EAN follows
+    QVERIFY(!Find<QCheckBox>("symbology_6")->isEnabled());
+    Find<QCheckBox>("symbology_5")->click();
+    QVERIFY(Find<QCheckBox>("symbology_6")->isEnabled());
+
+    Find<QComboBox>("barcode_reader")->setCurrentIndex(2);
+    QCOMPARE(int(doc_->record[kReaderType.offset] & 0x05), 4);
+    QVERIFY(!Find<QCheckBox>("symbology_13")->isEnabled());
+    QVERIFY(!Find<QPushButton>("more_13")->isEnabled());
+    QVERIFY(Find<QLineEdit>("aim_duration")->isEnabled());
+    testing::TypeInto(Find<QLineEdit>("aim_duration"), "300");
+    QCOMPARE(Find<QLineEdit>("aim_duration")->text(), QString("255"));
+    Find<QCheckBox>("rfid_reader")->click();
+    page_->Apply(*doc_);
+    QCOMPARE(ReadWorking(*doc_, kTwoDCode11), 0u);
+    QCOMPARE(ReadNumber(doc_->record, kTwoDPdf417), 0u);  // the working block reached the record
+    QCOMPARE(ReadNumber(doc_->record, kAimDuration), 255u);
+    QCOMPARE(ReadNumber(doc_->record, kRfidReader), 1u);
+  }
+
+  // "RFID": every control changed; the switch key is claimed at once and refused while another
+  // role holds it; OK writes the record, Cancel keeps only the switch key.
+  void rfidDialog() {
+    doc_->record[kProductOffset] = 3;
+    ClaimFunctionKey(*doc_, 3, kRoleNameKey);
+    for (bool ok : {false, true}) {
+      auto before = std::make_unique<Document>(*doc_);
+      RfidDialog dialog(*doc_);
+      auto* key = testing::FindControl<QComboBox>(&dialog, "switch_key");
+      QString refusal;
+      testing::AnswerMessageBox(&refusal);
+      key->setCurrentIndex(3);
+      QTRY_COMPARE(refusal,
+                   QString("Function Key Mapping: The function key is defined already !!"));
+      QCOMPARE(key->currentIndex(), ok ? 5 : 0);  // what the record held
+      key->setCurrentIndex(5);
+      QCOMPARE(ReadNumber(doc_->record, kScanSwitchKeyName), 5u);
+
+      QVERIFY(!testing::FindControl<QLineEdit>(&dialog, "max_len")->isEnabled());
+      testing::FindControl<QCheckBox>(&dialog, "read_uid")->click();
+      testing::FindControl<QCheckBox>(&dialog, "read_data")->click();
+      testing::FindControl<QCheckBox>(&dialog, "use_delimiter")->click();
+      QCOMPARE(testing::FindControl<QLineEdit>(&dialog, "delimiter")->text(), QString(","));
+      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "start"), "12");
+      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "max_len"), "70000");
+      QCOMPARE(testing::FindControl<QLineEdit>(&dialog, "max_len")->text(), QString("0"));
+      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "max_len"), "300");
+      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "delay_before_reread"), "0");
+      for (const char* radio : {"working_mode_0", "control_1", "reading_mode_0"}) {
+        testing::FindControl<QAbstractButton>(&dialog, radio)->click();
+      }
+      if (ok) Save(&dialog, "rfid_dialog");
+      Close(&dialog, ok);
+      WriteNumber(before->record, kScanSwitchKeyName, 5);
+      ClaimFunctionKey(*before, 5, kRoleSwitchKey);
+      if (!ok) {
+        QVERIFY(SameReader(*doc_, *before));
+        continue;
+      }
+      const QByteArray rfid(reinterpret_cast<const char*>(&doc_->record[kRfidReadUid.offset]), 13);
+      QCOMPARE(rfid.toHex(' '), QByteArray("00 01 01 00 0c 01 2c 2c 00 01 00 00 01"));
+    }
+  }
+
+  // "Advanced Barcode Settings": every control changed; prefix and beeper through the grid
+  // editor; OK writes the record, Cancel nothing.
+  void advancedSettings() {
+    for (bool ok : {false, true}) {
+      auto before = std::make_unique<Document>(*doc_);
+      Open(1);
+      std::vector<std::uint8_t> picked;
+      testing::WhenModal([&](QWidget* w) {
+        auto* prefix = testing::FindControl<QLineEdit>(w, "prefix_code");
+        QVERIFY(!prefix->isEnabled());
+        QVERIFY(!testing::FindControl<QLineEdit>(w, "vibrator_time")->isEnabled());
+        testing::FindControl<QCheckBox>(w, "check_leading_code")->click();
+        testing::TypeInto(testing::FindControl<QLineEdit>(w, "leading_code"), "ABCDEFGHIJK");
+        testing::FindControl<QCheckBox>(w, "read_partial_code")->click();
+        testing::FindControl<QSpinBox>(w, "maximum_length")->setValue(10);
+        testing::FindControl<QSpinBox>(w, "start_position")->setValue(30);
+        testing::FindControl<QCheckBox>(w, "add_prefix_code")->click();
+        testing::FindControl<QCheckBox>(w, "add_suffix_code")->click();
+        testing::FindControl<QAbstractButton>(w, "scan_control_1")->click();
+        for (QLineEdit* edit :
+             {prefix, testing::FindControl<QLineEdit>(w, "alarm_beeper_sequence")}) {
+          testing::WhenModal(
+              [&](QWidget* grid) {
+                QWidget* chart = grid->findChild<QWidget*>("grid_chart");
+                QTest::keyClick(chart, Qt::Key_Right);
+                QTest::keyClick(chart, Qt::Key_Return);
+                picked = qobject_cast<GridDialog*>(grid)->editor().Result();
+                qobject_cast<QDialog*>(grid)->accept();
+              },
+              w);
+          QTest::mouseClick(edit, Qt::LeftButton);
+        }
+        if (ok) Save(w, "advanced_barcode_settings");
+        Close(qobject_cast<QDialog*>(w), ok);
+      });
+      Find<QPushButton>("code_id")->click();
+      if (!ok) {
+        QVERIFY(SameReader(*doc_, *before));
+        continue;
+      }
+      QCOMPARE(QString::fromLatin1(ReadText(doc_->record, kLeadingCode)), QString("ABCDEFGHI"));
+      QCOMPARE(ReadNumber(doc_->record, kCheckLeadingCode), 1u);
+      QCOMPARE(ReadNumber(doc_->record, kMaximumLength), 10u);
+      QCOMPARE(ReadNumber(doc_->record, kStartPosition), 10u);  // limited to the maximum
+      QCOMPARE(ReadNumber(doc_->record, kScanControl), 1u);
+      QCOMPARE(ReadNumber(doc_->record, kAddSuffixCode), 1u);
+      // The alarm sequence holds the picked bytes; the prefix the key names picked before.
+      const auto alarm =
+          FieldBytes(std::span<const std::uint8_t>(doc_->record), kAlarmBeeperSequence);
+      QVERIFY(std::equal(picked.begin(), picked.end(), alarm.begin()));
+      QVERIFY(doc_->record[kPrefixCode.offset] != 0);
+    }
+  }
+
+  // Inside the sheet the page keeps no snapshot: Cancel keeps the reader chosen and what the
+  // "more..." dialogs changed, which reaches the record (and the summary) at the next OK.
+  void insideTheSheet() {
+    doc_->record[kProductOffset] = 3;
+    {
+      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+      sheet.tabs()->setCurrentIndex(1);
+      QWidget* page = sheet.page(1);
+      testing::FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(1);
+      testing::FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(0);
+      testing::WhenModal([](QWidget* w) {
+        testing::FindControl<QCheckBox>(w, "verify_checksum")->click();
+        Close(qobject_cast<QDialog*>(w), true);
+      });
+      testing::FindControl<QPushButton>(page, "more_1")->click();
+      testing::FindControl<QCheckBox>(page, "symbology_2")->click();
+      sheet.reject();
+    }
+    QCOMPARE(int(doc_->record[kReaderType.offset]), 0);
+    QCOMPARE(ReadWorking(*doc_, kCode39VerifyChecksum), 1u);
+    QCOMPARE(ReadNumber(doc_->record, kCode39VerifyChecksum), 0u);
+    QCOMPARE(ReadNumber(doc_->record, kItalianPharmacode), 0u);  // the page's own mark is lost
+    QVERIFY(!doc_->modified);
+
+    SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
+    sheet.tabs()->setCurrentIndex(1);
+    Save(&sheet, "barcode_page_sheet");
+    sheet.accept();
+    QCOMPARE(ReadNumber(doc_->record, kCode39VerifyChecksum), 1u);
+    SummaryNode bardode;
+    AppendReaderSummary(*doc_, bardode);
+    QVERIFY(Contains(bardode, "Verify Checksum : Enable"));
+  }
+
+ private:
+  static bool Contains(const SummaryNode& node, const std::string& line) {
+    if (node.text == line) return true;
+    return std::ranges::any_of(node.children, [&](const auto& c) { return Contains(c, line); });
+  }
+  static QString QtName(std::string_view name, bool ok) {
+    return QString::fromLatin1(name.data(), static_cast<int>(name.size())) +
+           (ok ? " OK" : " Cancel");
+  }
+  void Open(int product) {
+    doc_->record[kProductOffset] = static_cast<std::uint8_t>(product);
+    page_ = std::make_unique<BarcodePage>(*doc_);
+    page_->Initialise(*doc_);
+  }
+  TwoDOptionsDialog& TwoDDialog(const TwoDOptionDialog& table) {
+    dialog_ = std::make_unique<TwoDOptionsDialog>(*doc_, table);
+    return *dialog_;
+  }
+  template <typename T>
+  T* Find(const QString& name) {
+    return testing::FindControl<T>(page_.get(), name);
+  }
+
+  std::unique_ptr<Document> doc_;
+  std::unique_ptr<BarcodePage> page_;
+  std::unique_ptr<TwoDOptionsDialog> dialog_;
+};
+
+QTEST_MAIN(BarcodePageTest)
+#include "barcode_page_test.moc"
