@@ -79,7 +79,7 @@ TEST(ReaderPageState, DefaultsOfEachSet) {
     std::uint8_t reader_type;
     int reader;
     bool rfid;
-    int list401, list402, box201;
+    int first_list, second_list, number;
     std::vector<int> on;  // check boxes ticked, 301-327
   } kCases[] = {
       // 9B C9: Code 39, Industrial, Interleave, Codabar, MSI off ... ; EAN128 checked while
@@ -100,9 +100,9 @@ TEST(ReaderPageState, DefaultsOfEachSet) {
     const ReaderPageState state = FillReaderPageState(*doc);
     EXPECT_EQ(c.reader, state.reader);
     EXPECT_EQ(c.rfid, state.rfid);
-    EXPECT_EQ(c.list401, state.list401);
-    EXPECT_EQ(c.list402, state.list402);
-    EXPECT_EQ(c.box201, state.box201);
+    EXPECT_EQ(c.first_list, state.first_list);
+    EXPECT_EQ(c.second_list, state.second_list);
+    EXPECT_EQ(c.number, state.number);
     for (int id = 301; id <= 327; ++id) {
       const bool want = std::find(c.on.begin(), c.on.end(), id) != c.on.end();
       EXPECT_EQ(want, state.checked[id - 301]) << int{c.reader_type} << " " << id;
@@ -140,9 +140,9 @@ TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
   ReaderPageState state = FillReaderPageState(*doc);
   state.checked[325 - 301] = false;
   state.checked[326 - 301] = true;
-  state.list401 = 1;
-  state.list402 = 2;
-  state.box201 = 10;
+  state.first_list = 1;
+  state.second_list = 2;
+  state.number = 10;
   state.checked[301 - 301] = false;
   state.checked[324 - 301] = false;
   ApplyReaderPage(*doc, state);
@@ -165,9 +165,9 @@ TEST(ReaderPageApply, LongRangeLaserClearsTheTwoDReaderOnlySymbologies) {
   ReaderPageState state = FillReaderPageState(*doc);
   state.reader = kLongRangeLaser;
   state.checked.fill(true);
-  state.box201 = 0x1F;  // low four bits only
-  state.box202 = 200;
-  state.list401 = 0;  // not stored for this reader
+  state.number = 0x1F;  // low four bits only
+  state.aim_duration = 200;
+  state.first_list = 0;  // not stored for this reader
   ApplyReaderPage(*doc, state);
   EXPECT_EQ(0x04, doc->record[kReaderType.offset]);
   EXPECT_EQ(0xFC, doc->record[58659]);
@@ -185,10 +185,10 @@ TEST(ReaderPageApply, TwoDReaderStoresListsBoxAndAllEnableBits) {
   state.reader = kTwoDReader;
   state.rfid = true;
   state.checked.fill(true);
-  state.list401 = 3;
-  state.list402 = 0;
-  state.box201 = 4;
-  state.box202 = 99;  // not stored for this reader
+  state.first_list = 3;
+  state.second_list = 0;
+  state.number = 4;
+  state.aim_duration = 99;  // not stored for this reader
   ApplyReaderPage(*doc, state);
   EXPECT_EQ(0x03, doc->record[kReaderType.offset]);
   EXPECT_EQ(0xFC, doc->record[58659]);

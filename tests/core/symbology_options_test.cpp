@@ -6,6 +6,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "default_document.h"
 #include "settings/reader/length_pair.h"
@@ -106,23 +107,17 @@ TEST(LengthPair, UnpacksAndLabels) {
 TEST(LinearOptionDialogs, BindOnlyLinearFieldsWithDistinctControls) {
   EXPECT_EQ(17u, LinearOptionDialogs().size());
   for (const LinearOptionDialog& dialog : LinearOptionDialogs()) {
-    std::set<int> ids;
+    std::set<std::string_view> names;  // the controls are named after their captions
     for (const CheckBoxControl& check : dialog.checks) {
       EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*check.field)) << dialog.template_name;
       EXPECT_EQ(1, check.field->bit_count) << check.field->name;
-      EXPECT_TRUE(ids.insert(check.id).second) << dialog.template_name << " " << check.id;
+      EXPECT_TRUE(names.insert(check.text).second) << dialog.template_name << " " << check.text;
     }
     for (const ChoiceControl& group : dialog.radios) {
       EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*group.field)) << dialog.template_name;
-      for (std::size_t i = 0; i < group.texts.size(); ++i) {
-        EXPECT_TRUE(ids.insert(group.id + static_cast<int>(i)).second) << dialog.template_name;
-      }
+      EXPECT_TRUE(names.insert(group.caption).second) << dialog.template_name;
     }
-    if (dialog.length != nullptr) {
-      EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*dialog.length));
-      EXPECT_TRUE(ids.insert(dialog.length_radio_id).second) << dialog.template_name;
-      EXPECT_TRUE(ids.insert(dialog.length_radio_id + 1).second) << dialog.template_name;
-    }
+    if (dialog.length != nullptr) EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*dialog.length));
     EXPECT_EQ(&dialog, FindLinearOptionDialog(dialog.template_name));
   }
   EXPECT_EQ(nullptr, FindLinearOptionDialog("NoSuchDlg"));

@@ -88,12 +88,12 @@ QWidget* BarcodePage::BuildSettings() {
   first_list_->setObjectName("scan_mode");
   second_list_ = new QComboBox;
   second_list_->setObjectName("read_redundancy");
-  box201_ = MakeNumberEdit("time_out", 3);
+  number_ = MakeNumberEdit("time_out", 3);
   aim_ = MakeNumberEdit("aim_duration", 3);
   for (QLabel*& label : setting_labels_) label = new QLabel;
   setting_labels_[0]->setBuddy(first_list_);
   setting_labels_[1]->setBuddy(second_list_);
-  setting_labels_[2]->setBuddy(box201_);
+  setting_labels_[2]->setBuddy(number_);
   aim_label_ = new QLabel(tr("AIM Duration :"));
   aim_label_->setBuddy(aim_);
   aim_unit_ = new QLabel(tr("sec"));
@@ -102,18 +102,18 @@ QWidget* BarcodePage::BuildSettings() {
   grid->addWidget(setting_labels_[1], 1, 0);
   grid->addWidget(second_list_, 1, 1, 1, 2);
   grid->addWidget(setting_labels_[2], 2, 0);
-  grid->addWidget(box201_, 2, 1);
+  grid->addWidget(number_, 2, 1);
   grid->addWidget(setting_labels_[3], 2, 2);
   grid->addWidget(aim_label_, 3, 0);
   grid->addWidget(aim_, 3, 1);
   grid->addWidget(aim_unit_, 3, 2);
   grid->setColumnStretch(2, 1);
-  BindNumberBox(box201_, kTimeOutBox, [this] { return !loading_; });
+  BindNumberBox(number_, kTimeOutBox, [this] { return !loading_; });
   BindNumberBox(aim_, kAimDurationBox, [this] { return !loading_; });
 
   auto* code_id = new QPushButton(tr("Code ID"));
   code_id->setObjectName("code_id");
-  auto* reset = new QPushButton(tr("Reset to Default"));
+  auto* reset = new QPushButton(tr("Reset to default"));
   reset->setObjectName("reset_to_default");
   auto* buttons = new QVBoxLayout;
   buttons->addWidget(code_id);
@@ -165,25 +165,25 @@ void BarcodePage::Fill() {
   const ReaderPageState state = FillReaderPageState(doc());
   const bool two_d = state.reader != kLaserCcdReader;
   const ReaderSettingLabels& labels = two_d ? kTwoDSettingLabels : kLinearSettingLabels;
-  const std::string_view texts[] = {labels.first_list, labels.second_list, labels.box201,
-                                    labels.box201_unit};
+  const std::string_view texts[] = {labels.first_list, labels.second_list, labels.number,
+                                    labels.number_unit};
   for (std::size_t k = 0; k < setting_labels_.size(); ++k) {
     setting_labels_[k]->setText(QtText(texts[k]));
   }
   reader_->setCurrentIndex(state.reader);
   if (two_d) {
-    Refill(first_list_, kTwoDList401Names, state.list401);
-    Refill(second_list_, kTwoDList402Names, state.list402);
+    Refill(first_list_, kTwoDList401Names, state.first_list);
+    Refill(second_list_, kTwoDList402Names, state.second_list);
   } else {
-    Refill(first_list_, kScanModeNames, state.list401);
-    Refill(second_list_, kReadRedundancyNames, state.list402);
+    Refill(first_list_, kScanModeNames, state.first_list);
+    Refill(second_list_, kReadRedundancyNames, state.second_list);
   }
-  box201_->setMaxLength(two_d ? 1 : 3);
-  box201_->setText(QString::number(state.box201));
-  aim_->setText(QString::number(state.box202));
+  number_->setMaxLength(two_d ? 1 : 3);
+  number_->setText(QString::number(state.number));
+  aim_->setText(QString::number(state.aim_duration));
   for (QWidget* control :
        std::initializer_list<QWidget*>{setting_labels_[0], setting_labels_[1], setting_labels_[2],
-                                       setting_labels_[3], first_list_, second_list_, box201_}) {
+                                       setting_labels_[3], first_list_, second_list_, number_}) {
     control->setEnabled(!two_d);
   }
   for (QWidget* control : std::initializer_list<QWidget*>{aim_label_, aim_, aim_unit_}) {
@@ -217,11 +217,11 @@ ReaderPageState BarcodePage::Controls() const {
   ReaderPageState state;
   state.reader = std::max(reader_->currentIndex(), 0);
   state.rfid = rfid_->isChecked();
-  state.list401 = std::max(first_list_->currentIndex(), 0);
-  state.list402 = std::max(second_list_->currentIndex(), 0);
+  state.first_list = std::max(first_list_->currentIndex(), 0);
+  state.second_list = std::max(second_list_->currentIndex(), 0);
   // What the boxes show: they were corrected as they were typed.
-  state.box201 = box201_->text().toInt();
-  state.box202 = aim_->text().toInt();
+  state.number = number_->text().toInt();
+  state.aim_duration = aim_->text().toInt();
   for (int i = 0; i < kPageCheckBoxCount; ++i) state.checked[i] = checks_[i]->isChecked();
   return state;
 }

@@ -46,7 +46,7 @@ class BarcodePage : public SettingsPage {
   std::array<QLabel*, 4> setting_labels_{};  // the two lists, box 201, its unit
   QComboBox* first_list_ = nullptr;
   QComboBox* second_list_ = nullptr;
-  QLineEdit* box201_ = nullptr;
+  QLineEdit* number_ = nullptr;
   QLabel* aim_label_ = nullptr;
   QLineEdit* aim_ = nullptr;
   QLabel* aim_unit_ = nullptr;

@@ -12,7 +12,6 @@ namespace veltrix {
 // The controls of the symbology option dialogs, each bound to the field it shows and stores.
 
 struct CheckBoxControl {
-  int id;
   std::string_view text;
   const FieldDef* field;  // a one-bit field: checked = 1
 };
@@ -26,7 +25,6 @@ enum class ChoiceCoding : std::uint8_t {
 };
 
 struct ChoiceControl {
-  int id;                    // the list's id, or the first radio's id (the others follow)
   std::string_view caption;  // the radio group's title, or the list's label
   std::span<const std::string_view> texts;
   const FieldDef* field;

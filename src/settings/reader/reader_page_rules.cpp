@@ -117,18 +117,18 @@ ReaderPageState FillReaderPageState(const Document& doc) {
   const std::uint8_t reader_type = doc.record[kReaderType.offset];
   state.reader = ReaderPositionOf(reader_type);
   state.rfid = ReadNumber(doc.record, kRfidReader) != 0;
-  state.box202 = static_cast<int>(ReadWorking(doc, kAimDuration));
+  state.aim_duration = static_cast<int>(ReadWorking(doc, kAimDuration));
   const auto read = [&doc](const FieldDef& f) { return static_cast<int>(ReadWorking(doc, f)); };
   if (UsesTwoDSet(reader_type)) {
-    state.list401 = read(kTwoDList401);
-    state.list402 = read(kTwoDList402);
-    state.box201 = read(kTwoDBox201);
+    state.first_list = read(kTwoDList401);
+    state.second_list = read(kTwoDList402);
+    state.number = read(kTwoDBox201);
     for (const PageCheckBox& box : kTwoDCheckBoxes) Checked(state, box.id) = read(*box.field) != 0;
     return state;
   }
-  state.list401 = read(kScanMode);
-  state.list402 = read(kReadRedundancy);
-  state.box201 = read(kTimeOut);
+  state.first_list = read(kScanMode);
+  state.second_list = read(kReadRedundancy);
+  state.number = read(kTimeOut);
   for (const PageCheckBox& box : kLinearCheckBoxes) {
     if (box.field != nullptr) Checked(state, box.id) = read(*box.field) != 0;
   }
@@ -157,20 +157,20 @@ void ApplyReaderPage(Document& doc, const ReaderPageState& state) {
   };
   switch (state.reader) {
     case kTwoDReader:
-      write(kTwoDList401, state.list401);
-      write(kTwoDList402, state.list402);
-      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.box201) & 0x0F);
+      write(kTwoDList401, state.first_list);
+      write(kTwoDList402, state.second_list);
+      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.number) & 0x0F);
       StoreEnableBits(doc, state, false);
       break;
     case kLongRangeLaser:
-      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.box201) & 0x0F);
-      write(kAimDuration, state.box202);
+      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.number) & 0x0F);
+      write(kAimDuration, state.aim_duration);
       StoreEnableBits(doc, state, true);
       break;
     default:
-      write(kScanMode, state.list401);
-      write(kReadRedundancy, state.list402);
-      write(kTimeOut, state.box201);
+      write(kScanMode, state.first_list);
+      write(kReadRedundancy, state.second_list);
+      write(kTimeOut, state.number);
       for (const PageCheckBox& box : kLinearCheckBoxes) {
         if (box.field != nullptr) write(*box.field, Checked(state, box.id) ? 1 : 0);
       }

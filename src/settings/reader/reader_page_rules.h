@@ -37,8 +37,8 @@ inline constexpr std::array<std::string_view, 2> kTwoDList402Names{"Turn off", "
 struct ReaderSettingLabels {
   std::string_view first_list;
   std::string_view second_list;
-  std::string_view box201;
-  std::string_view box201_unit;
+  std::string_view number;
+  std::string_view number_unit;
 };
 inline constexpr ReaderSettingLabels kLinearSettingLabels{
     "Scan mode :", "Read redundancy :", "Time out :", "sec"};
@@ -60,14 +60,14 @@ inline constexpr int kPageCheckBoxCount = 27;
 // The check boxes of the linear set (301-326) or of the two-dimensional set (301-327).
 std::span<const PageCheckBox> ReaderPageCheckBoxes(bool two_d);
 
-// The page's controls: lists 403, 401, 402, boxes 201 and 202, "RFID Reader" and boxes 301-327.
+// The page's controls: the reader, "RFID Reader", the reader settings and the 27 symbology marks.
 struct ReaderPageState {
   int reader = kLaserCcdReader;
   bool rfid = false;
-  int list401 = 0;  // scan mode, or the first two-dimensional list
-  int list402 = 0;  // read redundancy, or the second two-dimensional list
-  int box201 = 0;   // time out, or the one-digit two-dimensional box
-  int box202 = 0;   // "AIM Duration :"
+  int first_list = 0;    // scan mode, or the first two-dimensional list
+  int second_list = 0;   // read redundancy, or the second two-dimensional list
+  int number = 0;        // time out, or the one-digit two-dimensional box
+  int aim_duration = 0;  // "AIM Duration :"
   std::array<bool, kPageCheckBoxCount> checked{};  // index = id - 301
 
   bool operator==(const ReaderPageState&) const = default;

@@ -16,78 +16,77 @@ constexpr std::array<std::string_view, 2> kTelepenRadioTexts{"Original Telepen  
                                                              "AIM Telepen  (Full ASCII)"};
 
 constexpr std::array kCode39Checks{
-    CheckBoxControl{301, "Transmit Start/Stop", &kCode39TransmitStartStop},
-    CheckBoxControl{302, "Verify Checksum", &kCode39VerifyChecksum},
-    CheckBoxControl{303, "Transmit Checksum", &kCode39TransmitChecksum},
-    CheckBoxControl{304, "Code 39 Full ASCII", &kCode39FullAscii}};
+    CheckBoxControl{"Transmit Start/Stop", &kCode39TransmitStartStop},
+    CheckBoxControl{"Verify Checksum", &kCode39VerifyChecksum},
+    CheckBoxControl{"Transmit Checksum", &kCode39TransmitChecksum},
+    CheckBoxControl{"Code 39 Full ASCII", &kCode39FullAscii}};
 constexpr std::array kItalianPharmacodeChecks{
-    CheckBoxControl{301, "Transmit Checksum", &kItalianPharmacodeTransmitChecksum}};
+    CheckBoxControl{"Transmit Checksum", &kItalianPharmacodeTransmitChecksum}};
 constexpr std::array kFrenchPharmacodeChecks{
-    CheckBoxControl{301, "Transmit Checksum", &kFrenchPharmacodeTransmitChecksum}};
+    CheckBoxControl{"Transmit Checksum", &kFrenchPharmacodeTransmitChecksum}};
 constexpr std::array kIndustrial25Checks{
-    CheckBoxControl{301, "Verify Checksum", &kIndustrial25VerifyChecksum},
-    CheckBoxControl{302, "Transmit Checksum", &kIndustrial25TransmitChecksum}};
+    CheckBoxControl{"Verify Checksum", &kIndustrial25VerifyChecksum},
+    CheckBoxControl{"Transmit Checksum", &kIndustrial25TransmitChecksum}};
 constexpr std::array kIndustrial25Radios{
-    ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kIndustrial25StartStop}};
+    ChoiceControl{"Start/Stop Selection", kStartStopNames, &kIndustrial25StartStop}};
 constexpr std::array kInterleave25Checks{
-    CheckBoxControl{301, "Verify Checksum", &kInterleave25VerifyChecksum},
-    CheckBoxControl{302, "Transmit Checksum", &kInterleave25TransmitChecksum}};
+    CheckBoxControl{"Verify Checksum", &kInterleave25VerifyChecksum},
+    CheckBoxControl{"Transmit Checksum", &kInterleave25TransmitChecksum}};
 constexpr std::array kInterleave25Radios{
-    ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kInterleave25StartStop}};
+    ChoiceControl{"Start/Stop Selection", kStartStopNames, &kInterleave25StartStop}};
 constexpr std::array kMatrix25Checks{
-    CheckBoxControl{301, "Verify Checksum", &kMatrix25VerifyChecksum},
-    CheckBoxControl{302, "Transmit Checksum", &kMatrix25TransmitChecksum}};
+    CheckBoxControl{"Verify Checksum", &kMatrix25VerifyChecksum},
+    CheckBoxControl{"Transmit Checksum", &kMatrix25TransmitChecksum}};
 constexpr std::array kMatrix25Radios{
-    ChoiceControl{601, "Start/Stop Selection", kStartStopNames, &kMatrix25StartStop}};
+    ChoiceControl{"Start/Stop Selection", kStartStopNames, &kMatrix25StartStop}};
 constexpr std::array kCodabarRadios{
-    ChoiceControl{601, "Start/Stop Character", kCodabarRadioTexts, &kCodabarStartStopCharacter,
+    ChoiceControl{"Start/Stop Character", kCodabarRadioTexts, &kCodabarStartStopCharacter,
                   ChoiceCoding::kNoneThenIndex, &kCodabarTransmitStartStop}};
 constexpr std::array kMsiRadios{
-    ChoiceControl{601, "Checksum Verification", kMsiVerificationNames, &kMsiChecksumVerification},
-    ChoiceControl{604, "Checksum Transmission", kMsiTransmissionNames, &kMsiChecksumTransmission}};
+    ChoiceControl{"Checksum Verification", kMsiVerificationNames, &kMsiChecksumVerification},
+    ChoiceControl{"Checksum Transmission", kMsiTransmissionNames, &kMsiChecksumTransmission}};
 constexpr std::array kPlesseyChecks{
-    CheckBoxControl{301, "Convert to UK Plessey", &kPlesseyConvertToUkPlessey},
-    CheckBoxControl{302, "Transmit Checksum", &kPlesseyTransmitChecksum}};
+    CheckBoxControl{"Convert to UK Plessey", &kPlesseyConvertToUkPlessey},
+    CheckBoxControl{"Transmit Checksum", &kPlesseyTransmitChecksum}};
 constexpr std::array kUpceChecks{
-    CheckBoxControl{301, "Convert to UPCA", &kUpceConvertToUpca},
-    CheckBoxControl{302, "Transmit System Number", &kUpceTransmitSystemNumber},
-    CheckBoxControl{303, "Transmit Checksum", &kUpceTransmitChecksum}};
-constexpr std::array kEan8Checks{CheckBoxControl{301, "Convert to EAN13", &kEan8ConvertToEan13},
-                                 CheckBoxControl{302, "Transmit Checksum", &kEan8TransmitChecksum}};
+    CheckBoxControl{"Convert to UPCA", &kUpceConvertToUpca},
+    CheckBoxControl{"Transmit System Number", &kUpceTransmitSystemNumber},
+    CheckBoxControl{"Transmit Checksum", &kUpceTransmitChecksum}};
+constexpr std::array kEan8Checks{CheckBoxControl{"Convert to EAN13", &kEan8ConvertToEan13},
+                                 CheckBoxControl{"Transmit Checksum", &kEan8TransmitChecksum}};
 constexpr std::array kEan13Checks{
-    CheckBoxControl{301, "ISBN Conversion", &kEan13IsbnConversion},
-    CheckBoxControl{302, "ISSN Conversion", &kEan13IssnConversion},
-    CheckBoxControl{303, "Transmit Checksum", &kEan13TransmitChecksum},
-    CheckBoxControl{304, "Transmit UPCA System Number", &kUpcaTransmitSystemNumber},
-    CheckBoxControl{305, "Transmit UPCA Checksum", &kUpcaTransmitChecksum},
-    CheckBoxControl{306, "Convert UPCA to EAN 13", &kUpcaConvertToEan13}};
-constexpr std::array kTelepenRadios{ChoiceControl{601, "Telepen Format", kTelepenRadioTexts,
-                                                  &kTelepenFormat, ChoiceCoding::kReversed}};
+    CheckBoxControl{"ISBN Conversion", &kEan13IsbnConversion},
+    CheckBoxControl{"ISSN Conversion", &kEan13IssnConversion},
+    CheckBoxControl{"Transmit Checksum", &kEan13TransmitChecksum},
+    CheckBoxControl{"Transmit UPCA System Number", &kUpcaTransmitSystemNumber},
+    CheckBoxControl{"Transmit UPCA Checksum", &kUpcaTransmitChecksum},
+    CheckBoxControl{"Convert UPCA to EAN 13", &kUpcaConvertToEan13}};
+constexpr std::array kTelepenRadios{
+    ChoiceControl{"Telepen Format", kTelepenRadioTexts, &kTelepenFormat, ChoiceCoding::kReversed}};
 constexpr std::array kRss14Checks{
-    CheckBoxControl{301, "Transmit Code ID", &kRss14TransmitCodeId},
-    CheckBoxControl{302, "Transmit Application ID", &kRss14TransmitApplicationId},
-    CheckBoxControl{303, "Transmit Check Digit", &kRss14TransmitCheckDigit}};
+    CheckBoxControl{"Transmit Code ID", &kRss14TransmitCodeId},
+    CheckBoxControl{"Transmit Application ID", &kRss14TransmitApplicationId},
+    CheckBoxControl{"Transmit Check Digit", &kRss14TransmitCheckDigit}};
 constexpr std::array kRss14LimitedChecks{
-    CheckBoxControl{301, "Transmit Code ID", &kRss14LimitedTransmitCodeId},
-    CheckBoxControl{302, "Transmit Application ID", &kRss14LimitedTransmitApplicationId},
-    CheckBoxControl{303, "Transmit Check Digit", &kRss14LimitedTransmitCheckDigit}};
+    CheckBoxControl{"Transmit Code ID", &kRss14LimitedTransmitCodeId},
+    CheckBoxControl{"Transmit Application ID", &kRss14LimitedTransmitApplicationId},
+    CheckBoxControl{"Transmit Check Digit", &kRss14LimitedTransmitCheckDigit}};
 constexpr std::array kRss14ExpandedChecks{
-    CheckBoxControl{301, "Transmit Code ID", &kRss14ExpandedTransmitCodeId}};
-constexpr std::array kEan128Checks{
-    CheckBoxControl{301, "Transmit Code ID", &kEan128TransmitCodeId}};
+    CheckBoxControl{"Transmit Code ID", &kRss14ExpandedTransmitCodeId}};
+constexpr std::array kEan128Checks{CheckBoxControl{"Transmit Code ID", &kEan128TransmitCodeId}};
 
 constexpr std::array kDialogs{
     LinearOptionDialog{"Code39Dlg", "Code 39 Parameters", kCode39Checks},
     LinearOptionDialog{"ItalyPharmaDlg", "Italian Pharmacode Parameters", kItalianPharmacodeChecks},
     LinearOptionDialog{"FrenchPharmaDlg", "French Pharmacode Parameters", kFrenchPharmacodeChecks},
     LinearOptionDialog{"Industrial25Dlg", "Industrial 25 Parameters", kIndustrial25Checks,
-                       kIndustrial25Radios, &kIndustrial25Length, 604},
+                       kIndustrial25Radios, &kIndustrial25Length},
     LinearOptionDialog{"Interleave25Dlg", "Interleave 25 Parameters", kInterleave25Checks,
-                       kInterleave25Radios, &kInterleave25Length, 604},
+                       kInterleave25Radios, &kInterleave25Length},
     LinearOptionDialog{"Matrix25Dlg", "Matrix 25 Parameters", kMatrix25Checks, kMatrix25Radios,
-                       &kMatrix25Length, 604},
+                       &kMatrix25Length},
     LinearOptionDialog{"CodabarDlg", "Codabar Parameters", {}, kCodabarRadios},
-    LinearOptionDialog{"MSIDlg", "MSI Parameters", {}, kMsiRadios, &kMsiLength, 607},
+    LinearOptionDialog{"MSIDlg", "MSI Parameters", {}, kMsiRadios, &kMsiLength},
     LinearOptionDialog{"PlesseyDlg", "Plessey Parameters", kPlesseyChecks},
     LinearOptionDialog{"UPCEDlg", "UPCE Parameters", kUpceChecks},
     LinearOptionDialog{"EAN8Dlg", "EAN 8 Parameters", kEan8Checks},

@@ -20,7 +20,6 @@ struct LinearOptionDialog {
   std::span<const CheckBoxControl> checks = {};
   std::span<const ChoiceControl> radios = {};
   const FieldDef* length = nullptr;  // the length group's two bytes, if the dialog has one
-  int length_radio_id = 0;           // "Fixed Length" radio; "Max / Min Length" follows it
 };
 
 // What the dialog's controls hold between opening and OK.

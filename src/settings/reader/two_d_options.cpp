@@ -19,60 +19,58 @@ constexpr std::array<std::string_view, 2> kMsiCheckDigitNames{"One Check Digit",
                                                               "Two Check Digits"};
 
 constexpr std::array kUpcaChecks{
-    CheckBoxControl{301, "Transmit Checksum", &kTwoDUpcaTransmitChecksum},
-    CheckBoxControl{302, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
+    CheckBoxControl{"Transmit Checksum", &kTwoDUpcaTransmitChecksum},
+    CheckBoxControl{"Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
 constexpr std::array kUpcaLists{
-    ChoiceControl{401, "UPCA Preamble :", kPreambleNames, &kTwoDUpcaPreamble},
-    ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+    ChoiceControl{"UPCA Preamble :", kPreambleNames, &kTwoDUpcaPreamble},
+    ChoiceControl{"Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kUpceChecks{
-    CheckBoxControl{301, "Transmit Checksum", &kTwoDUpceTransmitChecksum},
-    CheckBoxControl{302, "Convert UPCE to UPCA", &kTwoDConvertUpceToUpca},
-    CheckBoxControl{303, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
+    CheckBoxControl{"Transmit Checksum", &kTwoDUpceTransmitChecksum},
+    CheckBoxControl{"Convert UPCE to UPCA", &kTwoDConvertUpceToUpca},
+    CheckBoxControl{"Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
 constexpr std::array kUpceLists{
-    ChoiceControl{401, "UPCE Preamble :", kPreambleNames, &kTwoDUpcePreamble},
-    ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+    ChoiceControl{"UPCE Preamble :", kPreambleNames, &kTwoDUpcePreamble},
+    ChoiceControl{"Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kUpce1Checks{
-    CheckBoxControl{301, "Transmit Checksum", &kTwoDUpce1TransmitChecksum},
-    CheckBoxControl{302, "Convert UPCE-1 to UPCA", &kTwoDConvertUpce1ToUpca},
-    CheckBoxControl{303, "Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
+    CheckBoxControl{"Transmit Checksum", &kTwoDUpce1TransmitChecksum},
+    CheckBoxControl{"Convert UPCE-1 to UPCA", &kTwoDConvertUpce1ToUpca},
+    CheckBoxControl{"Read UCC Coupon Extended Code", &kTwoDReadUccCouponExtendedCode}};
 constexpr std::array kUpce1Lists{
-    ChoiceControl{401, "UPCE-1 Preamble :", kPreambleNames, &kTwoDUpce1Preamble},
-    ChoiceControl{402, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+    ChoiceControl{"UPCE-1 Preamble :", kPreambleNames, &kTwoDUpce1Preamble},
+    ChoiceControl{"Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kEan8Checks{
-    CheckBoxControl{301, "Convert EAN8 to EAN13", &kTwoDConvertEan8ToEan13}};
+    CheckBoxControl{"Convert EAN8 to EAN13", &kTwoDConvertEan8ToEan13}};
 constexpr std::array kEan8Lists{
-    ChoiceControl{401, "Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
+    ChoiceControl{"Decode Supplementals :", kSupplementalNames, &kTwoDDecodeSupplementals}};
 constexpr std::array kCode39Checks{
-    CheckBoxControl{303, "Verify Checksum", &kTwoDCode39VerifyChecksum},
-    CheckBoxControl{304, "Transmit Checksum", &kTwoDCode39TransmitChecksum},
-    CheckBoxControl{305, "Code 39 Full ASCII", &kTwoDCode39FullAscii}};
+    CheckBoxControl{"Verify Checksum", &kTwoDCode39VerifyChecksum},
+    CheckBoxControl{"Transmit Checksum", &kTwoDCode39TransmitChecksum},
+    CheckBoxControl{"Code 39 Full ASCII", &kTwoDCode39FullAscii}};
 constexpr std::array kCode11Checks{
-    CheckBoxControl{301, "Verify Checksum", &kTwoDCode11VerifyChecksum},
-    CheckBoxControl{302, "Transmit Checksum", &kTwoDCode11TransmitChecksum}};
+    CheckBoxControl{"Verify Checksum", &kTwoDCode11VerifyChecksum},
+    CheckBoxControl{"Transmit Checksum", &kTwoDCode11TransmitChecksum}};
 constexpr std::array kInterleave25Checks{
-    CheckBoxControl{302, "Transmit Checksum", &kTwoDInterleave25TransmitChecksum},
-    CheckBoxControl{303, "Convert Interleaved 25 to EAN13", &kTwoDConvertInterleave25ToEan13}};
+    CheckBoxControl{"Transmit Checksum", &kTwoDInterleave25TransmitChecksum},
+    CheckBoxControl{"Convert Interleaved 25 to EAN13", &kTwoDConvertInterleave25ToEan13}};
 constexpr std::array kInterleave25Lists{ChoiceControl{
-    402, "Verify check digit :", kVerifyCheckDigitNames, &kTwoDInterleave25VerifyCheckDigit,
+    "Verify check digit :", kVerifyCheckDigitNames, &kTwoDInterleave25VerifyCheckDigit,
     ChoiceCoding::kOneOfTwoBits, &kTwoDInterleave25VerifyCheckDigitOpcc}};
-constexpr std::array kCodabarChecks{
-    CheckBoxControl{302, "NOTIS Editing", &kTwoDCodabarNotisEditing}};
-constexpr std::array kMsiChecks{
-    CheckBoxControl{301, "Transmit Checksum", &kTwoDMsiTransmitChecksum}};
+constexpr std::array kCodabarChecks{CheckBoxControl{"NOTIS Editing", &kTwoDCodabarNotisEditing}};
+constexpr std::array kMsiChecks{CheckBoxControl{"Transmit Checksum", &kTwoDMsiTransmitChecksum}};
 constexpr std::array kMsiLists{
-    ChoiceControl{402, "Check Algorithm :", kMsiAlgorithmNames, &kTwoDMsiCheckAlgorithm},
-    ChoiceControl{403, "Check Digits :", kMsiCheckDigitNames, &kTwoDMsiCheckDigits}};
+    ChoiceControl{"Check Algorithm :", kMsiAlgorithmNames, &kTwoDMsiCheckAlgorithm},
+    ChoiceControl{"Check Digits :", kMsiCheckDigitNames, &kTwoDMsiCheckDigits}};
 constexpr std::array kPostalChecks{
-    CheckBoxControl{301, "US Postnet", &kTwoDUsPostnet},
-    CheckBoxControl{302, "US Planet", &kTwoDUsPlanet},
-    CheckBoxControl{303, "Transmit US Postal Checksum", &kTwoDTransmitUsPostalChecksum},
-    CheckBoxControl{304, "US Postal", &kTwoDUsPostal},
-    CheckBoxControl{305, "Transmit UK Postal Checksum", &kTwoDTransmitUkPostalChecksum},
-    CheckBoxControl{306, "Japan Postal", &kTwoDJapanPostal},
-    CheckBoxControl{307, "Australian Postal", &kTwoDAustralianPostal},
-    CheckBoxControl{308, "Dutch Postal", &kTwoDDutchPostal}};
+    CheckBoxControl{"US Postnet", &kTwoDUsPostnet},
+    CheckBoxControl{"US Planet", &kTwoDUsPlanet},
+    CheckBoxControl{"Transmit US Postal Checksum", &kTwoDTransmitUsPostalChecksum},
+    CheckBoxControl{"US Postal", &kTwoDUsPostal},
+    CheckBoxControl{"Transmit UK Postal Checksum", &kTwoDTransmitUkPostalChecksum},
+    CheckBoxControl{"Japan Postal", &kTwoDJapanPostal},
+    CheckBoxControl{"Australian Postal", &kTwoDAustralianPostal},
+    CheckBoxControl{"Dutch Postal", &kTwoDDutchPostal}};
 constexpr std::array kRss14Checks{
-    CheckBoxControl{301, "Convert RSS to UPC/EAN", &kTwoDConvertRssToUpcEan}};
+    CheckBoxControl{"Convert RSS to UPC/EAN", &kTwoDConvertRssToUpcEan}};
 
 constexpr std::array<const FieldDef*, 1> kUpcClears{&kTwoDUpcReservedBit};
 constexpr std::array<const FieldDef*, 1> kCode39Clears{&kTwoDCode39ReservedBits};
