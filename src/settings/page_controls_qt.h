@@ -12,6 +12,7 @@ class QBoxLayout;
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
+class QDialog;
 class QGridLayout;
 class QLineEdit;
 class QWidget;
@@ -32,6 +33,8 @@ int NumberBoxValue(const QLineEdit* edit, const NumberBoxRule& rule);
 // Radio buttons with ids 0, 1, ... named "<name>_<id>", added to `layout`.
 QButtonGroup* MakeRadios(QWidget* owner, const QString& name,
                          std::span<const std::string_view> captions, QBoxLayout* layout);
+// OK and Cancel wired to the dialog's accept() and reject().
+QWidget* MakeOkCancel(QDialog* dialog);
 // A label and its control on one row of a form grid.
 void AddFormRow(QGridLayout* grid, int row, const QString& caption, QWidget* control, int span = 1);
 

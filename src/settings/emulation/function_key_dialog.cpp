@@ -1,7 +1,6 @@
 #include "settings/emulation/function_key_dialog.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +12,7 @@
 #include "settings/emulation/key_names.h"
 #include "settings/field.h"
 #include "settings/grid/grid_dialog.h"
+#include "settings/page_controls_qt.h"
 
 namespace veltrix {
 
@@ -49,12 +49,9 @@ FunctionKeyDialog::FunctionKeyDialog(Document& doc, int key_number, QWidget* par
   code_label->setBuddy(key_code_);
   row->addWidget(code_label, 1, 0, 1, 2);
   row->addWidget(key_code_, 1, 2, 1, 3);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(row);
-  layout->addWidget(buttons);
-  connect(buttons, &QDialogButtonBox::accepted, this, &FunctionKeyDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  layout->addWidget(MakeOkCancel(this));
   connect(host_key_, &QComboBox::currentIndexChanged, this, &FunctionKeyDialog::ListsChanged);
 
   AttachGridEditor(

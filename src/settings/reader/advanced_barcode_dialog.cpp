@@ -2,7 +2,6 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -148,12 +147,9 @@ AdvancedBarcodeDialog::AdvancedBarcodeDialog(Document& doc, QWidget* parent)
   auto* columns = new QHBoxLayout;
   columns->addLayout(left);
   columns->addLayout(right, 1);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(columns);
-  layout->addWidget(buttons);
+  layout->addWidget(MakeOkCancel(this));
 
   for (QCheckBox* box : {check_leading_, read_partial_, add_prefix_, add_suffix_}) {
     connect(box, &QCheckBox::toggled, this, [this] { ShowEnabling(); });

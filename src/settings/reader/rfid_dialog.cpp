@@ -3,7 +3,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -107,13 +106,10 @@ RfidDialog::RfidDialog(Document& doc, QWidget* parent)
   auto* columns = new QHBoxLayout;
   columns->addWidget(data, 1);
   columns->addLayout(modes);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(columns);
   layout->addLayout(key_row);
-  layout->addWidget(buttons);
+  layout->addWidget(MakeOkCancel(this));
   binder_->Bind(RfidBindings());
   binder_->Load();
 

@@ -3,7 +3,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -23,13 +22,6 @@
 
 namespace veltrix {
 namespace {
-
-QDialogButtonBox* OkCancel(QDialog* dialog) {
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
-  QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-  return buttons;
-}
 
 QCheckBox* AddCheck(QVBoxLayout* layout, const CheckBoxControl& control, bool checked) {
   QCheckBox* box = MakeCheck(ControlName(control.text), QtText(control.text));
@@ -105,7 +97,7 @@ LinearOptionsDialog::LinearOptionsDialog(Document& doc, const LinearOptionDialog
     layout->addWidget(box);
   }
   layout->addStretch();
-  layout->addWidget(OkCancel(this));
+  layout->addWidget(MakeOkCancel(this));
   loading_ = false;
 }
 
@@ -172,7 +164,7 @@ TwoDOptionsDialog::TwoDOptionsDialog(Document& doc, const TwoDOptionDialog& tabl
   form->setColumnStretch(1, 1);
   layout->addLayout(form);
   layout->addStretch();
-  layout->addWidget(OkCancel(this));
+  layout->addWidget(MakeOkCancel(this));
   loading_ = false;
 }
 
