@@ -30,28 +30,6 @@ TEST(RfidOptions, OpenShowsTheDefaults) {
   EXPECT_FALSE(RfidControlsEnabled(state).delimiter);
 }
 
-TEST(RfidOptions, OkStoresSixteenBitValuesHighByteFirstAsCorrected) {
-  auto doc = testing::DefaultDocument(1);
-  RfidState state = OpenRfidOptions(*doc);
-  state.read_data = true;
-  state.use_delimiter = true;
-  state.start = 300;
-  state.max_len = 70000;  // outside 1-65279: 0
-  state.delay = 0;        // becomes 1
-  state.delimiter = 13;
-  state.working_mode = 0;
-  state.reading_mode = 0;
-  state.control = 1;
-  ApplyRfidOptions(*doc, state);
-  const std::vector<std::uint8_t> want{0x01, 0x01, 0x01, 0x01, 0x2C, 0x00, 0x00,
-                                       0x0D, 0x00, 0x01, 0x00, 0x00, 0x01};
-  EXPECT_EQ(want,
-            std::vector<std::uint8_t>(doc->record.begin() + 58759, doc->record.begin() + 58772));
-  EXPECT_TRUE(RfidControlsEnabled(state).start_and_max_len);
-  EXPECT_TRUE(RfidControlsEnabled(state).delimiter);
-  EXPECT_EQ(state.start, OpenRfidOptions(*doc).start);
-}
-
 TEST(RfidOptions, SwitchKeyIsRefusedWhileAnotherRoleHoldsIt) {
   auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kScanSwitchKeyName, 0);
@@ -159,18 +137,6 @@ TEST(AdvancedSettings, Box214AndVibratorAreStoredOnlyForProduct3) {
     EXPECT_EQ(0x11, doc->record[kAlarmBeeperSequence.offset + 9]) << product;
     EXPECT_EQ(product == 3, AdvancedControlsEnabled(state, product).box214_and_vibrator);
   }
-}
-
-TEST(AdvancedSettings, EnablingFollowsTheCheckBoxes) {
-  AdvancedState state;
-  AdvancedEnabling enabled = AdvancedControlsEnabled(state, 1);
-  EXPECT_FALSE(enabled.leading_code || enabled.lengths || enabled.prefix_code ||
-               enabled.suffix_code);
-  state.check_leading_code = state.read_partial_code = true;
-  state.add_prefix_code = state.add_suffix_code = true;
-  enabled = AdvancedControlsEnabled(state, 1);
-  EXPECT_TRUE(enabled.leading_code && enabled.lengths && enabled.prefix_code &&
-              enabled.suffix_code);
 }
 
 }  // namespace

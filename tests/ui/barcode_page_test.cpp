@@ -34,6 +34,8 @@ using namespace veltrix;
 
 namespace {
 
+using testing::FindControl;
+
 void Close(QDialog* dialog, bool ok) {
   auto* buttons = dialog->findChild<QDialogButtonBox*>();
   buttons->button(ok ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)->click();
@@ -54,10 +56,25 @@ bool SameReader(const Document& a, const Document& b) {
 template <typename State>
 State ToggleChecks(QWidget* dialog, std::span<const CheckBoxControl> checks, State state) {
   for (std::size_t i = 0; i < checks.size(); ++i) {
-    testing::FindControl<QCheckBox>(dialog, ControlName(checks[i].text))->click();
+    FindControl<QCheckBox>(dialog, ControlName(checks[i].text))->click();
     state.checked[i] = !state.checked[i];
   }
   return state;
+}
+
+// One row per dialog of `tables`, closed with OK and with Cancel.
+template <typename Table>
+void AddDialogRows(std::span<const Table> tables) {
+  QTest::addColumn<int>("index");
+  QTest::addColumn<bool>("ok");
+  for (int i = 0; i < static_cast<int>(tables.size()); ++i) {
+    for (bool ok : {true, false}) {
+      const std::string_view name = tables[i].template_name;
+      QTest::newRow(qPrintable(QString::fromLatin1(name.data(), static_cast<int>(name.size())) +
+                               (ok ? " OK" : " Cancel")))
+          << i << ok;
+    }
+  }
 }
 
 }  // namespace
@@ -77,15 +94,7 @@ class BarcodePageTest : public QObject {
 
   // Every linear dialog: each control changed, OK stores exactly what the core stores for those
   // controls; Cancel leaves the working block as opening left it.
-  void linearDialogs_data() {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("ok");
-    for (int i = 0; i < static_cast<int>(LinearOptionDialogs().size()); ++i) {
-      for (bool ok : {true, false}) {
-        QTest::newRow(qPrintable(QtName(LinearOptionDialogs()[i].template_name, ok))) << i << ok;
-      }
-    }
-  }
+  void linearDialogs_data() { AddDialogRows(LinearOptionDialogs()); }
   void linearDialogs() {
     QFETCH(int, index);
     QFETCH(bool, ok);
@@ -95,17 +104,16 @@ class BarcodePageTest : public QObject {
     LinearOptionState state = ToggleChecks(&dialog, table.checks, OpenLinearOptions(*doc_, table));
     for (std::size_t g = 0; g < table.radios.size(); ++g) {
       const int next = (state.chosen[g] + 1) % static_cast<int>(table.radios[g].texts.size());
-      testing::FindControl<QAbstractButton>(
+      FindControl<QAbstractButton>(
           &dialog, QStringLiteral("%1_%2").arg(ControlName(table.radios[g].caption)).arg(next))
           ->click();
       state.chosen[g] = next;
     }
     if (table.length != nullptr) {
-      testing::FindControl<QAbstractButton>(&dialog, "length_qualification_1")->click();
-      QCOMPARE(testing::FindControl<QLabel>(&dialog, "length_1_label")->text(),
-               QString("Max Length :"));
-      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "length_1"), "20");
-      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "length_2"), "40");
+      FindControl<QAbstractButton>(&dialog, "length_qualification_1")->click();
+      QCOMPARE(FindControl<QLabel>(&dialog, "length_1_label")->text(), QString("Max Length :"));
+      testing::TypeInto(FindControl<QLineEdit>(&dialog, "length_1"), "20");
+      testing::TypeInto(FindControl<QLineEdit>(&dialog, "length_2"), "40");
       state.length = {true, 20, 40};
     }
     if (index == 3) Save(&dialog, "symbology_dialog_linear");
@@ -116,15 +124,7 @@ class BarcodePageTest : public QObject {
 
   // Every two-dimensional dialog, the same way; the length option goes to "Two Lengths" with 6 and
   // 10, which stores the larger first.
-  void twoDDialogs_data() {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("ok");
-    for (int i = 0; i < static_cast<int>(TwoDOptionDialogs().size()); ++i) {
-      for (bool ok : {true, false}) {
-        QTest::newRow(qPrintable(QtName(TwoDOptionDialogs()[i].template_name, ok))) << i << ok;
-      }
-    }
-  }
+  void twoDDialogs_data() { AddDialogRows(TwoDOptionDialogs()); }
   void twoDDialogs() {
     QFETCH(int, index);
     QFETCH(bool, ok);
@@ -134,15 +134,15 @@ class BarcodePageTest : public QObject {
         ToggleChecks(&TwoDDialog(table), table.checks, OpenTwoDOptions(*expected, table));
     for (std::size_t l = 0; l < table.lists.size(); ++l) {
       const int next = (state.chosen[l] + 1) % static_cast<int>(table.lists[l].texts.size());
-      testing::FindControl<QComboBox>(dialog_.get(), ControlName(table.lists[l].caption))
+      FindControl<QComboBox>(dialog_.get(), ControlName(table.lists[l].caption))
           ->setCurrentIndex(next);
       state.chosen[l] = next;
     }
     if (table.length_option != nullptr) {
-      testing::FindControl<QComboBox>(dialog_.get(), "length_option")->setCurrentIndex(2);
-      QCOMPARE(testing::FindControl<QLineEdit>(dialog_.get(), "length_2")->text(), QString("0"));
-      testing::TypeInto(testing::FindControl<QLineEdit>(dialog_.get(), "length_1"), "6");
-      testing::TypeInto(testing::FindControl<QLineEdit>(dialog_.get(), "length_2"), "10");
+      FindControl<QComboBox>(dialog_.get(), "length_option")->setCurrentIndex(2);
+      QCOMPARE(FindControl<QLineEdit>(dialog_.get(), "length_2")->text(), QString("0"));
+      testing::TypeInto(FindControl<QLineEdit>(dialog_.get(), "length_1"), "6");
+      testing::TypeInto(FindControl<QLineEdit>(dialog_.get(), "length_2"), "10");
       state.option = kTwoLengths;
       state.lengths = {6, 10};
     }
@@ -162,8 +162,8 @@ class BarcodePageTest : public QObject {
     QFETCH(QString, edit);
     QFETCH(QString, typed);
     Open(1);
-    testing::TypeInto(Find<QLineEdit>(edit), typed);
-    QTEST(Find<QLineEdit>(edit)->text(), "shown");
+    testing::TypeInto(OnPage<QLineEdit>(edit), typed);
+    QTEST(OnPage<QLineEdit>(edit)->text(), "shown");
     page_->Apply(*doc_);
     QTEST(int(ReadNumber(doc_->record, kTimeOut)), "stored");
   }
@@ -172,32 +172,32 @@ class BarcodePageTest : public QObject {
   // back the defaults and the page shows them.
   void linearSet() {
     Open(1);
-    QVERIFY(!Find<QComboBox>("barcode_reader")->isEnabled());
-    QVERIFY(!Find<QPushButton>("rfid_more")->isEnabled());
-    QCOMPARE(Find<QComboBox>("scan_mode")->currentText(), QString("Laser"));
-    QCOMPARE(Find<QCheckBox>("symbology_25")->text(), QString("EAN128"));
-    QVERIFY(Find<QCheckBox>("symbology_25")->isChecked());
-    QVERIFY(Find<QCheckBox>("symbology_27")->isHidden());
-    QVERIFY(Find<QPushButton>("more_25")->isVisibleTo(page_.get()));
-    QVERIFY(Find<QPushButton>("more_11")->isHidden());
-    QVERIFY(!Find<QLineEdit>("aim_duration")->isEnabled());
+    QVERIFY(!OnPage<QComboBox>("barcode_reader")->isEnabled());
+    QVERIFY(!OnPage<QPushButton>("rfid_more")->isEnabled());
+    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Laser"));
+    QCOMPARE(OnPage<QCheckBox>("symbology_25")->text(), QString("EAN128"));
+    QVERIFY(OnPage<QCheckBox>("symbology_25")->isChecked());
+    QVERIFY(OnPage<QCheckBox>("symbology_27")->isHidden());
+    QVERIFY(OnPage<QPushButton>("more_25")->isVisibleTo(page_.get()));
+    QVERIFY(OnPage<QPushButton>("more_11")->isHidden());
+    QVERIFY(!OnPage<QLineEdit>("aim_duration")->isEnabled());
     Save(page_.get(), "barcode_page_linear");
 
-    Find<QCheckBox>("symbology_25")->click();
-    Find<QCheckBox>("symbology_1")->click();
-    Find<QComboBox>("scan_mode")->setCurrentIndex(1);
+    OnPage<QCheckBox>("symbology_25")->click();
+    OnPage<QCheckBox>("symbology_1")->click();
+    OnPage<QComboBox>("scan_mode")->setCurrentIndex(1);
     page_->Apply(*doc_);
     QCOMPARE(int(doc_->record[3712] >> 6), 2);
     QCOMPARE(int(doc_->record[3690] & 0x80), 0);
     QCOMPARE(int(ReadNumber(doc_->record, kScanMode)), 1);
 
-    Find<QPushButton>("reset_to_default")->click();
+    OnPage<QPushButton>("reset_to_default")->click();
     QCOMPARE(QByteArray(reinterpret_cast<const char*>(&doc_->record[3690]), 4).toHex(),
              QByteArray("9bc9003f"));
     QCOMPARE(QByteArray(reinterpret_cast<const char*>(&doc_->record[3710]), 3).toHex(),
              QByteArray("660303"));
-    QVERIFY(Find<QCheckBox>("symbology_1")->isChecked());
-    QCOMPARE(Find<QComboBox>("scan_mode")->currentText(), QString("Laser"));
+    QVERIFY(OnPage<QCheckBox>("symbology_1")->isChecked());
+    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Laser"));
   }
 
   // Product 3 may choose the reader: the record takes it at once and the page relabels; the long
@@ -205,26 +205,26 @@ class BarcodePageTest : public QObject {
   void readerChangeRelabelsAndRefills() {
     doc_->record[kProductOffset] = 3;
     Open(3);
-    Find<QComboBox>("barcode_reader")->setCurrentIndex(1);
+    OnPage<QComboBox>("barcode_reader")->setCurrentIndex(1);
     QCOMPARE(int(doc_->record[kReaderType.offset] & 0x05), 1);
-    QCOMPARE(Find<QCheckBox>("symbology_1")->text(), QString("UPC-A"));
-    QVERIFY(Find<QCheckBox>("symbology_27")->isVisibleTo(page_.get()));
-    QVERIFY(!Find<QComboBox>("scan_mode")->isEnabled());
-    QCOMPARE(Find<QComboBox>("scan_mode")->currentText(), QString("Internal"));
+    QCOMPARE(OnPage<QCheckBox>("symbology_1")->text(), QString("UPC-A"));
+    QVERIFY(OnPage<QCheckBox>("symbology_27")->isVisibleTo(page_.get()));
+    QVERIFY(!OnPage<QComboBox>("scan_mode")->isEnabled());
+    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Internal"));
     Save(page_.get(), "barcode_page_two_d");
-    Find<QCheckBox>("symbology_5")->click();  // EAN13 off: Bookland EAN follows
-    QVERIFY(!Find<QCheckBox>("symbology_6")->isEnabled());
-    Find<QCheckBox>("symbology_5")->click();
-    QVERIFY(Find<QCheckBox>("symbology_6")->isEnabled());
+    OnPage<QCheckBox>("symbology_5")->click();  // EAN13 off: Bookland EAN follows
+    QVERIFY(!OnPage<QCheckBox>("symbology_6")->isEnabled());
+    OnPage<QCheckBox>("symbology_5")->click();
+    QVERIFY(OnPage<QCheckBox>("symbology_6")->isEnabled());
 
-    Find<QComboBox>("barcode_reader")->setCurrentIndex(2);
+    OnPage<QComboBox>("barcode_reader")->setCurrentIndex(2);
     QCOMPARE(int(doc_->record[kReaderType.offset] & 0x05), 4);
-    QVERIFY(!Find<QCheckBox>("symbology_13")->isEnabled());
-    QVERIFY(!Find<QPushButton>("more_13")->isEnabled());
-    QVERIFY(Find<QLineEdit>("aim_duration")->isEnabled());
-    testing::TypeInto(Find<QLineEdit>("aim_duration"), "300");
-    QCOMPARE(Find<QLineEdit>("aim_duration")->text(), QString("255"));
-    Find<QCheckBox>("rfid_reader")->click();
+    QVERIFY(!OnPage<QCheckBox>("symbology_13")->isEnabled());
+    QVERIFY(!OnPage<QPushButton>("more_13")->isEnabled());
+    QVERIFY(OnPage<QLineEdit>("aim_duration")->isEnabled());
+    testing::TypeInto(OnPage<QLineEdit>("aim_duration"), "300");
+    QCOMPARE(OnPage<QLineEdit>("aim_duration")->text(), QString("255"));
+    OnPage<QCheckBox>("rfid_reader")->click();
     page_->Apply(*doc_);
     QCOMPARE(ReadWorking(*doc_, kTwoDCode11), 0u);
     QCOMPARE(ReadNumber(doc_->record, kTwoDPdf417), 0u);  // the working block reached the record
@@ -240,7 +240,7 @@ class BarcodePageTest : public QObject {
     for (bool ok : {false, true}) {
       auto before = std::make_unique<Document>(*doc_);
       RfidDialog dialog(*doc_);
-      auto* key = testing::FindControl<QComboBox>(&dialog, "switch_key");
+      auto* key = FindControl<QComboBox>(&dialog, "switch_key");
       QString refusal;
       testing::AnswerMessageBox(&refusal);
       key->setCurrentIndex(3);
@@ -250,18 +250,18 @@ class BarcodePageTest : public QObject {
       key->setCurrentIndex(5);
       QCOMPARE(ReadNumber(doc_->record, kScanSwitchKeyName), 5u);
 
-      QVERIFY(!testing::FindControl<QLineEdit>(&dialog, "max_len")->isEnabled());
-      testing::FindControl<QCheckBox>(&dialog, "read_uid")->click();
-      testing::FindControl<QCheckBox>(&dialog, "read_data")->click();
-      testing::FindControl<QCheckBox>(&dialog, "use_delimiter")->click();
-      QCOMPARE(testing::FindControl<QLineEdit>(&dialog, "delimiter")->text(), QString(","));
-      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "start"), "12");
-      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "max_len"), "70000");
-      QCOMPARE(testing::FindControl<QLineEdit>(&dialog, "max_len")->text(), QString("0"));
-      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "max_len"), "300");
-      testing::TypeInto(testing::FindControl<QLineEdit>(&dialog, "delay_before_reread"), "0");
+      QVERIFY(!FindControl<QLineEdit>(&dialog, "max_len")->isEnabled());
+      FindControl<QCheckBox>(&dialog, "read_uid")->click();
+      FindControl<QCheckBox>(&dialog, "read_data")->click();
+      FindControl<QCheckBox>(&dialog, "use_delimiter")->click();
+      QCOMPARE(FindControl<QLineEdit>(&dialog, "delimiter")->text(), QString(","));
+      testing::TypeInto(FindControl<QLineEdit>(&dialog, "start"), "12");
+      testing::TypeInto(FindControl<QLineEdit>(&dialog, "max_len"), "70000");
+      QCOMPARE(FindControl<QLineEdit>(&dialog, "max_len")->text(), QString("0"));
+      testing::TypeInto(FindControl<QLineEdit>(&dialog, "max_len"), "300");
+      testing::TypeInto(FindControl<QLineEdit>(&dialog, "delay_before_reread"), "0");
       for (const char* radio : {"working_mode_0", "control_1", "reading_mode_0"}) {
-        testing::FindControl<QAbstractButton>(&dialog, radio)->click();
+        FindControl<QAbstractButton>(&dialog, radio)->click();
       }
       if (ok) Save(&dialog, "rfid_dialog");
       Close(&dialog, ok);
@@ -284,19 +284,18 @@ class BarcodePageTest : public QObject {
       Open(1);
       std::vector<std::uint8_t> picked;
       testing::WhenModal([&](QWidget* w) {
-        auto* prefix = testing::FindControl<QLineEdit>(w, "prefix_code");
+        auto* prefix = FindControl<QLineEdit>(w, "prefix_code");
         QVERIFY(!prefix->isEnabled());
-        QVERIFY(!testing::FindControl<QLineEdit>(w, "vibrator_time")->isEnabled());
-        testing::FindControl<QCheckBox>(w, "check_leading_code")->click();
-        testing::TypeInto(testing::FindControl<QLineEdit>(w, "leading_code"), "ABCDEFGHIJK");
-        testing::FindControl<QCheckBox>(w, "read_partial_code")->click();
-        testing::FindControl<QSpinBox>(w, "maximum_length")->setValue(10);
-        testing::FindControl<QSpinBox>(w, "start_position")->setValue(30);
-        testing::FindControl<QCheckBox>(w, "add_prefix_code")->click();
-        testing::FindControl<QCheckBox>(w, "add_suffix_code")->click();
-        testing::FindControl<QAbstractButton>(w, "scan_control_1")->click();
-        for (QLineEdit* edit :
-             {prefix, testing::FindControl<QLineEdit>(w, "alarm_beeper_sequence")}) {
+        QVERIFY(!FindControl<QLineEdit>(w, "vibrator_time")->isEnabled());
+        FindControl<QCheckBox>(w, "check_leading_code")->click();
+        testing::TypeInto(FindControl<QLineEdit>(w, "leading_code"), "ABCDEFGHIJK");
+        FindControl<QCheckBox>(w, "read_partial_code")->click();
+        FindControl<QSpinBox>(w, "maximum_length")->setValue(10);
+        FindControl<QSpinBox>(w, "start_position")->setValue(30);
+        FindControl<QCheckBox>(w, "add_prefix_code")->click();
+        FindControl<QCheckBox>(w, "add_suffix_code")->click();
+        FindControl<QAbstractButton>(w, "scan_control_1")->click();
+        for (QLineEdit* edit : {prefix, FindControl<QLineEdit>(w, "alarm_beeper_sequence")}) {
           testing::WhenModal(
               [&](QWidget* grid) {
                 QWidget* chart = grid->findChild<QWidget*>("grid_chart");
@@ -311,7 +310,7 @@ class BarcodePageTest : public QObject {
         if (ok) Save(w, "advanced_barcode_settings");
         Close(qobject_cast<QDialog*>(w), ok);
       });
-      Find<QPushButton>("code_id")->click();
+      OnPage<QPushButton>("code_id")->click();
       if (!ok) {
         QVERIFY(SameReader(*doc_, *before));
         continue;
@@ -338,14 +337,14 @@ class BarcodePageTest : public QObject {
       SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
       sheet.tabs()->setCurrentIndex(1);
       QWidget* page = sheet.page(1);
-      testing::FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(1);
-      testing::FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(0);
+      FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(1);
+      FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(0);
       testing::WhenModal([](QWidget* w) {
-        testing::FindControl<QCheckBox>(w, "verify_checksum")->click();
+        FindControl<QCheckBox>(w, "verify_checksum")->click();
         Close(qobject_cast<QDialog*>(w), true);
       });
-      testing::FindControl<QPushButton>(page, "more_1")->click();
-      testing::FindControl<QCheckBox>(page, "symbology_2")->click();
+      FindControl<QPushButton>(page, "more_1")->click();
+      FindControl<QCheckBox>(page, "symbology_2")->click();
       sheet.reject();
     }
     QCOMPARE(int(doc_->record[kReaderType.offset]), 0);
@@ -369,10 +368,6 @@ class BarcodePageTest : public QObject {
     if (node.text == line) return true;
     return std::ranges::any_of(node.children, [&](const auto& c) { return Contains(c, line); });
   }
-  static QString QtName(std::string_view name, bool ok) {
-    return QString::fromLatin1(name.data(), static_cast<int>(name.size())) +
-           (ok ? " OK" : " Cancel");
-  }
   void Open(int product) {
     doc_->record[kProductOffset] = static_cast<std::uint8_t>(product);
     page_ = std::make_unique<BarcodePage>(*doc_);
@@ -383,8 +378,8 @@ class BarcodePageTest : public QObject {
     return *dialog_;
   }
   template <typename T>
-  T* Find(const QString& name) {
-    return testing::FindControl<T>(page_.get(), name);
+  T* OnPage(const QString& name) {
+    return FindControl<T>(page_.get(), name);
   }
 
   std::unique_ptr<Document> doc_;
