@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "capture/screen_file.h"
+#include "resources/strings.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/field.h"
 #include "settings/screen/screen_pages.h"
@@ -11,7 +12,6 @@
 namespace veltrix {
 namespace {
 
-constexpr std::string_view kErrorCaption = "Error";
 constexpr std::string_view kScreenCaption = "Screen";
 
 int FontSizeOf(const Document& doc) { return static_cast<int>(ReadNumber(doc.record, kFontSize)); }

@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "resources/strings.h"
+
 namespace veltrix {
 namespace {
 
@@ -126,7 +128,7 @@ DownloadEvents DownloadEngine::TerminalConnected(std::int64_t now) {
 DownloadEvents DownloadEngine::ListenFailed(ListenError error, std::int64_t now) {
   now_ = now;
   if (step_ == Step::kListening) {
-    Message(ListenErrorText(error), download_text::kError);
+    Message(ListenErrorText(error), kErrorCaption);
     Emit(Kind::kCloseLink);
     Finish(false);
   }
@@ -356,7 +358,7 @@ void DownloadEngine::BlockReply() {
     ++sends_;
     return Exchange(sent_);
   }
-  Message(download_text::kDownloadError, download_text::kError);
+  Message(download_text::kDownloadError, kErrorCaption);
   TransferEnded(false);
 }
 
@@ -429,7 +431,7 @@ void DownloadEngine::AttemptEnded(bool success) {
   if (success) return Finish(true);
   step_ = Step::kAskRetry;
   Emit(Kind::kAskRetry, 0, download_text::kRetry,
-       via_ == DownloadVia::kRf ? download_text::kError : download_text::kDownload);
+       via_ == DownloadVia::kRf ? kErrorCaption : download_text::kDownload);
 }
 
 void DownloadEngine::Finish(bool success) {

@@ -48,7 +48,6 @@ std::vector<std::uint8_t> SettingsBlock(std::span<const std::uint8_t> image, int
 // The messages and captions of the download.
 namespace download_text {
 inline constexpr std::string_view kDownload = "Download";
-inline constexpr std::string_view kError = "Error";
 inline constexpr std::string_view kCompleted = "Downloaded completely!";
 inline constexpr std::string_view kDownloadError = "Error on downloading!";
 inline constexpr std::string_view kNotReady = "Terminal is not ready!";

@@ -9,6 +9,9 @@ namespace veltrix {
 // The string table: the text of string resource `id`, empty when there is none.
 std::string_view StringResource(int id);
 
+// The caption of every message box that reports a failure.
+inline constexpr std::string_view kErrorCaption = "Error";
+
 // The product names of the product list (entry 1 = "Dravin S", 2 = "Dravin R").
 std::vector<std::string_view> ProductNames();
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "resources/strings.h"
 #include "settings/document.h"
 #include "settings/settings_file.h"
 #include "shell/ports.h"
@@ -17,7 +18,6 @@ inline constexpr std::string_view kSaveTheProgram = "Save the program ?";
 inline constexpr std::string_view kSettingsFilterText = "Settings (*.QVL)";
 inline constexpr std::string_view kSettingsFilterPattern = "*.QVL";
 inline constexpr std::string_view kSettingsExtension = "QVL";
-inline constexpr std::string_view kErrorCaption = "Error";
 
 // Reading and writing a settings file at a path; the real functions by default, fakes in tests.
 struct SettingsFileIo {
