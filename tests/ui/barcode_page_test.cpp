@@ -232,6 +232,21 @@ class BarcodePageTest : public QObject {
     QCOMPARE(ReadNumber(doc_->record, kRfidReader), 1u);
   }
 
+  // Values no control can show (from a loaded file): a list selects, and OK stores, the nearest
+  // entry; the disabled two-dimensional box keeps its value through OK.
+  void oddStoredValues() {
+    WriteWorking(*doc_, kScanMode, 12);
+    Open(1);
+    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Aiming"));
+    doc_->record[kReaderType.offset] = 1;
+    WriteWorking(*doc_, kTwoDBox201, 15);
+    WriteWorking(*doc_, kTwoDList401, 6);
+    Open(1);
+    page_->Apply(*doc_);
+    QCOMPARE(ReadNumber(doc_->record, kTwoDBox201), 15u);
+    QCOMPARE(ReadNumber(doc_->record, kTwoDList401), 3u);
+  }
+
   // "RFID": every control changed; the switch key is claimed at once and refused while another
   // role holds it; OK writes the record, Cancel keeps only the switch key.
   void rfidDialog() {

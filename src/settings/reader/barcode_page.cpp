@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "resources/text_qt.h"
 #include "settings/page_controls_qt.h"
@@ -38,10 +39,11 @@ QPushButton* MoreButton(const QString& name) {
   return button;
 }
 
+// A stored value no entry stands for (from a loaded file) selects the nearest entry.
 void Refill(QComboBox* list, std::span<const std::string_view> entries, int selected) {
   list->clear();
   for (std::string_view entry : entries) list->addItem(QtText(entry));
-  list->setCurrentIndex(selected);
+  list->setCurrentIndex(std::clamp(selected, 0, list->count() - 1));
 }
 
 }  // namespace
@@ -163,6 +165,7 @@ void BarcodePage::Initialise(Document& doc) {
 void BarcodePage::Fill() {
   loading_ = true;
   const ReaderPageState state = FillReaderPageState(doc());
+  filled_ = state;
   const bool two_d = state.reader != kLaserCcdReader;
   const ReaderSettingLabels& labels = two_d ? kTwoDSettingLabels : kLinearSettingLabels;
   const std::string_view texts[] = {labels.first_list, labels.second_list, labels.number,
@@ -214,14 +217,16 @@ void BarcodePage::ShowEnabling() {
 }
 
 ReaderPageState BarcodePage::Controls() const {
-  ReaderPageState state;
+  // Disabled settings keep what the record held, even a value no entry or box can show.
+  ReaderPageState state = filled_;
   state.reader = std::max(reader_->currentIndex(), 0);
   state.rfid = rfid_->isChecked();
-  state.first_list = std::max(first_list_->currentIndex(), 0);
-  state.second_list = std::max(second_list_->currentIndex(), 0);
-  // What the boxes show: they were corrected as they were typed.
-  state.number = number_->text().toInt();
-  state.aim_duration = aim_->text().toInt();
+  if (first_list_->isEnabled()) {
+    state.first_list = first_list_->currentIndex();
+    state.second_list = second_list_->currentIndex();
+    state.number = number_->text().toInt();  // corrected as it was typed
+  }
+  if (aim_->isEnabled()) state.aim_duration = aim_->text().toInt();
   for (int i = 0; i < kPageCheckBoxCount; ++i) state.checked[i] = checks_[i]->isChecked();
   return state;
 }

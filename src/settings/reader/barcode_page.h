@@ -52,6 +52,7 @@ class BarcodePage : public SettingsPage {
   QLabel* aim_unit_ = nullptr;
   std::array<QCheckBox*, kPageCheckBoxCount> checks_{};
   std::array<QPushButton*, kPageCheckBoxCount> more_{};
+  ReaderPageState filled_;  // what the record held when the page was last filled
   bool loading_ = false;
 };
 
