@@ -251,7 +251,6 @@ class DemoHostTest : public QObject {
   void scenarios_data();
   void scenarios();
   void sessionGivesTheSameBytesForAnyChunking();
-  void sessionSurvivesGarbage();
   void negotiationAndSignOnOverLoopback();
   void hostileStations_data();
   void hostileStations();
@@ -299,26 +298,6 @@ void DemoHostTest::sessionGivesTheSameBytesForAnyChunking() {
   QVERIFY(whole.contains(Host("ITEM0011")));
   QVERIFY(whole.contains(Host("Read Immediate: item")));
   for (std::size_t chunk = 1; chunk < 64; ++chunk) QCOMPARE(run(chunk), whole);
-}
-
-void DemoHostTest::sessionSurvivesGarbage() {
-  std::uint32_t seed = 12345;
-  auto next = [&seed] {
-    seed = seed * 1103515245u + 12345u;
-    return static_cast<std::uint8_t>(seed >> 16);
-  };
-  for (const bool negotiate : {true, false}) {
-    HostSession session(std::make_unique<DemoApplication>(), negotiate);
-    session.Start();
-    for (int round = 0; round < 2000 && !session.wants_close(); ++round) {
-      std::vector<std::uint8_t> chunk(1 + next() % 40);
-      for (auto& b : chunk) b = next();
-      // Mostly Telnet and record framing bytes, so that every state is reached.
-      if (next() % 2 == 0)
-        chunk.insert(chunk.end(), {0xFF, static_cast<std::uint8_t>(0xEF + next() % 17)});
-      session.Receive(chunk);
-    }
-  }
 }
 
 void DemoHostTest::negotiationAndSignOnOverLoopback() {
@@ -485,7 +464,7 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
     cli.setWorkingDirectory(dir.path());
     cli.start(QStringLiteral(VELTRIX_CLI_PATH), args);
     // The demo host runs in this process: keep its event loop turning while the tool works.
-    QTest::qWaitFor([&] { return cli.state() == QProcess::NotRunning; }, 20000);
+    static_cast<void>(QTest::qWaitFor([&] { return cli.state() == QProcess::NotRunning; }, 20000));
     exit_code = cli.state() == QProcess::NotRunning ? cli.exitCode() : -1;
     return QString::fromUtf8(cli.readAllStandardOutput() + cli.readAllStandardError());
   };

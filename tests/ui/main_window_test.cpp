@@ -178,19 +178,6 @@ class MainWindowTest : public QObject {
     QVERIFY(window_->product_box()->parentWidget() == window_->tool_bar());
   }
 
-  void newAsksWhileModifiedThenOpensTheSheet() {
-    emit window_->product_box()->activated(1);
-    window_->document().modified = true;
-    window_->document().file_name.clear();
-    prompt_->answers = {PromptAnswer::kNo};
-    OnNextSheet(false);
-    window_->ExecuteCommand(kCmdNew);
-    QCOMPARE(prompt_->shown.size(), size_t(1));
-    QCOMPARE(prompt_->shown[0].text, std::string("Save the program ?"));
-    QCOMPARE(prompt_->shown[0].caption, std::string("Veltrix - TN5250"));
-    QVERIFY(!window_->document().modified);
-  }
-
   void configureOkSetsModifiedAndCloseAsks() {
     emit window_->product_box()->activated(1);
     OnNextSheet(true);
@@ -228,26 +215,6 @@ class MainWindowTest : public QObject {
     QCOMPARE(window_->document().product(), 2);
     QCOMPARE(window_->product_box()->currentIndex(), 2);
     QCOMPARE(QString::fromStdString(window_->document().file_name), path);
-  }
-
-  // A 20-byte text file named .QVL: the user is told, and Save does not replace it unasked.
-  void aTextFileIsNotReplacedWithoutAQuestion() {
-    QTemporaryDir folder;
-    const QString path = QDir(folder.path()).filePath("notes.QVL");
-    QFile text(path);
-    QVERIFY(text.open(QIODevice::WriteOnly));
-    text.write("twenty bytes of text");
-    text.close();
-    chooser_->open_result = path.toStdString();
-    OnNextSheet(false);
-    window_->ExecuteCommand(kCmdOpen);
-    QCOMPARE(prompt_->shown.size(), size_t(1));
-    QVERIFY(QString::fromStdString(prompt_->shown[0].text).contains("it is 20 bytes"));
-    prompt_->answers = {PromptAnswer::kCancel};
-    window_->ExecuteCommand(kCmdSave);
-    QCOMPARE(prompt_->shown.size(), size_t(2));
-    QVERIFY(QString::fromStdString(prompt_->shown[1].text).contains("Replace it"));
-    QCOMPARE(QFileInfo(path).size(), 20);
   }
 
   // The real file dialogs: each starts in the folder a file was last chosen in, and is large
