@@ -28,15 +28,20 @@ constexpr int kSymbologyRows = 9;
 // Only product 3 may change the reader and open the RFID settings.
 constexpr int kReaderProduct = 3;
 
+// Hidden controls keep their place, so that the columns stay aligned in both sets.
+template <typename Widget>
+Widget* KeepingItsPlace(Widget* widget) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+  return widget;
+}
+
 QPushButton* MoreButton(const QString& name) {
   auto* button = new QPushButton(QObject::tr("more..."));
   button->setObjectName(name);
   button->setFixedWidth(button->fontMetrics().horizontalAdvance(button->text()) + 14);
-  // Hidden buttons keep their place, so that the columns stay aligned in both sets.
-  QSizePolicy policy = button->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  button->setSizePolicy(policy);
-  return button;
+  return KeepingItsPlace(button);
 }
 
 // A stored value no entry stands for (from a loaded file) selects the nearest entry.
@@ -139,10 +144,7 @@ QWidget* BarcodePage::BuildSymbologies() {
   grid->setVerticalSpacing(2);
   grid->setHorizontalSpacing(4);
   for (int i = 0; i < kPageCheckBoxCount; ++i) {
-    checks_[i] = MakeCheck(QStringLiteral("symbology_%1").arg(i + 1), QString());
-    QSizePolicy policy = checks_[i]->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    checks_[i]->setSizePolicy(policy);
+    checks_[i] = KeepingItsPlace(MakeCheck(QStringLiteral("symbology_%1").arg(i + 1), QString()));
     more_[i] = MoreButton(QStringLiteral("more_%1").arg(i + 1));
     const int row = i % kSymbologyRows;
     const int column = 2 * (i / kSymbologyRows);

@@ -124,9 +124,11 @@ RfidDialog::RfidDialog(Document& doc, QWidget* parent)
 }
 
 void RfidDialog::ShowEnabling() {
-  start_->setEnabled(read_data_->isChecked());
-  max_len_->setEnabled(read_data_->isChecked());
-  delimiter_->setEnabled(use_delimiter_->isChecked());
+  const RfidEnabling enabling = RfidControlsEnabled(
+      {.read_data = read_data_->isChecked(), .use_delimiter = use_delimiter_->isChecked()});
+  start_->setEnabled(enabling.start_and_max_len);
+  max_len_->setEnabled(enabling.start_and_max_len);
+  delimiter_->setEnabled(enabling.delimiter);
 }
 
 // The delimiter shows as a key name while it is in use.
