@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <cctype>
+#include <functional>
 
 #include "resources/text_qt.h"
 #include "settings/page_controls_qt.h"
@@ -28,6 +29,23 @@ QCheckBox* AddCheck(QVBoxLayout* layout, const CheckBoxControl& control, bool ch
   box->setChecked(checked);
   layout->addWidget(box);
   return box;
+}
+
+// The two length boxes ("length_1", "length_2") with their labels, on two rows of `grid` from
+// `row`, showing `values` and corrected under `rule` while `active` says the user types.
+void AddLengthBoxes(QGridLayout* grid, int row, int characters, const NumberBoxRule& rule,
+                    const int (&values)[2], const std::function<bool()>& active,
+                    QLabel* (&labels)[2], QLineEdit* (&edits)[2]) {
+  for (int k = 0; k < 2; ++k) {
+    edits[k] = MakeNumberEdit(QStringLiteral("length_%1").arg(k + 1), characters);
+    edits[k]->setText(QString::number(values[k]));
+    BindNumberBox(edits[k], rule, active);
+    labels[k] = new QLabel;
+    labels[k]->setObjectName(QStringLiteral("length_%1_label").arg(k + 1));
+    labels[k]->setBuddy(edits[k]);
+    grid->addWidget(labels[k], row + k, 0);
+    grid->addWidget(edits[k], row + k, 1, Qt::AlignLeft);
+  }
 }
 
 }  // namespace
@@ -81,16 +99,8 @@ LinearOptionsDialog::LinearOptionsDialog(Document& doc, const LinearOptionDialog
     qualification_->button(state.length.max_min ? 1 : 0)->setChecked(true);
     grid->addLayout(radios, 0, 0, 1, 2);
     const int values[2] = {state.length.first, state.length.second};
-    for (int k = 0; k < 2; ++k) {
-      lengths_[k] = MakeNumberEdit(QStringLiteral("length_%1").arg(k + 1), 3);
-      lengths_[k]->setText(QString::number(values[k]));
-      BindNumberBox(lengths_[k], kLinearLengthBox, [this] { return !loading_; });
-      labels_[k] = new QLabel;
-      labels_[k]->setObjectName(QStringLiteral("length_%1_label").arg(k + 1));
-      labels_[k]->setBuddy(lengths_[k]);
-      grid->addWidget(labels_[k], k + 1, 0);
-      grid->addWidget(lengths_[k], k + 1, 1);
-    }
+    AddLengthBoxes(
+        grid, 1, 3, kLinearLengthBox, values, [this] { return !loading_; }, labels_, lengths_);
     grid->setColumnStretch(2, 1);
     connect(qualification_, &QButtonGroup::idClicked, this, [this] { ShowLengthLabels(); });
     ShowLengthLabels();
@@ -148,16 +158,8 @@ TwoDOptionsDialog::TwoDOptionsDialog(Document& doc, const TwoDOptionDialog& tabl
     option_->setCurrentIndex(state.option);
     AddFormRow(form, row++, tr("Length Option :"), option_);
     const int values[2] = {state.lengths.first, state.lengths.second};
-    for (int k = 0; k < 2; ++k) {
-      lengths_[k] = MakeNumberEdit(QStringLiteral("length_%1").arg(k + 1), 2);
-      lengths_[k]->setText(QString::number(values[k]));
-      BindNumberBox(lengths_[k], kTwoDLengthBox, [this] { return !loading_; });
-      labels_[k] = new QLabel;
-      labels_[k]->setObjectName(QStringLiteral("length_%1_label").arg(k + 1));
-      labels_[k]->setBuddy(lengths_[k]);
-      form->addWidget(labels_[k], row, 0);
-      form->addWidget(lengths_[k], row++, 1, Qt::AlignLeft);
-    }
+    AddLengthBoxes(
+        form, row, 2, kTwoDLengthBox, values, [this] { return !loading_; }, labels_, lengths_);
     connect(option_, &QComboBox::currentIndexChanged, this, [this] { ShowOption(true); });
     ShowOption(false);
   }
