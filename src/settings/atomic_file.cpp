@@ -84,7 +84,7 @@ void FlushFolderOf(const FileCalls& calls, const std::string& path) {
 }  // namespace
 
 const FileCalls& SystemFileCalls() {
-  static const FileCalls calls{OpenFile, ::write, ::fsync, ::close, ::rename, ::unlink};
+  static const FileCalls calls{OpenFile, ::write, ::read, ::fsync, ::close, ::rename, ::unlink};
   return calls;
 }
 

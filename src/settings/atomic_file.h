@@ -9,11 +9,12 @@
 
 namespace veltrix {
 
-// The system calls a whole-file write makes. Tests swap one for a failing stand-in to check that
-// every failure leaves the old file and no temporary file behind.
+// The system calls a whole-file write or read makes. Tests swap one for a failing stand-in to
+// check that every failure leaves the old file and no temporary file behind, or is reported.
 struct FileCalls {
   int (*open)(const char* path, int flags, mode_t mode);
   ssize_t (*write)(int fd, const void* data, std::size_t size);
+  ssize_t (*read)(int fd, void* data, std::size_t size);
   int (*fsync)(int fd);
   int (*close)(int fd);
   int (*rename)(const char* from, const char* to);

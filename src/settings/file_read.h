@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "settings/atomic_file.h"
+
 namespace veltrix {
 
 // What a bounded read found.
@@ -20,7 +22,8 @@ struct FileRead {
 // refused without waiting for a writer ("not a regular file"); any failure is nothing, with the
 // system's reason in `reason`.
 std::optional<FileRead> ReadRegularFile(const std::string& path, std::size_t max_bytes,
-                                        std::string* reason = nullptr);
+                                        std::string* reason = nullptr,
+                                        const FileCalls& calls = SystemFileCalls());
 
 }  // namespace veltrix
 

@@ -1,6 +1,7 @@
 // veltrix-cli run as a program from the transcripts in tests/core/data/cli_transcripts.txt.
 // Each case runs in a fresh working folder; the file's header explains the notation.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <algorithm>
@@ -57,6 +58,7 @@ std::string Quote(const std::string& arg) {
 std::map<std::string, std::vector<std::uint8_t>> Snapshot(const std::filesystem::path& folder) {
   std::map<std::string, std::vector<std::uint8_t>> files;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (!entry.is_regular_file()) continue;  // a FIFO is never read here
     files[entry.path().filename().string()] = ReadBytes(entry.path().string());
   }
   return files;
@@ -64,9 +66,13 @@ std::map<std::string, std::vector<std::uint8_t>> Snapshot(const std::filesystem:
 
 class CliTranscript : public ::testing::TestWithParam<Case> {
  protected:
-  // Writes a file as a "file" line describes it: hex BYTES, fill N BYTE, or
-  // copy SOURCE [first N] [poke OFFSET BYTE].
+  // Writes a file as a "file" line describes it: hex BYTES, fill N BYTE,
+  // copy SOURCE [first N] [poke OFFSET BYTE], or fifo (a FIFO nobody writes to).
   void MakeFile(const std::vector<std::string>& w) {
+    if (w[1] == "fifo") {
+      ASSERT_EQ(0, ::mkfifo(work_.File(w[0]).c_str(), 0600));
+      return;
+    }
     std::vector<std::uint8_t> bytes;
     std::size_t i = 2;
     if (w[1] == "hex") {

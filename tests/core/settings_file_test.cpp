@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -16,6 +17,7 @@
 
 #include "default_document.h"
 #include "settings/atomic_file.h"
+#include "settings/file_read.h"
 #include "settings/screen/screen_pages.h"
 #include "settings_test_files.h"
 
@@ -325,6 +327,20 @@ TEST_F(SettingsFileTest, EveryFailedStepOfASaveLeavesTheOldFile) {
     EXPECT_TRUE(ReadBytes(path) == old_bytes) << step;
     EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(folder_.path()), {})) << step;
   }
+}
+
+// A read that fails half way (a bad disk, a dropped network share) is a reason, not bytes.
+TEST_F(SettingsFileTest, FailedReadGivesTheSystemsReason) {
+  const std::string path = folder_.File("s.QVL");
+  WriteBytes(path, std::vector<std::uint8_t>(5000, 0x42));
+  FileCalls calls = SystemFileCalls();
+  calls.read = [](int, void*, std::size_t) -> ssize_t { return errno = EIO, -1; };
+  std::string reason;
+  EXPECT_FALSE(ReadRegularFile(path, 1000, &reason, calls));
+  EXPECT_EQ(reason, std::strerror(EIO));
+  const std::optional<FileRead> cut = ReadRegularFile(path, 1000);
+  ASSERT_TRUE(cut);
+  EXPECT_TRUE(cut->cut && cut->bytes.size() == 1000 && cut->file_size == 5000);
 }
 
 // What stands at the name decides how a save goes: links are saved through, other kinds of files
