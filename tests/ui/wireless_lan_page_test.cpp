@@ -18,6 +18,7 @@
 #include "settings/network/network_settings.h"
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
+#include "shell/summary.h"
 #include "support/modal.h"
 #include "support/page_test.h"
 
@@ -161,10 +162,10 @@ class WirelessLanPageTest : public QObject {
   }
 
   // Inside the sheet: a key claimed here shows as taken on the Emulation page; Cancel puts the
-  // record back.
+  // record back, OK keeps it and the summary names the key on both sections.
   void insideTheSheet() {
     const SettingsRecord before = doc_->record;
-    {
+    for (const bool ok : {false, true}) {
       SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
       sheet.tabs()->setCurrentIndex(2);
       sheet.page(2)->findChild<QComboBox*>("login_name_key")->setCurrentIndex(7);
@@ -172,12 +173,19 @@ class WirelessLanPageTest : public QObject {
       QCOMPARE(sheet.page(3)->findChild<QLabel*>("key_label_7")->text(), QString("Name Key"));
       QVERIFY(!sheet.page(3)->findChild<QPushButton*>("key_7")->isEnabled());
       sheet.tabs()->setCurrentIndex(2);
+      if (ok) {
+        sheet.accept();
+        break;
+      }
       sheet.show();
       QVERIFY(QTest::qWaitForWindowExposed(&sheet));
       QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("wireless_lan_page.png")));
       sheet.reject();
+      QVERIFY(doc_->record == before);
     }
-    QVERIFY(doc_->record == before);
+    const std::string summary = RenderSummaryText(BuildSummary(*doc_));
+    QVERIFY(summary.find("Login Name Key : FN+7\n") != std::string::npos);
+    QVERIFY(summary.find("FN+7  =>  Name Key\n") != std::string::npos);
   }
 
  private:
