@@ -108,35 +108,5 @@ TEST(EmulationChoices, ExcludeStringKeepsNineteenCharacters) {
   EXPECT_EQ("ABCDEFGHIJKLMNOPQRS", ReadText(doc->record, kExcludeString));
 }
 
-struct EditCase {
-  std::string text;
-  std::uint32_t value;
-  std::optional<std::string> rewrite;
-};
-
-TEST(NumberEdits, ScrollSteps) {
-  for (const EditCase& c : std::vector<EditCase>{{"19", 19, std::nullopt},
-                                                 {"0", 1, "1"},
-                                                 {"", 1, "1"},
-                                                 {"abc", 1, "1"},
-                                                 {"256", 255, "255"},
-                                                 {"007", 7, "7"},
-                                                 {"00", 1, "1"},
-                                                 {"255", 255, std::nullopt}}) {
-    EXPECT_EQ((NumericEdit{c.value, c.rewrite}), ScrollStepEdit(c.text)) << c.text;
-  }
-}
-
-TEST(NumberEdits, ViewOriginAndTimeOut) {
-  EXPECT_EQ((NumericEdit{79, "79"}), ViewOriginEdit("90", 80));
-  EXPECT_EQ((NumericEdit{79, "79"}), ViewOriginEdit("80", 80));
-  EXPECT_EQ((NumericEdit{79, std::nullopt}), ViewOriginEdit("79", 80));
-  EXPECT_EQ((NumericEdit{24, "24"}), ViewOriginEdit("30", 25));
-  EXPECT_EQ((NumericEdit{0, std::nullopt}), ViewOriginEdit("", 25));
-  EXPECT_EQ((NumericEdit{44, std::nullopt}), MessageTimeOutEdit("300"));
-  EXPECT_EQ((NumericEdit{3, std::nullopt}), MessageTimeOutEdit("3"));
-  EXPECT_EQ((NumericEdit{0, std::nullopt}), MessageTimeOutEdit(""));
-}
-
 }  // namespace
 }  // namespace veltrix

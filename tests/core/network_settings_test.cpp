@@ -125,39 +125,5 @@ TEST(NetworkControls, EnablingFollowsDhcpEapAndWep) {
   EXPECT_EQ("192.168.1.241", ReadText(doc->record, kTerminalIp));
 }
 
-struct EditCase {
-  std::string text;
-  std::uint32_t value;
-  std::optional<std::string> rewrite;
-};
-
-void ExpectEdits(NumericEdit (*edit)(std::string_view), const std::vector<EditCase>& cases) {
-  for (const EditCase& c : cases) {
-    EXPECT_EQ((NumericEdit{c.value, c.rewrite}), edit(c.text)) << '"' << c.text << '"';
-  }
-}
-
-TEST(NumberEdits, TelnetPort) {
-  ExpectEdits(TelnetPortEdit, {{"23", 23, std::nullopt},
-                               {"70000", 4464, std::nullopt},
-                               {"65535", 65535, std::nullopt},
-                               {"abc", 0, "0"},
-                               {"12x", 0, "0"},
-                               {"-5", 0, "0"},
-                               {"", 0, std::nullopt},
-                               {"99999999999", 0, "0"}});
-}
-
-TEST(NumberEdits, KeepAlive) {
-  ExpectEdits(KeepAliveEdit, {{"10", 10, std::nullopt},
-                              {"300", 255, "255"},
-                              {"007", 7, "7"},
-                              {"0", 0, std::nullopt},
-                              {"00", 0, "0"},
-                              {"-3", 0, "0"},
-                              {"x", 0, "0"},
-                              {"", 0, "0"}});
-}
-
 }  // namespace
 }  // namespace veltrix

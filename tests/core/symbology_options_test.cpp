@@ -18,51 +18,6 @@
 namespace veltrix {
 namespace {
 
-// ---- numeric boxes -----------------------------------------------------------------------------
-
-struct BoxCase {
-  const char* name;
-  const NumberBoxRule* rule;
-  const char* typed;
-  std::int64_t value;
-};
-
-class NumberBox : public ::testing::TestWithParam<BoxCase> {};
-
-TEST_P(NumberBox, CorrectsWhatIsTyped) {
-  const NumericEdit got = CorrectNumberText(GetParam().typed, *GetParam().rule);
-  EXPECT_EQ(GetParam().value, got.value);
-  EXPECT_EQ(std::to_string(GetParam().value), got.rewrite.value_or(GetParam().typed));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, NumberBox,
-    ::testing::Values(BoxCase{"TimeOutZero", &kTimeOutBox, "0", 1},
-                      BoxCase{"TimeOutTooBig", &kTimeOutBox, "300", 255},
-                      BoxCase{"TimeOutLeadingZeros", &kTimeOutBox, "007", 7},
-                      BoxCase{"TimeOutEmpty", &kTimeOutBox, "", 1},
-                      BoxCase{"TimeOutLetters", &kTimeOutBox, "1a", 1},
-                      BoxCase{"TimeOutNegative", &kTimeOutBox, "-5", 1},
-                      BoxCase{"AimNotANumber", &kAimDurationBox, "x", 0},
-                      BoxCase{"AimZeroStands", &kAimDurationBox, "0", 0},
-                      BoxCase{"AimTooBig", &kAimDurationBox, "256", 255},
-                      BoxCase{"LinearLengthTooBig", &kLinearLengthBox, "200", 127},
-                      BoxCase{"LinearLengthLeadingZero", &kLinearLengthBox, "05", 5},
-                      BoxCase{"LinearLengthZero", &kLinearLengthBox, "0", 1},
-                      BoxCase{"TwoDLengthNotANumber", &kTwoDLengthBox, "?", 0},
-                      BoxCase{"TwoDLengthZeroStands", &kTwoDLengthBox, "0", 0},
-                      BoxCase{"TwoDLengthTooBig", &kTwoDLengthBox, "128", 127},
-                      BoxCase{"RfidMaxLenTooBig", &kRfidLengthBox, "70000", 0},
-                      BoxCase{"RfidMaxLenZero", &kRfidLengthBox, "0", 0},
-                      BoxCase{"RfidMaxLenTop", &kRfidLengthBox, "65279", 65279},
-                      BoxCase{"RfidDelayZero", &kRfidDelayBox, "0", 1},
-                      BoxCase{"RfidDelayTooBig", &kRfidDelayBox, "65280", 1},
-                      BoxCase{"VibratorOutside", &kVibratorBox, "255", 0},
-                      BoxCase{"VibratorTop", &kVibratorBox, "254", 254},
-                      BoxCase{"HugeNumberSaturates", &kTimeOutBox, "99999999999999999999999", 255},
-                      BoxCase{"BlanksAround", &kTimeOutBox, " 12 ", 12}),
-    [](const auto& info) { return std::string(info.param.name); });
-
 // ---- length groups -----------------------------------------------------------------------------
 
 struct PackCase {

@@ -40,7 +40,6 @@ class HostSessionTest : public QObject {
   void errorLineIsResetWithEscape();
   void userDisconnectClosesTheHostSide();
   void sessionLogRecordsTheTrafficLineByLine();
-  void refusedConnectionShowsItsMessage();
   void floodKeepsTheWindowResponsive();
 
  private:
@@ -212,24 +211,6 @@ void HostSessionTest::sessionLogRecordsTheTrafficLineByLine() {
   QVERIFY(lines.last().startsWith(QStringLiteral("Close:")));
   // Everything the host received is in the log's send lines.
   QCOMPARE(SentBytesInLog(lines), server_->receivedBytes());
-}
-
-void HostSessionTest::refusedConnectionShowsItsMessage() {
-  // A port that nobody listens on: take one and close it again.
-  QTcpServer probe;
-  QVERIFY(probe.listen(QHostAddress::LocalHost, 0));
-  const quint16 port = probe.serverPort();
-  probe.close();
-  QVERIFY(!Connect(true, port));
-  QTRY_COMPARE(errors_, QStringList{QStringLiteral("Can not establish connection")});
-  QVERIFY(!host_->connected());
-  // The log says where to and why.
-  const QStringList lines = LogLines();
-  QCOMPARE(lines.size(), 2);
-  QVERIFY(lines[0].startsWith(QStringLiteral("Failed:")));
-  QCOMPARE(
-      lines[1],
-      QStringLiteral("Can not establish connection to 127.0.0.1:%1: Connection refused").arg(port));
 }
 
 // A host writing screens as fast as loopback takes them: the session keeps up and stays
