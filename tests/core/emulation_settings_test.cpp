@@ -80,28 +80,6 @@ TEST(EmulationChoices, LanguageSetsFontAndSteps) {
   }
 }
 
-TEST(EmulationChoices, SameFontSizeKeepsHandEditedSteps) {
-  auto doc = testing::DefaultDocument(1);
-  WriteNumber(doc->record, kHorizontalSteps, 50);
-  EXPECT_FALSE(ChooseFontSize(*doc, 0));
-  EXPECT_EQ(50u, ReadNumber(doc->record, kHorizontalSteps));
-  EXPECT_TRUE(ChooseFontSize(*doc, 1));
-  EXPECT_EQ(14u, ReadNumber(doc->record, kHorizontalSteps));
-  EXPECT_EQ(3u, ReadNumber(doc->record, kVerticalSteps));
-}
-
-TEST(EmulationChoices, LockScreenAndCursorTrackingAreComplements) {
-  auto doc = testing::DefaultDocument(1);
-  SetLockScreen(*doc, true);
-  EXPECT_EQ(1u, ReadNumber(doc->record, kLockScreen));
-  EXPECT_EQ(0u, ReadNumber(doc->record, kCursorTracking));
-  SetCursorTracking(*doc, true);
-  EXPECT_EQ(0u, ReadNumber(doc->record, kLockScreen));
-  EXPECT_EQ(1u, ReadNumber(doc->record, kCursorTracking));
-  SetCursorTracking(*doc, false);
-  EXPECT_EQ(1u, ReadNumber(doc->record, kLockScreen));
-}
-
 TEST(EmulationChoices, ExcludeStringKeepsNineteenCharacters) {
   auto doc = testing::DefaultDocument(1);
   WriteText(doc->record, kExcludeString, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");

@@ -50,47 +50,11 @@ TEST_F(SystemEditorTest, InitialiseStartsOnTheFirstScreen) {
   EXPECT_EQ("1. Telnet   ", editor_->Rows()[0].text);
 }
 
-TEST_F(SystemEditorTest, NumberEditsAreCorrectedAndStored) {
-  EXPECT_EQ("300", Type("auto_power_off", "0300").rewrite.value_or(""));
-  EXPECT_EQ(44, doc_->record[26]);
-  EXPECT_EQ(1, doc_->record[62]);
-  EXPECT_EQ(300, Shown("auto_power_off"));
-  Type("idle", "12");
-  EXPECT_EQ(9, doc_->record[29]);
-  Type("idle", "0");
-  EXPECT_EQ(1, doc_->record[29]);
-}
-
 TEST_F(SystemEditorTest, ValuesOutsideTheFieldRangeAreIgnored) {
   Choose("download_via", 2);
   Choose("download_via", -1);  // a combo without selection
   Choose("download_via", 4);
   EXPECT_EQ(2, Shown("download_via"));
-}
-
-TEST_F(SystemEditorTest, ResetBringsBackDefaultsAndTheFirstScreen) {
-  Type("auto_power_off", "300");
-  editor_->SelectScreen(2);
-  editor_->EditPromptLine(0, "changed");
-  Type("password", "42");
-  editor_->Reset();
-  EXPECT_EQ(180, Shown("auto_power_off"));
-  EXPECT_EQ("", ReadText(doc_->record, kPassword));
-  EXPECT_EQ(0, editor_->prompts().selected());
-  EXPECT_EQ("1. Subnet Mask  ", ReadText(doc_->record, kPromptText, PromptSlot(2, 0)));
-  EXPECT_EQ("1. Subnet Mask  ", editor_->prompts().Line(2, 0));
-}
-
-TEST_F(SystemEditorTest, CancelWithoutApplyRestoresTheSnapshot) {
-  const SettingsRecord before = doc_->record;
-  Choose("power_on", 1);
-  Type("password", "secret");
-  editor_->EditPromptLine(1, "x");
-  editor_->Reset();
-  Type("auto_power_off", "0300");
-  EXPECT_TRUE(snapshot_.RestoreOnCancel(*doc_));
-  EXPECT_EQ(before, doc_->record);
-  EXPECT_FALSE(doc_->modified);
 }
 
 TEST_F(SystemEditorTest, ApplyPadsSetsModifiedAndCancelThenKeepsTheRecord) {

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "tn5250/code_tables.h"
 #include "tn5250/field_table.h"
+#include "support/case_file.h"
 #include "tn5250/presentation_space.h"
 
 namespace veltrix {
@@ -72,27 +74,21 @@ TEST(PresentationSpaceTest, ErrorRowIsTakenAsItStandsWithinThePlanes) {
   }
 }
 
-struct CodeCase {
-  int language;
-  std::uint8_t host;
-  std::uint8_t display;
-};
-
-class CodeTableTest : public ::testing::TestWithParam<CodeCase> {};
-
-TEST_P(CodeTableTest, HostAndDisplayCodesCorrespond) {
-  const CodeCase c = GetParam();
-  EXPECT_EQ(HostToDisplay(c.language, c.host), c.display);
-  EXPECT_EQ(HostToDisplay(c.language, DisplayToHost(c.language, c.display)), c.display);
+std::vector<std::vector<std::string>> Rows(const std::string& table) {
+  auto rows = testing::CaseRows("presentation_space.txt", table);
+  EXPECT_FALSE(rows.empty()) << table;
+  return rows;
 }
 
-INSTANTIATE_TEST_SUITE_P(Tables, CodeTableTest,
-                         ::testing::Values(CodeCase{0, 0xC1, 'A'}, CodeCase{0, 0x81, 'a'},
-                                           CodeCase{0, 0xF0, '0'}, CodeCase{0, 0x4A, '['},
-                                           CodeCase{0, 0x5A, ']'}, CodeCase{3, 0x7C, '@'},
-                                           CodeCase{5, 0x41, 0xC1}, CodeCase{5, 0xB1, 0xDC},
-                                           CodeCase{6, 0x7C, 0xE0}, CodeCase{6, 0xC0, 0xE9},
-                                           CodeCase{4, 0x81, 0xB1}, CodeCase{4, 0x4A, 0xA0}));
+TEST(CodeTableTest, HostAndDisplayCodesCorrespond) {
+  for (const auto& row : Rows("codes")) {
+    const int language = std::stoi(row[0]);
+    const auto host = static_cast<std::uint8_t>(std::stoul(row[1], nullptr, 16));
+    const auto display = static_cast<std::uint8_t>(std::stoul(row[2], nullptr, 16));
+    EXPECT_EQ(HostToDisplay(language, host), display) << row[1];
+    EXPECT_EQ(HostToDisplay(language, DisplayToHost(language, display)), display) << row[2];
+  }
+}
 
 TEST(CodeTableTest, SpecialBytes) {
   for (int language = 0; language <= 6; ++language) {
@@ -116,53 +112,15 @@ FieldRecord Field(int row, int column, int length) {
   return f;
 }
 
-struct FieldAtCase {
-  const char* name;
-  int row, column, length;  // the field
-  int at_row, at_column;    // the cell asked about
-  bool inside;
-};
-
-class FieldAtTest : public ::testing::TestWithParam<FieldAtCase> {};
-
-TEST_P(FieldAtTest, FollowsTheRows) {
-  const FieldAtCase& c = GetParam();
-  EXPECT_EQ(FieldTable::FieldAt(Field(c.row, c.column, c.length), c.at_column, c.at_row, 80),
-            c.inside);
+TEST(FieldTableTest, FieldAtFollowsTheRows) {
+  for (const auto& row : Rows("field_at")) {
+    std::vector<int> n;
+    for (const std::string& word : row) n.push_back(std::stoi(word));
+    EXPECT_EQ(FieldTable::FieldAt(Field(n[0], n[1], n[2]), n[4], n[3], 80), n[5] == 1)
+        << n[0] << "," << n[1] << "+" << n[2] << " at "
+        << n[3] << "," << n[4];
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cells, FieldAtTest,
-    ::testing::Values(
-        // Row 5 columns 70-79, then row 6 columns 0-9.
-        FieldAtCase{"WrapFirstCell", 5, 70, 20, 5, 70, true},
-        FieldAtCase{"WrapEndOfFirstRow", 5, 70, 20, 5, 79, true},
-        FieldAtCase{"WrapLastCell", 5, 70, 20, 6, 9, true},
-        FieldAtCase{"WrapAfterLastCell", 5, 70, 20, 6, 10, false},
-        FieldAtCase{"WrapLeftOfStart", 5, 70, 20, 5, 69, false},
-        FieldAtCase{"WrapRowBefore", 5, 70, 20, 4, 75, false},
-        // Rows 2 to 4, ending at row 4 column 49.
-        FieldAtCase{"SpansMiddleRow", 2, 10, 200, 3, 0, true},
-        FieldAtCase{"SpansLastCell", 2, 10, 200, 4, 49, true},
-        FieldAtCase{"SpansAfterLastCell", 2, 10, 200, 4, 50, false},
-        FieldAtCase{"SpansLeftOfStart", 2, 10, 200, 2, 9, false},
-        // A field on one row also holds the cells left of its first cell on that row.
-        FieldAtCase{"OneRowFirstCell", 3, 20, 5, 3, 20, true},
-        FieldAtCase{"OneRowLastCell", 3, 20, 5, 3, 24, true},
-        FieldAtCase{"OneRowAfterLastCell", 3, 20, 5, 3, 25, false},
-        FieldAtCase{"OneRowAttributeCell", 3, 20, 5, 3, 19, true},
-        FieldAtCase{"OneRowColumnZero", 3, 20, 5, 3, 0, true},
-        FieldAtCase{"OneRowRowAfter", 3, 20, 5, 4, 0, false},
-        FieldAtCase{"OneRowRowBefore", 3, 20, 5, 2, 22, false},
-        // Ending on the last column it reaches the next row (with no cell there), so the cells
-        // left of its first cell are outside.
-        FieldAtCase{"ToRowEndLeftOfStart", 1, 70, 10, 1, 3, false},
-        FieldAtCase{"ToRowEndLastCell", 1, 70, 10, 1, 79, true},
-        FieldAtCase{"ToRowEndNextRow", 1, 70, 10, 2, 0, false},
-        // Ending exactly at a row's end: the next row holds no cell of it.
-        FieldAtCase{"FullRowsNextRow", 1, 0, 160, 3, 0, false},
-        FieldAtCase{"FullRowsLastCell", 1, 0, 160, 2, 79, true}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(FieldTableTest, NoFieldHoldsNothing) {
   EXPECT_FALSE(FieldTable::FieldAt(FieldRecord{}, 0, 0, 80));

@@ -2,6 +2,7 @@
 #define VELTRIX_TESTS_SUPPORT_CASE_FILE_H_
 
 #include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,25 @@ inline std::vector<DataCase> ReadDataCases(const std::string& name) {
     }
   }
   return cases;
+}
+
+// The blank-separated words of a case line.
+inline std::vector<std::string> Words(const std::string& line) {
+  std::istringstream in(line);
+  std::vector<std::string> words;
+  for (std::string word; in >> word;) words.push_back(word);
+  return words;
+}
+
+// The case named `name` of tests/core/data/`file`: its lines as words (nothing when missing).
+inline std::vector<std::vector<std::string>> CaseRows(const std::string& file,
+                                                      const std::string& name) {
+  std::vector<std::vector<std::string>> rows;
+  for (const DataCase& c : ReadDataCases(file)) {
+    if (c.name != name) continue;
+    for (const CaseLine& line : c.lines) rows.push_back(Words(line.text));
+  }
+  return rows;
 }
 
 }  // namespace veltrix::testing

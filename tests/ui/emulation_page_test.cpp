@@ -87,12 +87,6 @@ class EmulationPageTest : public QObject {
     QTEST(int(BoundValue(*doc_, *b)), "stored");
   }
 
-  void excludeStringKeepsNineteenCharacters() {
-    Type("exclude_string", "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kExcludeString)),
-             QString("ABCDEFGHIJKLMNOPQRS"));
-  }
-
   void cursorTrackingAndLockScreenExcludeEachOther() {
     Find<QCheckBox>("lock_screen")->click();
     QVERIFY(!Find<QCheckBox>("cursor_tracking")->isChecked());

@@ -105,23 +105,6 @@ class MainWindowTest : public QObject {
     QCOMPARE(window_->statusBar()->currentMessage(), QString("Stop capture screen"));
   }
 
-  void summaryViewShowsNodesCollapsedAndReplacesThem() {
-    SummaryView view;
-    SummaryNode system{"System", {}};
-    system.Add("Key Click : Enable");
-    system.Add("Security").Add("Password : ");
-    view.ShowSummary({SummaryNode{"Information", {}}, system});
-    QCOMPARE(view.topLevelItemCount(), 2);
-    QTreeWidgetItem* item = view.topLevelItem(1);
-    QCOMPARE(item->text(0), QString("System"));
-    QCOMPARE(item->childCount(), 2);
-    QCOMPARE(item->child(1)->child(0)->text(0), QString("Password : "));
-    QVERIFY(!item->isExpanded());
-    QVERIFY(!item->child(1)->isExpanded());
-    view.ShowSummary({});
-    QCOMPARE(view.topLevelItemCount(), 0);
-  }
-
   // Open branches stay open when the tree is rebuilt; Copy gives the branch as indented lines.
   void treeKeepsOpenBranchesAndCopies() {
     window_->product_box()->setCurrentIndex(1);
@@ -150,11 +133,7 @@ class MainWindowTest : public QObject {
     window_->product_box()->setCurrentIndex(1);
     emit window_->product_box()->activated(1);
     SummaryView* tree = window_->summary_view();
-    QStringList sections;
-    for (int i = 0; i < tree->topLevelItemCount(); ++i) sections << tree->topLevelItem(i)->text(0);
-    QCOMPARE(sections, QStringList({"Information", "System", "Bardode", "Wireless LAN", "Emulation",
-                                    "Screen"}));
-    QVERIFY(tree->topLevelItem(0)->child(0)->text(0).startsWith("Terminal Model : "));
+    QCOMPARE(tree->topLevelItemCount(), 6);  // the sections and their order are the core's
     QVERIFY(tree->topLevelItem(0)->child(0)->text(0).endsWith("Dravin S"));
     QCOMPARE(window_->document().product(), 1);
   }

@@ -191,11 +191,6 @@ class SystemPageTest : public QObject {
              QString("1. Subnet Mask").leftJustified(20));
   }
 
-  void applyPadsTheTexts() {
-    page_->Apply(*doc_);
-    QCOMPARE(ReadText(doc_->record, kPromptText, 0).size(), std::size_t{40});
-  }
-
   // Through the real sheet: a change on this page is undone by Cancel, kept by OK.
   void sheetCancelRestoresAndOkKeeps() {
     const SettingsRecord before = doc_->record;
