@@ -11,6 +11,7 @@
 
 #include "download/cradle_ir_setup.h"
 #include "download/srecord_framer.h"
+#include "support/case_file.h"
 
 namespace veltrix {
 namespace {
@@ -279,90 +280,37 @@ TEST(ProgramDownload, HandshakeErasePauseFramesEndFrame) {
   EXPECT_EQ(o.messages, std::vector<std::string>{"Download: Downloaded completely!"});
 }
 
-struct ProgramCase {
-  const char* name;
-  std::vector<std::string> script;
-  std::vector<std::string> tokens;  // the text sends before the first frame
-  std::vector<std::string> messages;
-  std::int64_t ended_at = -1;  // -1: not checked
-};
-
-TEST(ProgramDownload, HandshakeAndEraseReplies) {
-  const std::string retry = "? Download: Failed to download, would you like to retry?";
-  const ProgramCase cases[] = {
-      {"FN to the lone carriage return skips the wake-up", {"FN", "FA"}, {"\r", ":ERASE\r"}},
-      {"FF to the lone carriage return is ready too", {"FF", "FA"}, {"\r", ":ERASE\r"}},
-      {"FN to PALDREX", {"-", "FN", "FA"}, {"\r", "PALDREX\r", ":ERASE\r"}},
-      {"not ready after three passes",
-       {"-", "ACK1", "X", "-", "-", "-", "-"},
-       {"\r", "PALDREX\r", "DOWNLOAD\r", "\r", "PALDREX\r", "\r", "PALDREX\r"},
-       {"Download: Terminal is not ready!", retry}},
-      {"FB then FA erases", {"FN", "FB", "FA"}, {"\r", ":ERASE\r"}},
-      {"FB then another reply",
-       {"FN", "FB", "FX"},
-       {"\r", ":ERASE\r"},
-       {"Download: Failed to erase flash memory!", retry}},
-      {"silent erase asks once more",
-       {"FN", "-", "-", "-"},
-       {"\r", ":ERASE\r", ":ERASE\r"},
-       {"Download: Can't erase flash memory!", retry},
-       1 + 3 * (kReplyDeadlineMs + 1)},
-      // FN at 1 s and at 5 s keeps the erase waiting until 5 s after the last FN.
-      {"FN keeps the erase waiting",
-       {"FN", "FN", "-", "FN", "-", "-", "-"},
-       {"\r", ":ERASE\r", ":ERASE\r"},
-       {"Download: Can't erase flash memory!", retry}},
-  };
-  for (const ProgramCase& c : cases) {
-    SCOPED_TRACE(c.name);
+// The cases of tests/core/data/program_download.txt.
+TEST(ProgramDownload, HandshakeEraseAndFrameReplies) {
+  const auto cases = testing::ReadDataCases("program_download.txt");
+  ASSERT_FALSE(cases.empty());
+  for (const testing::DataCase& c : cases) {
+    SCOPED_TRACE("line " + std::to_string(c.number) + ": " + c.name);
+    Terminal terminal;
+    std::vector<std::string> tokens, messages;
+    std::int64_t ended = -1;
+    for (const testing::CaseLine& line : c.lines) {
+      std::vector<std::string> words = testing::Words(line.text);
+      const std::string verb = words.front();
+      words.erase(words.begin());
+      if (verb == "replies") terminal.script.assign(words.begin(), words.end());
+      if (verb == "otherwise") terminal.otherwise = [r = words[0]](const auto&) { return r; };
+      if (verb == "sends") {
+        for (const std::string& w : words) tokens.push_back(w == "CR" ? "\r" : w + "\r");
+      }
+      if (verb == "message") messages.push_back(line.text.substr(8));
+      if (verb == "ended") ended = std::stoll(words[0]);
+    }
     MemoryProgramSource program(Program({Record("3", 0, 4, 4), Record("9", 0, 2, 0)}));
     DownloadEngine engine(DownloadVia::kRs232, program);
-    Outcome o =
-        Drive(engine, {.script = {c.script.begin(), c.script.end()}, .otherwise = AlwaysFa});
-    std::vector<std::string> tokens;
+    Outcome o = Drive(engine, terminal);
+    std::vector<std::string> sent_tokens;
     for (const auto& s : o.sent) {
-      if (s.size() > 0 && s[0] != 'S') tokens.push_back(Text(s));
+      if (s.size() > 0 && s[0] != 'S') sent_tokens.push_back(Text(s));
     }
-    EXPECT_EQ(tokens, c.tokens);
-    const std::vector<std::string> success{"Download: Downloaded completely!"};
-    EXPECT_EQ(o.messages, c.messages.empty() ? success : c.messages);
-    if (c.ended_at >= 0) EXPECT_EQ(o.ended_at, c.ended_at);
-  }
-}
-
-TEST(ProgramDownload, FrameReplies) {
-  const ProgramCase cases[] = {
-      {"FN sends again at once",
-       {"FN", "FA", "FN", "FA"},
-       {},
-       {"Download: Downloaded completely!"}},
-      {"FF gives up", {"FN", "FA", "FN", "FF"}, {}, {"Download: Error on downloading!"}},
-      {"two looks, one unseen reply, then a resend",
-       {"FN", "FA", "X", "Y", "Z", "FA"},
-       {},
-       {"Download: Downloaded completely!"}},
-      // Three sends with three reply periods each: 22.5 s, the caption the last reply (none).
-      {"a silent terminal times out",
-       {"FN", "FA"},
-       {},
-       {": Error : Time out !!"},
-       2 + 2000 + 9 * (kReplyDeadlineMs + 1)},
-      {"the caption is the last reply",
-       {"FN", "FA", "A", "B", "C", "D", "E", "F", "G", "H", "I"},
-       {},
-       {"I: Error : Time out !!"}},
-  };
-  for (const ProgramCase& c : cases) {
-    SCOPED_TRACE(c.name);
-    MemoryProgramSource program(Program({Record("3", 0, 4, 4), Record("9", 0, 2, 0)}));
-    DownloadEngine engine(DownloadVia::kRs232, program);
-    Outcome o = Drive(engine, {.script = {c.script.begin(), c.script.end()}});
-    if (c.messages.front().starts_with("Download: Downloaded")) {
-      EXPECT_EQ(o.messages, c.messages);
-    } else {
-      EXPECT_EQ(o.messages.front(), c.messages.front());
-    }
-    if (c.ended_at >= 0) EXPECT_EQ(o.ended_at, c.ended_at);
+    if (!tokens.empty()) EXPECT_EQ(sent_tokens, tokens);
+    EXPECT_EQ(o.messages, messages);
+    if (ended >= 0) EXPECT_EQ(o.ended_at, ended);
   }
 }
 

@@ -3,11 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <map>
 #include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "settings/document.h"
 #include "settings/field_values.h"
 #include "settings/screen/screen_pages.h"
+#include "support/case_file.h"
 
 namespace veltrix {
 namespace {
@@ -59,33 +64,33 @@ TEST(Field, TextKeepsRoomForItsNul) {
   EXPECT_EQ('#', record[9]);  // behind the field
 }
 
+// The "|"-separated columns of each line of a table in tests/core/data/field_values.txt.
+std::vector<std::vector<std::string>> Table(const std::string& name) {
+  std::vector<std::vector<std::string>> rows;
+  for (const testing::DataCase& c : testing::ReadDataCases("field_values.txt")) {
+    if (c.name != name) continue;
+    for (const testing::CaseLine& line : c.lines) {
+      std::vector<std::string>& row = rows.emplace_back();
+      std::stringstream in(line.text);
+      for (std::string column; std::getline(in, column, '|');) {
+        const auto first = column.find_first_not_of(' ');
+        row.push_back(first == std::string::npos
+                          ? ""
+                          : column.substr(first, column.find_last_not_of(' ') - first + 1));
+      }
+      if (line.text.ends_with('|')) row.push_back("");
+    }
+  }
+  EXPECT_FALSE(rows.empty()) << name;
+  return rows;
+}
+
 TEST(FieldValues, LooksUpNamesWithIndices) {
-  const struct {
-    const char* name;
-    std::size_t elements;  // 0 = refused
-  } cases[] = {
-      {"TotalPages", 1},
-      {"HostRow[2][3]", 1},
-      {"HostRow[2]", 24},
-      {"HostRow", 1200},
-      {"ReformatPageTo[49]", 1},
-      {"Nope", 0},
-      {"HostRow[50][0]", 0},
-      {"HostRow[0][24]", 0},
-      {"HostRow[-1][0]", 0},
-      {"HostRow[1][2][3]", 0},
-      {"TotalPages[0]", 0},
-      {"HostRow[x]", 0},
-      {"HostRow[1", 0},
-      {"HostRow[]", 0},
-      {"HostRow]", 0},
-      {"HostRow[1]x", 0},
-      {"", 0},
-  };
-  for (const auto& c : cases) {
-    const ElementLookup lookup = LookUpElement(c.name);
-    EXPECT_EQ(c.elements != 0, lookup.ok()) << c.name << ": " << lookup.error;
-    if (lookup.ok()) EXPECT_EQ(c.elements, ElementsOf(lookup).size()) << c.name;
+  for (const auto& row : Table("lookups")) {
+    const std::size_t elements = std::stoul(row[1]);
+    const ElementLookup lookup = LookUpElement(row[0]);
+    EXPECT_EQ(elements != 0, lookup.ok()) << row[0] << ": " << lookup.error;
+    if (lookup.ok()) EXPECT_EQ(elements, ElementsOf(lookup).size()) << row[0];
   }
   const ElementLookup one = LookUpElement("TerminalScreen[4][7]");
   ASSERT_TRUE(one.single());
@@ -94,47 +99,23 @@ TEST(FieldValues, LooksUpNamesWithIndices) {
 }
 
 TEST(FieldValues, StoresAndFormatsEveryKind) {
-  const struct {
-    const FieldDef& field;
-    const char* value;
-    const char* formatted;  // nullptr = refused
-  } cases[] = {
-      {kByte, "42", "42"},
-      {kByte, "+7", "7"},
-      {kByte, "100", nullptr},
-      {kByte, "-1", nullptr},
-      {kByte, "", nullptr},
-      {kByte, "4x", nullptr},
-      {kByte, "1.5", nullptr},
-      {kWord, "65535", "65535"},
-      {kWord, "65536", nullptr},
-      {kBits, "7", "7"},
-      {kBits, "8", nullptr},
-      {kSplit, "600", "600"},
-      {kSplit, "601", nullptr},
-      {kText, "abc", "abc"},
-      {kText, "", ""},
-      {kText, "abcd", nullptr},
-      {kRaw, "0D 41 ff", "0D 41 FF"},
-      {kRaw, "0d41", "0D 41 00"},
-      {kRaw, "", "00 00 00"},
-      {kRaw, "0D 4", nullptr},
-      {kRaw, "GG", nullptr},
-      {kRaw, "01 02 03 04", nullptr},
-  };
-  for (const auto& c : cases) {
+  const std::map<std::string, const FieldDef*> fields = {
+      {"Byte", &kByte}, {"Word", &kWord}, {"Bits", &kBits},
+      {"Split", &kSplit}, {"Text", &kText}, {"Raw", &kRaw}};
+  for (const auto& row : Table("values")) {
+    const FieldDef& field = *fields.at(row[0]);
+    const std::string where = row[0] + "=" + row[1];
     std::array<std::uint8_t, 16> record{};
     record.fill(0x5A);
     const std::array<std::uint8_t, 16> before = record;
-    const FieldElement element{&c.field};
-    const std::string refused = StoreElementValue(record, element, c.value);
-    if (c.formatted) {
-      EXPECT_EQ("", refused) << c.field.name << "=" << c.value;
-      EXPECT_EQ(c.formatted, FormatElementValue(record, element)) << c.field.name;
+    const FieldElement element{&field};
+    const std::string refused = StoreElementValue(record, element, row[1]);
+    if (row[2] != "refused") {
+      EXPECT_EQ("", refused) << where;
+      EXPECT_EQ(row[2], FormatElementValue(record, element)) << where;
     } else {
-      EXPECT_NE("", refused) << c.field.name << "=" << c.value;
-      EXPECT_NE(std::string::npos, refused.find(c.field.name)) << refused;
-      EXPECT_TRUE(record == before) << c.field.name << "=" << c.value << " wrote something";
+      EXPECT_NE(std::string::npos, refused.find(field.name)) << where << ": " << refused;
+      EXPECT_TRUE(record == before) << where << " wrote something";
     }
   }
 }

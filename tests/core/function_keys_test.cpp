@@ -133,16 +133,6 @@ TEST(FunctionKeyCombo, RefusesKeysOfOtherRolesAndMovesItsOwnClaim) {
   EXPECT_EQ(Code5("1B 5B 32 31 7E"), StoredKeyCode(*doc, 0));
 }
 
-TEST(FunctionKeyCombo, DisableMapsTheKeyBackToItsPfKey) {
-  auto doc = testing::DefaultDocument(1);
-  ApplyFunctionKeyCombo(*doc, kLoginNameKey, 0, 2, kRoleNameKey);
-  EXPECT_EQ("Name Key", MappingLabel(*doc, 2));
-  EXPECT_FALSE(MappingRowEnabled(*doc, 2));
-  ApplyFunctionKeyCombo(*doc, kLoginNameKey, 2, 0, kRoleNameKey);
-  EXPECT_EQ("PF2", MappingLabel(*doc, 2));
-  EXPECT_TRUE(MappingRowEnabled(*doc, 2));
-}
-
 TEST(FunctionKeyCombo, KeyMappedToAnOrdinaryHostKeyIsTakenOver) {
   auto doc = testing::DefaultDocument(1);
   ApplyKeyMappingChoice(*doc, 6, 0, 13, KeyCodeTableEntry(*doc, 0, 13));
@@ -151,17 +141,7 @@ TEST(FunctionKeyCombo, KeyMappedToAnOrdinaryHostKeyIsTakenOver) {
   EXPECT_EQ("Message Key", MappingLabel(*doc, 6));
 }
 
-TEST(FunctionKeyCombo, KeyFieldsKnowTheirRoles) {
-  EXPECT_EQ(kRoleNameKey, RoleOfKeyField(kLoginNameKey));
-  EXPECT_EQ(kRolePasswordKey, RoleOfKeyField(kLoginPasswordKey));
-  EXPECT_EQ(kRoleExitKey, RoleOfKeyField(kLogoutKey));
-  EXPECT_EQ(kRoleNavigatorKey, RoleOfKeyField(kNavigatorKey));
-  EXPECT_EQ(kRoleMessageKey, RoleOfKeyField(kMessageFunctionKey));
-  if (const FieldDef* switch_key = FindField("ScanSwitchKeyName")) {
-    EXPECT_EQ(kRoleSwitchKey, RoleOfKeyField(*switch_key));
-  }
-  EXPECT_EQ(0, RoleOfKeyField(kTelnetPort));
-
+TEST(FunctionKeyCombo, OnlyAnotherRolesKeyIsTaken) {
   auto doc = testing::DefaultDocument(1);
   ClaimFunctionKey(*doc, 4, kRoleExitKey);
   EXPECT_TRUE(IsFunctionKeyTaken(*doc, 0, 4));

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -129,74 +128,6 @@ TEST(TwoDOptionDialogs, Code39OpeningClearsItsSpareBitsEvenWhenCancelled) {
   OpenTwoDOptions(*doc, *FindTwoDOptionDialog("CODE39_2D_DLG"));
   EXPECT_EQ(0x83, BlockByte(*doc, 58664));
 }
-
-struct TwoDApplyCase {
-  const char* name;
-  const char* dialog;
-  std::function<void(Document&)> before;  // block contents before opening
-  std::function<void(TwoDOptionState&)> change;
-  std::uint32_t offset;
-  std::vector<std::uint8_t> want;
-};
-
-class TwoDOptionApply : public ::testing::TestWithParam<TwoDApplyCase> {};
-
-TEST_P(TwoDOptionApply, PacksTheControlsIntoTheWorkingBlock) {
-  auto doc = testing::DefaultDocument(1);
-  if (GetParam().before) GetParam().before(*doc);
-  const TwoDOptionDialog& dialog = *FindTwoDOptionDialog(GetParam().dialog);
-  TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
-  GetParam().change(state);
-  ApplyTwoDOptions(*doc, dialog, state);
-  for (std::size_t i = 0; i < GetParam().want.size(); ++i) {
-    EXPECT_EQ(GetParam().want[i], BlockByte(*doc, GetParam().offset + i))
-        << "byte " << GetParam().offset + i;
-  }
-}
-
-void SetBits(Document& doc, std::uint32_t offset, std::uint8_t bits) {
-  doc.reader_block1[offset - 58659] |= bits;
-}
-
-// clang-format off
-using S = TwoDOptionState;
-const TwoDApplyCase kTwoDApplyCases[] = {
-    {"Code39TwoLengths", "CODE39_2D_DLG", nullptr,
-     [](S& s) { s.checked = {true, true, true}; s.option = kTwoLengths; s.lengths = {6, 10}; }, 58664, {0x8E, 0x8A, 0x06}},
-    {"Code39OkClearsSpareBits", "CODE39_2D_DLG", [](Document& d) { SetBits(d, 58664, 0x30); },
-     [](S&) {}, 58664, {0x83}},
-    {"Code93AnyLength", "CODE93_2D_DLG", nullptr,
-     [](S& s) { s.option = kAnyLength; }, 58667, {0x00, 0, 0}},
-    {"Code11ChecksAndRange", "CODE11_2D_DLG", nullptr,
-     [](S& s) { s.checked = {true, true}; s.lengths = {6, 10}; }, 58670, {0x78, 6, 10}},
-    {"Industrial25RangeBothZeroIsAny", "INDUSTRIAL25_2D_DLG", nullptr,
-     [](S& s) { s.option = kLengthRange; s.lengths = {0, 0}; }, 58676, {0x00, 0, 0}},
-    {"Interleave25Uss", "INTERLEAVE25_2D_DLG", nullptr,
-     [](S& s) { s.chosen[0] = 1; }, 58673, {0xC4}},
-    {"Interleave25Opcc", "INTERLEAVE25_2D_DLG", [](Document& d) { SetBits(d, 58673, 0x40); },
-     [](S& s) { s.chosen[0] = 2; }, 58673, {0x86}},
-    {"Interleave25NoVerifyAndChecks", "INTERLEAVE25_2D_DLG", [](Document& d) { SetBits(d, 58673, 0x42); },
-     [](S& s) { s.chosen[0] = 0; s.checked = {true, true}; }, 58673, {0xB4}},
-    {"CodabarNotisClearsBit6", "CODABAR_2D_DLG", [](Document& d) { SetBits(d, 58679, 0x40); },
-     [](S& s) { s.checked[0] = true; }, 58679, {0x38}},
-    {"MsiOneCheckDigitDropsTheAlgorithm", "MSI_2D_DLG", nullptr,
-     [](S& s) { s.chosen = {1, 0}; s.checked[0] = true; }, 58682, {0x2C}},
-    {"MsiTwoCheckDigitsKeepTheAlgorithm", "MSI_2D_DLG", nullptr,
-     [](S& s) { s.chosen = {1, 1}; }, 58682, {0x5C}},
-    {"UpcaPreambleAndCouponClearBit0", "UPCA_2D_DLG", [](Document& d) { SetBits(d, 58659, 0x01); },
-     [](S& s) { s.chosen[0] = 2; s.checked = {false, true}; }, 58659, {0xDA, 0x95}},
-    {"Upce1Options", "UPCE1_2D_DLG", nullptr,
-     [](S& s) { s.chosen[0] = 0; s.checked = {false, true, false}; }, 58660, {0x53, 0x20}},
-    {"Ean8Convert", "EAN8_2D_DLG", nullptr,
-     [](S& s) { s.checked[0] = true; s.chosen[0] = 1; }, 58661, {0x92}},
-    {"PostalSomeOff", "POSTAL_2D_DLG", nullptr,
-     [](S& s) { s.checked[0] = false; s.checked[7] = false; }, 58685, {0x7E}},
-    {"Rss14Convert", "RSS14_2D_DLG", nullptr, [](S& s) { s.checked[0] = true; }, 58687, {0xF0}},
-};
-// clang-format on
-
-INSTANTIATE_TEST_SUITE_P(Cases, TwoDOptionApply, ::testing::ValuesIn(kTwoDApplyCases),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace veltrix
