@@ -77,18 +77,6 @@ TEST(Identification, StrategiesInOrderAndDuplicates) {
   }
 }
 
-TEST(Identification, ScreensDifferingOnlyInRowsZeroAndOneCannotBeToldApart) {
-  const std::vector<PageRecord> screens = {Screen(0, 10, "MENU A"), Screen(1, 10, "MENU B")};
-  const Identification id = Identify(screens);
-  EXPECT_FALSE(id.ok);
-  const Explanation why = ExplainIdentification(screens, kK, {}, id);
-  ASSERT_EQ(why.inseparable.size(), 1u);
-  EXPECT_EQ(why.inseparable[0].a, 0);
-  EXPECT_EQ(why.inseparable[0].b, 1);
-  for (const ScreenCell& cell : why.inseparable[0].cells) EXPECT_LT(cell.row, 2);
-  EXPECT_EQ(why.inseparable[0].cells.size(), 10u);  // "MENU" and "A", "MENU" and "B"
-}
-
 TEST(Identification, AtMostFiftyPagesAndAnEmptyList) {
   for (int n : {50, 60}) {
     std::vector<PageRecord> screens;
@@ -107,7 +95,7 @@ TEST(Identification, AtMostFiftyPagesAndAnEmptyList) {
   EXPECT_EQ(ScreenBufferFullText(50), " Screen buffer full !! \r\n Accept at most 50 screens. ");
 }
 
-TEST(Identification, StoredIntoTheDocumentWithAnExplanation) {
+TEST(Identification, StoredIntoTheDocument) {
   const std::vector<PageRecord> screens = {Screen(3, 3, "A"), Screen(3, 3, "A"), Screen(4, 4, "B")};
   const Identification id = Identify(screens);
   ASSERT_TRUE(id.ok);
@@ -125,11 +113,6 @@ TEST(Identification, StoredIntoTheDocumentWithAnExplanation) {
             'B');
   EXPECT_EQ(ReadNumber(doc->record, kCharacteristicRow, 19), 21u);
   EXPECT_EQ(ReadNumber(doc->record, kCharacteristicColumn, 19), 21u);
-  const Explanation why = ExplainIdentification(screens, kK, {}, id);
-  ASSERT_EQ(why.told_apart.size(), 1u);
-  EXPECT_EQ(why.told_apart[0].cell, (ScreenCell{3, 3}));
-  EXPECT_EQ(why.told_apart[0].first, 'A');
-  EXPECT_EQ(why.told_apart[0].second, ' ');
 }
 
 TEST(ScreenFile, SizesThatFitTheLayoutAndNoMoreThanAHundred) {

@@ -81,28 +81,6 @@ TEST(WepKeys, LongerKeysShowZerosEvenWhenAFileHeldBytesBehindTheShortKey) {
   for (int i = 5; i < 16; ++i) EXPECT_EQ(0, stored[i]) << i;
 }
 
-TEST(HostList, TypingChangesOnlyTheActiveEntryAndApplyPadsOnlyIt) {
-  auto doc = testing::DefaultDocument(1);
-  // Leave bytes behind the NUL of entries 2 and 3, as an older edit would.
-  WriteText(doc->record, kHostIpOrName, "longer.host.name", 1);
-  WriteText(doc->record, kHostIpOrName, "longer.host.name", 2);
-  WriteText(doc->record, kHostIpOrName, "a", 1);
-  WriteText(doc->record, kHostIpOrName, "b", 2);
-  WriteNumber(doc->record, kActiveHostIpOrName, 2);
-  StoreActiveHostText(*doc, std::string(60, 'x'));
-  EXPECT_EQ(std::string(49, 'x'), ReadText(doc->record, kHostIpOrName, 2));
-  EXPECT_EQ("a", ReadText(doc->record, kHostIpOrName, 1));
-  EXPECT_EQ("192.168.1.10", ReadText(doc->record, kHostIpOrName, 0));
-
-  StoreActiveHostText(*doc, "b");
-  PadNetworkTexts(*doc);
-  const auto entry = [&](int i) {
-    return FieldBytes(std::span<const std::uint8_t>(doc->record), kHostIpOrName, i);
-  };
-  for (std::size_t i = 1; i < 50; ++i) EXPECT_EQ(0, entry(2)[i]) << i;
-  EXPECT_EQ('n', entry(1)[2]);  // "a\0nger..." keeps what lies behind its NUL
-}
-
 TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
   auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kActiveHostIpOrName, 9);

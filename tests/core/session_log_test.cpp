@@ -45,12 +45,6 @@ TEST(LogTimeStamp, IsUnpadded) {
   EXPECT_EQ("20261231235959", LogTimeStamp({2026, 12, 31, 23, 59, 59}));
 }
 
-TEST(LogDataLine, TwoUpperCaseDigitsAndABlankPerByte) {
-  EXPECT_EQ("FF FD 18 \r\n", LogDataLine(Bytes({0xFF, 0xFD, 0x18})));
-  EXPECT_EQ("05 \r\n", LogDataLine(Bytes({0x05})));
-  EXPECT_EQ("00 0A AB \r\n", LogDataLine(Bytes({0x00, 0x0A, 0xAB})));
-  EXPECT_EQ("\r\n", LogDataLine({}));
-}
 
 class SessionLogTest : public ::testing::Test {
  protected:

@@ -4,6 +4,9 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QtTest>
+#include <memory>
+
+#include "settings/document.h"
 
 namespace veltrix::testing {
 
@@ -36,6 +39,31 @@ inline void AddNumberEditRows(const QString& page) {
         << QString(f[1]) << QString(f[2]) << QString(f[3]) << f[4].toInt();
   }
 }
+
+// The document and the page a page test drives, made afresh by each test function's init().
+template <typename Page>
+class PageUnderTest {
+ protected:
+  void OpenPage(int product) {
+    doc_ = std::make_unique<Document>();
+    SetDefaults(*doc_, product);
+    page_ = std::make_unique<Page>(*doc_);
+    page_->Initialise(*doc_);
+    page_->SetActive(*doc_);
+  }
+  void ClosePage() {
+    page_.reset();
+    doc_.reset();
+  }
+  template <typename T>
+  T* Find(const QString& name) {
+    return FindControl<T>(page_.get(), name);
+  }
+  void Type(const QString& name, const QString& text) { TypeInto(Find<QLineEdit>(name), text); }
+
+  std::unique_ptr<Document> doc_;
+  std::unique_ptr<Page> page_;
+};
 
 }  // namespace veltrix::testing
 

@@ -27,21 +27,12 @@
 
 using namespace veltrix;
 
-class EmulationPageTest : public QObject {
+class EmulationPageTest : public QObject, testing::PageUnderTest<EmulationPage> {
   Q_OBJECT
 
  private slots:
-  void init() {
-    doc_ = std::make_unique<Document>();
-    SetDefaults(*doc_, 2);
-    page_ = std::make_unique<EmulationPage>(*doc_);
-    page_->Initialise(*doc_);
-    page_->SetActive(*doc_);
-  }
-  void cleanup() {
-    page_.reset();
-    doc_.reset();
-  }
+  void init() { OpenPage(2); }
+  void cleanup() { ClosePage(); }
 
   void languageChoosesFontAndSteps_data() {
     QTest::addColumn<int>("language");
@@ -219,17 +210,8 @@ class EmulationPageTest : public QObject {
   }
 
  private:
-  template <typename T>
-  T* Find(const QString& name) {
-    return testing::FindControl<T>(page_.get(), name);
-  }
   int Value(const FieldDef& field) { return int(ReadNumber(doc_->record, field)); }
-  void Type(const QString& name, const QString& text) {
-    testing::TypeInto(Find<QLineEdit>(name), text);
-  }
 
-  std::unique_ptr<Document> doc_;
-  std::unique_ptr<EmulationPage> page_;
 };
 
 QTEST_MAIN(EmulationPageTest)

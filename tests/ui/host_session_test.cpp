@@ -36,8 +36,6 @@ class HostSessionTest : public QObject {
  private slots:
   void init();
   void cleanup();
-  void signOnAndMoveBetweenScreens();
-  void errorLineIsResetWithEscape();
   void userDisconnectClosesTheHostSide();
   void sessionLogRecordsTheTrafficLineByLine();
   void floodKeepsTheWindowResponsive();
@@ -115,62 +113,6 @@ QStringList HostSessionTest::LogLines() const {
   if (!text.endsWith(QStringLiteral("\r\n"))) return {QStringLiteral("<no final CR LF>")};
   text.chop(2);
   return text.split(QStringLiteral("\r\n"));
-}
-
-void HostSessionTest::signOnAndMoveBetweenScreens() {
-  QVERIFY(Connect(false));
-  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
-  QCOMPARE(QString::fromStdString(ReadText(doc_->record, *FindField("HostIpOrName"), 0)),
-           QStringLiteral("127.0.0.1"));
-  // The cursor waits in the user field (row 6, column 53 counted from 1).
-  QTRY_COMPARE(host_->connection().session().CursorRow(), 5);
-  QCOMPARE(host_->connection().session().CursorColumn(), 52);
-
-  Type(QStringLiteral("alice"));
-  Press(Qt::Key_Tab);
-  Type(QStringLiteral("secret"));
-  // The password field does not show what is typed.
-  QVERIFY(!ScreenShows(QStringLiteral("secret")));
-  Press(Qt::Key_Return);
-  QTRY_VERIFY(ScreenShows(QStringLiteral("Main Menu")));
-  QVERIFY(ScreenShows(QStringLiteral("Signed on as ALICE")));
-  // The host got the user field in upper case (EBCDIC "ALICE") with the Enter AID.
-  QVERIFY(!server_->receivedRecords().isEmpty());
-  QVERIFY(server_->receivedRecords().last().contains(QByteArray("\xC1\xD3\xC9\xC3\xC5")));
-  QVERIFY(server_->receivedRecords().last().contains('\xF1'));
-
-  // The list and back, by the keys that map to PageDown and F3.
-  Type(QStringLiteral("1"));
-  Press(Qt::Key_Enter);
-  QTRY_VERIFY(ScreenShows(QStringLiteral("ITEM0001")));
-  Press(Qt::Key_PageDown);
-  QTRY_VERIFY(ScreenShows(QStringLiteral("ITEM0011")));
-  Press(Qt::Key_F3);
-  QTRY_VERIFY(ScreenShows(QStringLiteral("Main Menu")));
-  QVERIFY(errors_.isEmpty());
-}
-
-void HostSessionTest::errorLineIsResetWithEscape() {
-  QVERIFY(Connect(false));
-  QTRY_VERIFY(ScreenShows(QStringLiteral("Sign On")));
-  QTRY_VERIFY(!host_->connection().session().KeyboardLocked());
-  const QString last_row = Row(23);
-  // Enter without a user name: the host answers with an error on the last row.
-  Press(Qt::Key_Return);
-  QTRY_VERIFY(Row(23).contains(QStringLiteral("Type a user name")));
-  QVERIFY(host_->connection().session().KeyboardLocked());
-  const int records = server_->receivedRecords().size();
-  // Typing while locked does nothing.
-  Type(QStringLiteral("x"));
-  QCOMPARE(Row(5).mid(52, 1), QStringLiteral(" "));
-  Press(Qt::Key_Escape);
-  QVERIFY(!host_->connection().session().KeyboardLocked());
-  QCOMPARE(Row(23), last_row);
-  Type(QStringLiteral("bob"));
-  QVERIFY(Row(5).contains(QStringLiteral("BOB")));
-  Press(Qt::Key_Return);
-  QTRY_VERIFY(ScreenShows(QStringLiteral("Signed on as BOB")));
-  QCOMPARE(server_->receivedRecords().size(), records + 1);
 }
 
 void HostSessionTest::userDisconnectClosesTheHostSide() {

@@ -97,18 +97,6 @@ class SettingsSheetTest : public QObject {
     QVERIFY(doc_->record == before);
   }
 
-  void okAppliesAndSetsTheModifiedFlag() {
-    SettingsSheetDialog sheet(*doc_, registry_);
-    TypeInto(sheet.page(0), "5");
-    sheet.tabs()->setCurrentIndex(4);
-    Button(sheet, QDialogButtonBox::Ok)->click();
-    QCOMPARE(sheet.result(), int(QDialog::Accepted));
-    QCOMPARE(static_cast<ProbePage*>(sheet.page(0))->applied, 1);
-    QCOMPARE(static_cast<ProbePage*>(sheet.page(4))->applied, 1);
-    QCOMPARE(int(doc_->record[kProbeByte]), 5);
-    QVERIFY(doc_->modified);
-  }
-
  private:
   std::unique_ptr<Document> doc_;
   SettingsPageRegistry registry_;

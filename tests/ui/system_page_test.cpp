@@ -19,23 +19,16 @@
 #include "settings/system/system_settings.h"
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
+#include "support/page_test.h"
 
 using namespace veltrix;
 
-class SystemPageTest : public QObject {
+class SystemPageTest : public QObject, testing::PageUnderTest<SystemPage> {
   Q_OBJECT
 
  private slots:
-  void init() {
-    doc_ = std::make_unique<Document>();
-    SetDefaults(*doc_, 2);
-    page_ = std::make_unique<SystemPage>(*doc_);
-    page_->Initialise(*doc_);
-  }
-  void cleanup() {
-    page_.reset();
-    doc_.reset();
-  }
+  void init() { OpenPage(2); }
+  void cleanup() { ClosePage(); }
 
   void loadsTheDefaults() {
     QCOMPARE(Edit("auto_power_off")->text(), QString("180"));
@@ -248,17 +241,9 @@ class SystemPageTest : public QObject {
   }
 
  private:
-  template <typename T>
-  T* Find(const QString& name) {
-    T* widget = page_->findChild<T*>(name);
-    if (widget == nullptr) qFatal("no widget %s", qPrintable(name));
-    return widget;
-  }
   QLineEdit* Edit(const QString& name) { return Find<QLineEdit>(name); }
   QLabel* Label(const QString& name) { return Find<QLabel>(name); }
 
-  std::unique_ptr<Document> doc_;
-  std::unique_ptr<SystemPage> page_;
 };
 
 QTEST_MAIN(SystemPageTest)

@@ -24,20 +24,12 @@
 
 using namespace veltrix;
 
-class WirelessLanPageTest : public QObject {
+class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPage> {
   Q_OBJECT
 
  private slots:
-  void init() {
-    doc_ = std::make_unique<Document>();
-    SetDefaults(*doc_, 2);
-    page_ = std::make_unique<WirelessLanPage>(*doc_);
-    page_->Initialise(*doc_);
-  }
-  void cleanup() {
-    page_.reset();
-    doc_.reset();
-  }
+  void init() { OpenPage(2); }
+  void cleanup() { ClosePage(); }
 
   void dhcpDisablesTheAddressesAndKeepsThem() {
     QVERIFY(!Find<QLineEdit>("gateway")->isEnabled());
@@ -189,19 +181,10 @@ class WirelessLanPageTest : public QObject {
   }
 
  private:
-  template <typename T>
-  T* Find(const QString& name) {
-    return testing::FindControl<T>(page_.get(), name);
-  }
   QString Text(const FieldDef& field) {
     return QString::fromStdString(ReadText(doc_->record, field));
   }
-  void Type(const QString& name, const QString& text) {
-    testing::TypeInto(Find<QLineEdit>(name), text);
-  }
 
-  std::unique_ptr<Document> doc_;
-  std::unique_ptr<WirelessLanPage> page_;
 };
 
 QTEST_MAIN(WirelessLanPageTest)
