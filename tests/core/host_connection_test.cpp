@@ -215,14 +215,5 @@ TEST_F(HostConnectionTest, StatusLineFollowsTheSession) {
   EXPECT_EQ(TerminalStatus{}, connection.Status());
 }
 
-TEST_F(HostConnectionTest, WithoutSaveLogNothingIsWritten) {
-  ASSERT_TRUE(connection.Connect(*doc, {127, 0, 0, 1}, false));
-  connection.Opened();
-  const std::uint8_t bytes[] = {0xFF, 0xFD, 0x18};
-  connection.Received(bytes);
-  connection.Disconnect();
-  EXPECT_EQ("", sink.text);
-}
-
 }  // namespace
 }  // namespace veltrix

@@ -8,6 +8,8 @@
 
 #include "settings/emulation/number_edit.h"
 #include "settings/reader/number_box.h"
+#include "settings/system/system_rules.h"
+#include "settings/system/system_settings.h"
 #include "support/case_file.h"
 
 namespace veltrix {
@@ -34,6 +36,8 @@ const std::map<std::string, Rule>& Rules() {
       {"rfid_length_box", Box(kRfidLengthBox)},
       {"rfid_delay_box", Box(kRfidDelayBox)},
       {"vibrator_box", Box(kVibratorBox)},
+      {"auto_power_off", [](std::string_view t) { return CorrectFieldEdit(t, kAutoPowerOff); }},
+      {"idle", [](std::string_view t) { return CorrectFieldEdit(t, kTurnOffIfIdleFor); }},
   };
   return rules;
 }

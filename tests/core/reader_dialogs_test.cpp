@@ -15,21 +15,6 @@ namespace {
 
 // ---- RFID reader -------------------------------------------------------------------------------
 
-TEST(RfidOptions, OpenShowsTheDefaults) {
-  auto doc = testing::DefaultDocument(1);
-  const RfidState state = OpenRfidOptions(*doc);
-  EXPECT_TRUE(state.read_uid);
-  EXPECT_FALSE(state.read_data);
-  EXPECT_EQ(0, state.start);
-  EXPECT_EQ(128, state.max_len);
-  EXPECT_EQ(4, state.delay);
-  EXPECT_EQ(',', state.delimiter);
-  EXPECT_EQ(1, state.working_mode);
-  EXPECT_EQ(1, state.reading_mode);
-  EXPECT_FALSE(RfidControlsEnabled(state).start_and_max_len);
-  EXPECT_FALSE(RfidControlsEnabled(state).delimiter);
-}
-
 TEST(RfidOptions, SwitchKeyIsRefusedWhileAnotherRoleHoldsIt) {
   auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kScanSwitchKeyName, 0);
@@ -63,20 +48,6 @@ TEST(AdvancedSettings, OkWithoutChangesKeepsTheRecord) {
     const auto before = doc->record;
     ApplyAdvancedSettings(*doc, OpenAdvancedSettings(*doc));
     EXPECT_EQ(before, doc->record) << product;
-  }
-}
-
-TEST(AdvancedSettings, OpeningCorrectsStartAndMaximum) {
-  auto doc = testing::DefaultDocument(1);
-  struct Case {
-    int start, maximum, shown_start, shown_maximum;
-  };
-  for (const Case& c : {Case{0, 0, 1, 50}, Case{7, 51, 7, 50}, Case{3, 20, 3, 20}}) {
-    WriteNumber(doc->record, kStartPosition, c.start);
-    WriteNumber(doc->record, kMaximumLength, c.maximum);
-    const AdvancedState state = OpenAdvancedSettings(*doc);
-    EXPECT_EQ(c.shown_start, state.start_position) << c.start;
-    EXPECT_EQ(c.shown_maximum, state.maximum_length) << c.maximum;
   }
 }
 

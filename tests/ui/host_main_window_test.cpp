@@ -90,16 +90,11 @@ void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
   window_->ExecuteCommand(kCmdConnect);
   // Connecting does not hold the window; only Disconnect (giving up) is on meanwhile.
   QCOMPARE(Status(), QStringLiteral("Connecting to 127.0.0.1:%1...").arg(server_->port()));
-  QVERIFY(!Enabled(kCmdConnect));
-  QVERIFY(Enabled(kCmdDisconnect));
-  QVERIFY(!Enabled(kCmdStartCapture));
+  QVERIFY(!Enabled(kCmdConnect) && Enabled(kCmdDisconnect) && !Enabled(kCmdStartCapture));
   QTRY_VERIFY(parts_.connection->connected());
   QCOMPARE(Status(), QStringLiteral("Connected to 127.0.0.1:%1").arg(server_->port()));
   QVERIFY(parts_.screen->isVisible());
-  QVERIFY(!Enabled(kCmdConnect));
-  QVERIFY(Enabled(kCmdDisconnect));
-  QVERIFY(Enabled(kCmdStartCapture));
-  QVERIFY(!Enabled(kCmdCapture));
+  QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture));
   QTRY_VERIFY(parts_.screen->RowText(0).contains(QStringLiteral("Sign On")));
   // In a small window every row still shows, the error line and the key legend included.
   window_->resize(800, 500);
@@ -111,9 +106,7 @@ void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
   window_->ExecuteCommand(kCmdDisconnect);
   QVERIFY(!parts_.connection->connected());
   QVERIFY(!parts_.screen->isVisible());
-  QVERIFY(Enabled(kCmdConnect));
-  QVERIFY(!Enabled(kCmdDisconnect));
-  QVERIFY(!Enabled(kCmdStartCapture));
+  QVERIFY(Enabled(kCmdConnect) && !Enabled(kCmdDisconnect) && !Enabled(kCmdStartCapture));
 }
 
 void HostMainWindowTest::refusedConnectionSaysWhereAndWhy() {
