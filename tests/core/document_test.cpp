@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,8 +14,6 @@
 #include "default_document.h"
 #include "settings/field_registry.h"
 #include "settings/field_values.h"
-#include "settings/settings_file.h"
-#include "settings_test_files.h"
 
 namespace veltrix {
 namespace {
@@ -51,16 +48,6 @@ TEST(Document, DefaultsDoNotDependOnWhatWasThereBefore) {
     SetDefaults(*dirty, product);
     EXPECT_TRUE(clean->record == dirty->record) << "product " << product;
     EXPECT_TRUE(clean->pages == dirty->pages) << "product " << product;
-  }
-}
-
-TEST(Document, NewDocumentIsAWholeSettingsFile) {
-  testing::TempFolder folder;
-  for (int product : {0, 1, 2}) {
-    auto doc = DefaultDocument(product);
-    const std::string path = folder.File("new" + std::to_string(product) + ".QVL");
-    ASSERT_TRUE(WriteSettingsFileTo(*doc, path));
-    EXPECT_EQ(kSettingsFileSize, std::filesystem::file_size(path));
   }
 }
 

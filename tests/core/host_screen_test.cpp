@@ -23,15 +23,6 @@ TEST(CellMetrics, FollowTheClientArea) {
   EXPECT_EQ(30, m.character_height);
 }
 
-TEST(CellMetrics, CellRectangles) {
-  CellMetrics m = ComputeCellMetrics(640, 480, 24, 80);
-  PixelRect r = CellRect(m, 2, 3);
-  EXPECT_EQ(24, r.x);
-  EXPECT_EQ(38, r.y);
-  EXPECT_EQ(8, r.width);
-  EXPECT_EQ(19, r.height);
-}
-
 TEST(RowRuns, CutWhereTheLowThreeBitsChange) {
   // Colour, blink and column separator bits do not start a run.
   std::vector<std::uint8_t> attrs = {0x20, 0xE0, 0x18, 0x24, 0x04, 0x07, 0x07, 0x21, 0x05};

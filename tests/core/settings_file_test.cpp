@@ -220,12 +220,6 @@ TEST_F(SettingsFileTest, EmptyFileKeepsTheDocumentItReadInto) {
   EXPECT_EQ(0x5A, doc_->record[10]);
 }
 
-TEST_F(SettingsFileTest, FewBytesOfGarbageGiveTheDefaultsOfProductOne) {
-  const SettingsFileReport report = ReadImage({'#', '!', 'x'});
-  EXPECT_TRUE(report.refused);
-  EXPECT_TRUE(doc_->record == DefaultDocument(1)->record);
-}
-
 TEST_F(SettingsFileTest, OpenRebuildsTheKeyCodeTable) {
   constexpr std::size_t kMapping = 4565, kKeyCodes = 4715;
   auto original = DefaultDocument(1);

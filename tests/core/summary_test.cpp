@@ -29,10 +29,6 @@ TEST(Summary, HasTheSixSectionsInOrder) {
   }
 }
 
-TEST(Summary, DefaultDocumentHasNoScreenLines) {
-  EXPECT_TRUE(BuildSummary(*DefaultDocument(1)).back().children.empty());
-}
-
 TEST(KeyNamesText, NameModeStopsAtZeroAndHexModeDoesNot) {
   const std::uint8_t bytes[] = {13, 65, 0, 66};
   EXPECT_EQ("Enter A ", KeyNamesText(bytes, 4, KeyNameMode::kNames));

@@ -18,6 +18,12 @@ class SessionTest : public ::testing::Test {
   Session session{{}, &listener};
 };
 
+TEST_F(SessionTest, RecordOfLengthTenEndsAfterItsHeader) {
+  FeedRecord("");
+  FeedRecord("04 40 04 11 00 40 11 01 00 C1");
+  EXPECT_EQ(session.Screen().Character(0, 0), 'A');
+}
+
 TEST_F(SessionTest, ReportsAWholeScreenChangeOncePerChunkThatChangedIt) {
   std::vector<std::uint8_t> two = Record(Hex("04 40 04 11 00 08 C1"));
   const auto second = Record(Hex("04 11 00 08 11 02 02 C2"));

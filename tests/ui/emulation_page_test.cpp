@@ -34,38 +34,19 @@ class EmulationPageTest : public QObject, testing::PageUnderTest<EmulationPage> 
   void init() { OpenPage(2); }
   void cleanup() { ClosePage(); }
 
-  void languageChoosesFontAndSteps_data() {
-    QTest::addColumn<int>("language");
-    QTest::addColumn<QString>("font");
-    QTest::addColumn<QString>("horizontal");
-    QTest::addColumn<QString>("vertical");
-    QTest::newRow("Japanese") << 4 << "font_size_1"
-                              << "14"
-                              << "3";
-    QTest::newRow("French") << 6 << "font_size_0"
-                            << "19"
-                            << "7";
-  }
-  void languageChoosesFontAndSteps() {
-    QFETCH(int, language);
-    QFETCH(QString, font);
-    Find<QComboBox>("language")->setCurrentIndex(3);  // Korean first: large
-    Find<QComboBox>("language")->setCurrentIndex(language);
-    QVERIFY(Find<QRadioButton>(font)->isChecked());
-    QTEST(Find<QLineEdit>("horizontal_steps")->text(), "horizontal");
-    QTEST(Find<QLineEdit>("vertical_steps")->text(), "vertical");
-    QCOMPARE(Value(kEmulationType), language);
-    QCOMPARE(Value(kHorizontalSteps), Find<QLineEdit>("horizontal_steps")->text().toInt());
-  }
-
   // The font size button already chosen changes nothing, not even steps typed by hand.
-  void sameFontSizeKeepsTypedSteps() {
+  void fontSizeAndLanguageSetTheSteps() {
     Type("horizontal_steps", "25");
     Find<QRadioButton>("font_size_0")->click();
     QCOMPARE(Value(kHorizontalSteps), 25);
     Find<QRadioButton>("font_size_1")->click();
     QCOMPARE(Value(kHorizontalSteps), 14);
     QCOMPARE(Find<QLineEdit>("horizontal_steps")->text(), QString("14"));
+    // A language sets the font size and both steps (the core's table): French is small.
+    Find<QComboBox>("language")->setCurrentIndex(6);
+    QVERIFY(Find<QRadioButton>("font_size_0")->isChecked());
+    QCOMPARE(Find<QLineEdit>("vertical_steps")->text(), QString("7"));
+    QCOMPARE(Value(kEmulationType), 6);
   }
 
   void numberEditsAreCorrectedAsTyped_data() { testing::AddNumberEditRows("emulation"); }
@@ -131,19 +112,6 @@ class EmulationPageTest : public QObject, testing::PageUnderTest<EmulationPage> 
     QTEST(Find<QLabel>("key_label_5")->text(), "label");
     const auto code = FieldBytes(std::span<const std::uint8_t>(doc_->record), kKeyCode, 5);
     QCOMPARE(code[2], std::uint8_t(ok ? 0x56 : 0x4D));
-  }
-
-  void dravinSHasTwelveKeyButtons() {
-    SetDefaults(*doc_, 1);
-    page_ = std::make_unique<EmulationPage>(*doc_);
-    page_->Initialise(*doc_);
-    int enabled = 0;
-    for (auto* button : page_->findChildren<QPushButton*>(QRegularExpression("^key_\\d+$"))) {
-      enabled += button->isEnabled();
-    }
-    QCOMPARE(enabled, 12);
-    QVERIFY(Find<QPushButton>("key_37")->isEnabled());   // Down
-    QVERIFY(!Find<QPushButton>("key_38")->isEnabled());  // Left
   }
 
   void resetKeepsFieldLengthAndRestoresTheRest() {
