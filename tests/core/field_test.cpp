@@ -99,9 +99,9 @@ TEST(FieldValues, LooksUpNamesWithIndices) {
 }
 
 TEST(FieldValues, StoresAndFormatsEveryKind) {
-  const std::map<std::string, const FieldDef*> fields = {
-      {"Byte", &kByte}, {"Word", &kWord}, {"Bits", &kBits},
-      {"Split", &kSplit}, {"Text", &kText}, {"Raw", &kRaw}};
+  const std::map<std::string, const FieldDef*> fields = {{"Byte", &kByte}, {"Word", &kWord},
+                                                         {"Bits", &kBits}, {"Split", &kSplit},
+                                                         {"Text", &kText}, {"Raw", &kRaw}};
   for (const auto& row : Table("values")) {
     const FieldDef& field = *fields.at(row[0]);
     const std::string where = row[0] + "=" + row[1];

@@ -45,7 +45,6 @@ TEST(LogTimeStamp, IsUnpadded) {
   EXPECT_EQ("20261231235959", LogTimeStamp({2026, 12, 31, 23, 59, 59}));
 }
 
-
 class SessionLogTest : public ::testing::Test {
  protected:
   FixedClock clock;

@@ -94,9 +94,10 @@ struct SessionFixture {
   bool start_result = true;
 
   void Install() {
-    session.set_handlers(SessionHandlers{
-        [this] { return ConnectAttempt{connect_result, true, ""}; }, [] {},
-        [this] { return start_result; }, [] {}, [] {}});
+    session.set_handlers(SessionHandlers{[this] {
+                                           return ConnectAttempt{connect_result, true, ""};
+                                         },
+                                         [] {}, [this] { return start_result; }, [] {}, [] {}});
   }
 };
 

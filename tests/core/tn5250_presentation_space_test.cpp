@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "support/case_file.h"
 #include "tn5250/code_tables.h"
 #include "tn5250/field_table.h"
-#include "support/case_file.h"
 #include "tn5250/presentation_space.h"
 
 namespace veltrix {
@@ -117,8 +117,7 @@ TEST(FieldTableTest, FieldAtFollowsTheRows) {
     std::vector<int> n;
     for (const std::string& word : row) n.push_back(std::stoi(word));
     EXPECT_EQ(FieldTable::FieldAt(Field(n[0], n[1], n[2]), n[4], n[3], 80), n[5] == 1)
-        << n[0] << "," << n[1] << "+" << n[2] << " at "
-        << n[3] << "," << n[4];
+        << n[0] << "," << n[1] << "+" << n[2] << " at " << n[3] << "," << n[4];
   }
 }
 

@@ -179,7 +179,6 @@ class EmulationPageTest : public QObject, testing::PageUnderTest<EmulationPage> 
 
  private:
   int Value(const FieldDef& field) { return int(ReadNumber(doc_->record, field)); }
-
 };
 
 QTEST_MAIN(EmulationPageTest)

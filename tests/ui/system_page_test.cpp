@@ -243,7 +243,6 @@ class SystemPageTest : public QObject, testing::PageUnderTest<SystemPage> {
  private:
   QLineEdit* Edit(const QString& name) { return Find<QLineEdit>(name); }
   QLabel* Label(const QString& name) { return Find<QLabel>(name); }
-
 };
 
 QTEST_MAIN(SystemPageTest)

@@ -184,7 +184,6 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
   QString Text(const FieldDef& field) {
     return QString::fromStdString(ReadText(doc_->record, field));
   }
-
 };
 
 QTEST_MAIN(WirelessLanPageTest)
