@@ -5,7 +5,6 @@
 #include <array>
 #include <map>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -64,23 +63,9 @@ TEST(Field, TextKeepsRoomForItsNul) {
   EXPECT_EQ('#', record[9]);  // behind the field
 }
 
-// The "|"-separated columns of each line of a table in tests/core/data/field_values.txt.
+// A table of tests/core/data/field_values.txt, its columns separated by "|".
 std::vector<std::vector<std::string>> Table(const std::string& name) {
-  std::vector<std::vector<std::string>> rows;
-  for (const testing::DataCase& c : testing::ReadDataCases("field_values.txt")) {
-    if (c.name != name) continue;
-    for (const testing::CaseLine& line : c.lines) {
-      std::vector<std::string>& row = rows.emplace_back();
-      std::stringstream in(line.text);
-      for (std::string column; std::getline(in, column, '|');) {
-        const auto first = column.find_first_not_of(' ');
-        row.push_back(first == std::string::npos
-                          ? ""
-                          : column.substr(first, column.find_last_not_of(' ') - first + 1));
-      }
-      if (line.text.ends_with('|')) row.push_back("");
-    }
-  }
+  auto rows = testing::CaseRows("field_values.txt", name, '|');
   EXPECT_FALSE(rows.empty()) << name;
   return rows;
 }

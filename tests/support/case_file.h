@@ -44,13 +44,32 @@ inline std::vector<std::string> Words(const std::string& line) {
   return words;
 }
 
-// The case named `name` of tests/core/data/`file`: its lines as words (nothing when missing).
+// The columns of a line separated by `separator`, blanks around each trimmed (an empty column
+// stays, the last one too).
+inline std::vector<std::string> Columns(const std::string& line, char separator) {
+  std::vector<std::string> columns;
+  for (std::size_t start = 0;;) {
+    const std::size_t end = line.find(separator, start);
+    const std::string column = line.substr(start, end - start);
+    const std::size_t first = column.find_first_not_of(' ');
+    columns.push_back(first == std::string::npos
+                          ? ""
+                          : column.substr(first, column.find_last_not_of(' ') - first + 1));
+    if (end == std::string::npos) return columns;
+    start = end + 1;
+  }
+}
+
+// The case named `name` of tests/core/data/`file`: its lines as words, or as columns when a
+// separator is given (nothing when missing).
 inline std::vector<std::vector<std::string>> CaseRows(const std::string& file,
-                                                      const std::string& name) {
+                                                      const std::string& name, char separator = 0) {
   std::vector<std::vector<std::string>> rows;
   for (const DataCase& c : ReadDataCases(file)) {
     if (c.name != name) continue;
-    for (const CaseLine& line : c.lines) rows.push_back(Words(line.text));
+    for (const CaseLine& line : c.lines) {
+      rows.push_back(separator == 0 ? Words(line.text) : Columns(line.text, separator));
+    }
   }
   return rows;
 }
