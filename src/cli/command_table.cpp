@@ -37,9 +37,12 @@ constexpr Command kCommands[] = {
      RunSessionCommand},
     {"download",
      "settings FILE.QVL | program FILE.SHX [--via cradle-ir|rs-232|irda|rf] [--port DEVICE]... "
-     "[--baud RATE] [--retries N] [--listen-port N] [--listen-address A] [--terminals N]",
+     "[--baud RATE] [--retries N] [--listen-port N] [--listen-address A] [--terminals N] "
+     "[--wait SECONDS] [--json] [--check]",
      "download to a terminal as Utilities > Download does (rf: N terminals at once on the "
-     "port; serial: one per --port); exit 0 when all downloaded completely, 1 when one failed",
+     "port, each attempt waiting SECONDS (10) for one; serial: one per --port); a program file is "
+     "checked whole first (--check: only that); Ctrl+C stops; exit 0 when all downloaded "
+     "completely, 3 when one did not",
      RunDownloadCommand},
 };
 

@@ -1,6 +1,7 @@
 // veltrix-cli download: the arguments, the file, then the download through the runner.
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <ostream>
 
 #include "cli/cli_args.h"
@@ -31,6 +32,18 @@ bool ParseCount(const std::string& text, int low, int high, int& value) {
   }
 }
 
+// What --check found: the address ranges the program fills and its size.
+void PrintProgram(CliIo& io, const std::string& file, const CheckedProgram& program) {
+  io.out << file << ": " << program.data_records << " data records, " << program.data_bytes
+         << " bytes\n";
+  for (const ProgramRange& r : program.ranges) {
+    char line[64];
+    std::snprintf(line, sizeof line, "  %08X-%08X  %u bytes\n", r.first, r.last,
+                  r.last - r.first + 1);
+    io.out << line;
+  }
+}
+
 }  // namespace
 
 void SetDownloadRunner(DownloadRunner runner) { g_runner = runner; }
@@ -48,12 +61,18 @@ int RunDownloadCommand(std::span<const std::string> args, CliIo& io) {
     }
   }
   static constexpr std::string_view kValues[] = {
-      "--via", "--baud", "--retries", "--listen-port", "--terminals", "--listen-address"};
-  const ParsedArgs parsed = ParseArgs(rest, kValues, {});
+      "--via",       "--baud",      "--retries",
+      "--listen-port", "--terminals", "--listen-address", "--wait"};
+  static constexpr std::string_view kFlags[] = {"--check", "--json"};
+  const ParsedArgs parsed = ParseArgs(rest, kValues, kFlags);
   if (!parsed.error.empty()) return Fail(io, parsed.error);
   if (std::string error = ExpectPositional(parsed, 2, 2); !error.empty()) return Fail(io, error);
   const std::string& what = parsed.positional[0];
   request.file = parsed.positional[1];
+  if (parsed.has_flag("--check") && what != "program") {
+    return Fail(io, "--check is for program files");
+  }
+  request.json = parsed.has_flag("--json");
   if (what == "settings") {
     request.kind = DownloadKind::kSettings;
     auto doc = LoadSettingsInput(request.file, io);
@@ -65,12 +84,19 @@ int RunDownloadCommand(std::span<const std::string> args, CliIo& io) {
     request.rate = kDownloadRates[std::min<std::uint32_t>(ReadNumber(doc->record, kBaudRate), 3)];
   } else if (what == "program") {
     request.kind = DownloadKind::kProgram;
-    FileProgramSource probe;
-    std::string reason;
-    if (!probe.Open(request.file, &reason)) {
-      return Fail(
-          io, std::string(download_text::kCannotOpenFile) + " '" + request.file + "': " + reason);
+    ProgramFile loaded = LoadProgramFile(request.file);
+    if (loaded.status == ProgramFile::Status::kCannotOpen) {
+      return Fail(io, std::string(download_text::kCannotOpenFile) + " '" + request.file +
+                          "': " + loaded.reason);
     }
+    if (loaded.status == ProgramFile::Status::kRefused) {
+      return Fail(io, request.file + ": " + loaded.reason);
+    }
+    if (parsed.has_flag("--check")) {
+      PrintProgram(io, request.file, loaded.program);
+      return kExitOk;
+    }
+    request.program = std::move(loaded.program.text);
   } else {
     return Fail(io, "download what? 'settings FILE.QVL' or 'program FILE.SHX'");
   }
@@ -97,6 +123,11 @@ int RunDownloadCommand(std::span<const std::string> args, CliIo& io) {
   if (const std::string* n = parsed.value("--terminals");
       n && !ParseCount(*n, 1, 1000, request.terminals)) {
     return Fail(io, "--terminals is a count from 1");
+  }
+  if (const std::string* n = parsed.value("--wait")) {
+    int seconds = 0;
+    if (!ParseCount(*n, 1, 86400, seconds)) return Fail(io, "--wait is a number of seconds");
+    request.listen_wait_ms = std::int64_t{seconds} * 1000;
   }
   if (const std::string* address = parsed.value("--listen-address")) {
     request.listen_address = *address;

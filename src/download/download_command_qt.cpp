@@ -4,10 +4,24 @@
 #include <QMessageBox>
 #include <QWidget>
 
+#include "resources/strings.h"
 #include "resources/text_qt.h"
 #include "settings/system/system_settings.h"
 
 namespace veltrix {
+namespace {
+
+// Later, not now: the dialog may be the one whose Cancel is being handled.
+void Dismiss(QPointer<DownloadProgressDialog>& dialog) {
+  if (dialog) {
+    dialog->hide();
+    dialog->deleteLater();
+  }
+  dialog = nullptr;
+}
+
+}  // namespace
+
 DownloadCommandQt::DownloadCommandQt(QWidget* window) : QObject(window), window_(window) {
   ask_program_ = [this](const QString& last) -> std::optional<QString> {
     QFileDialog dialog(window_);
@@ -32,6 +46,7 @@ DownloadCommandQt::DownloadCommandQt(QWidget* window) : QObject(window), window_
     return QMessageBox::question(window_, caption, text, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
   };
+  ask_stop_ = ask_retry_;
 }
 
 DownloadCommandQt::~DownloadCommandQt() {
@@ -51,17 +66,30 @@ void DownloadCommandQt::ShowMessage(const QString& text, const QString& caption)
 
 void DownloadCommandQt::Run(DownloadKind kind, const Document& doc) {
   if (session_) {  // one download at a time: show the one under way
-    if (progress_) progress_->raise();
+    for (QWidget* shown : {static_cast<QWidget*>(progress_), static_cast<QWidget*>(waiting_)}) {
+      if (!shown) continue;
+      shown->show();
+      shown->raise();
+      shown->activateWindow();
+    }
     return;
   }
   if (kind == DownloadKind::kProgram) {
     std::optional<QString> file = ask_program_(last_program_);
     if (!file) return;
     last_program_ = *file;
-    if (!program_.Open(file->toStdString())) {
+    // The whole file is checked before the terminal hears anything: a broken program must not
+    // cost it the one it has.
+    ProgramFile loaded = LoadProgramFile(file->toStdString());
+    if (loaded.status == ProgramFile::Status::kCannotOpen) {
       ShowMessage(QtText(download_text::kCannotOpenFile), QtText(download_text::kDownload));
       return;
     }
+    if (loaded.status == ProgramFile::Status::kRefused) {
+      ShowMessage(QtText(loaded.reason), QtText(kErrorCaption));
+      return;
+    }
+    program_ = std::make_unique<MemoryProgramSource>(std::move(loaded.program.text));
   }
   std::optional<Choice> choice =
       ask_properties_(static_cast<int>(ReadNumber(doc.record, kDownloadVia)),
@@ -76,21 +104,18 @@ void DownloadCommandQt::Run(DownloadKind kind, const Document& doc) {
   options.listen_port = listen_port_;
   auto engine = kind == DownloadKind::kSettings
                     ? std::make_unique<DownloadEngine>(options.via, doc.record)
-                    : std::make_unique<DownloadEngine>(options.via, program_);
+                    : std::make_unique<DownloadEngine>(options.via, *program_);
+  stopped_ = false;
   session_ = new DownloadSessionQt(std::move(engine), options, line_, this);
-  connect(session_, &DownloadSessionQt::status, this, &DownloadCommandQt::statusChanged);
+  connect(session_, &DownloadSessionQt::status, this, &DownloadCommandQt::OnStatus);
   connect(session_, &DownloadSessionQt::progressOpened, this, [this](int maximum) {
-    delete progress_;
-    progress_ = new DownloadProgressDialog(maximum, window_);
-    connect(progress_, &DownloadProgressDialog::stopRequested, this, [this] {
-      if (session_) session_->Cancel();
-    });
-    progress_->show();
+    Dismiss(progress_);
+    progress_ = ShowWindow(new DownloadProgressDialog(maximum, window_));
   });
   connect(session_, &DownloadSessionQt::progressChanged, this, [this](int position) {
     if (progress_) progress_->SetPosition(position);
   });
-  connect(session_, &DownloadSessionQt::progressClosed, this, [this] { delete progress_; });
+  connect(session_, &DownloadSessionQt::progressClosed, this, [this] { Dismiss(progress_); });
   connect(session_, &DownloadSessionQt::message, this, &DownloadCommandQt::ShowMessage);
   connect(session_, &DownloadSessionQt::retryAsked, this,
           [this](const QString& text, const QString& caption) {
@@ -102,11 +127,45 @@ void DownloadCommandQt::Run(DownloadKind kind, const Document& doc) {
   session_->Start();
 }
 
+DownloadProgressDialog* DownloadCommandQt::ShowWindow(DownloadProgressDialog* dialog) {
+  connect(dialog, &DownloadProgressDialog::stopRequested, this, &DownloadCommandQt::RequestStop);
+  dialog->show();
+  return dialog;
+}
+
+void DownloadCommandQt::OnStatus(const QString& text) {
+  status_ = text;
+  emit statusChanged(text);
+  const bool waiting = text == QtText(download_text::kWaitingForTerminal);
+  if (waiting && !waiting_) {
+    waiting_ = ShowWindow(new DownloadProgressDialog(QtText(download_text::kDownload), text, 0,
+                                                     window_));
+  } else if (!waiting) {
+    Dismiss(waiting_);
+  }
+}
+
+void DownloadCommandQt::RequestStop() {
+  QPointer<DownloadSessionQt> session = session_;
+  if (!session) return;
+  if (session->engine().reached_terminal()) {
+    const std::string_view question = session->engine().kind() == DownloadKind::kSettings
+                                          ? download_text::kStopSettings
+                                          : download_text::kStopProgram;
+    if (!ask_stop_(QtText(download_text::kDownload), QtText(question))) return;
+    if (!session) return;  // it ended while the question was open
+  }
+  stopped_ = true;
+  session->Stop();
+}
+
 void DownloadCommandQt::OnFinished(bool succeeded) {
-  delete progress_;
+  Dismiss(progress_);
+  Dismiss(waiting_);
   if (session_) session_->deleteLater();
   session_ = nullptr;
-  emit statusChanged(QString());
+  // A stop leaves its words in the status bar: the terminal holds part of the download.
+  emit statusChanged(stopped_ ? status_ : QString());
   emit finished(succeeded);
 }
 

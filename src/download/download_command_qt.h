@@ -19,7 +19,9 @@ namespace veltrix {
 
 // Download settings and Download Program from the Utilities menu: the program file dialog, the
 // "Download Properties" dialog, then the download on the event loop with the progress dialog,
-// the messages and the retry question. The window stays usable; closing it stops the download.
+// the messages and the retry question. The window stays usable; closing the progress window, or
+// Cancel there or on the wait for a terminal, stops the download (asking first once the terminal
+// holds part of it), and the status bar says how far it got.
 class DownloadCommandQt : public QObject {
   Q_OBJECT
 
@@ -32,6 +34,10 @@ class DownloadCommandQt : public QObject {
   bool running() const { return session_ != nullptr; }
   DownloadSessionQt* session() const { return session_; }
   DownloadProgressDialog* progress() const { return progress_; }
+  // The RF wait for the terminal, with its Cancel button (null when not waiting).
+  DownloadProgressDialog* waiting() const { return waiting_; }
+  // As closing the progress window does: asks first when the terminal already holds part of it.
+  void RequestStop();
 
   // What the user is asked; each defaults to the real dialog and tests replace it.
   struct Choice {
@@ -47,6 +53,7 @@ class DownloadCommandQt : public QObject {
   void SetPropertiesAsker(PropertiesAsker asker) { ask_properties_ = std::move(asker); }
   void SetMessageShower(MessageShower shower) { show_message_ = std::move(shower); }
   void SetRetryAsker(RetryAsker asker) { ask_retry_ = std::move(asker); }
+  void SetStopAsker(RetryAsker asker) { ask_stop_ = std::move(asker); }
   // Where RF listens (port 3000 on any address unless a test says otherwise).
   void SetListenAddress(const QHostAddress& address, quint16 port);
 
@@ -57,19 +64,25 @@ class DownloadCommandQt : public QObject {
  private:
   void ShowMessage(const QString& text, const QString& caption);
   void OnFinished(bool succeeded);
+  void OnStatus(const QString& text);
+  DownloadProgressDialog* ShowWindow(DownloadProgressDialog* dialog);
 
   QWidget* window_;
   QString last_program_;  // pre-fills the file dialog for the rest of the run
   LineSettings line_;     // the serial line as the last download left it
-  FileProgramSource program_;
+  std::unique_ptr<MemoryProgramSource> program_;  // the checked program
   QPointer<DownloadSessionQt> session_;
   QPointer<DownloadProgressDialog> progress_;
+  QPointer<DownloadProgressDialog> waiting_;
+  QString status_;
+  bool stopped_ = false;
   QHostAddress listen_address_ = QHostAddress::Any;
   quint16 listen_port_ = 3000;
   ProgramAsker ask_program_;
   PropertiesAsker ask_properties_;
   MessageShower show_message_;
   RetryAsker ask_retry_;
+  RetryAsker ask_stop_;
 };
 
 }  // namespace veltrix

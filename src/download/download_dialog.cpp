@@ -64,15 +64,23 @@ QStringList DownloadPropertiesDialog::SystemPorts() {
 }
 
 DownloadProgressDialog::DownloadProgressDialog(int maximum, QWidget* parent)
+    : DownloadProgressDialog(QtText(download_text::kProgressCaption),
+                             QtText(download_text::kDownloading), maximum, parent) {}
+
+DownloadProgressDialog::DownloadProgressDialog(const QString& caption, const QString& text,
+                                               int maximum, QWidget* parent)
     : QDialog(parent), bar_(new QProgressBar) {
-  setWindowTitle(QtText(download_text::kProgressCaption));
+  setWindowTitle(caption);
   bar_->setRange(0, maximum);
   bar_->setValue(0);
   bar_->setFormat(QStringLiteral("%p%"));
   bar_->setMinimumWidth(260);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(new QLabel(QtText(download_text::kDownloading)));
+  layout->addWidget(new QLabel(text));
   layout->addWidget(bar_);
+  layout->addWidget(buttons);
   setModal(false);
 }
 

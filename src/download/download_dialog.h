@@ -36,13 +36,16 @@ class DownloadPropertiesDialog : public QDialog {
   QComboBox* rate_;
 };
 
-// "Progress": "Downloading..." over a bar that follows the transfer. Closing it asks the
-// download to stop.
+// "Progress": "Downloading..." over a bar that follows the transfer; with `maximum` 0, the wait
+// for a terminal over RF, with a busy bar. Closing it or its Cancel button asks the download to
+// stop.
 class DownloadProgressDialog : public QDialog {
   Q_OBJECT
 
  public:
   explicit DownloadProgressDialog(int maximum, QWidget* parent = nullptr);
+  DownloadProgressDialog(const QString& caption, const QString& text, int maximum,
+                         QWidget* parent = nullptr);
   void SetPosition(int position);
   QProgressBar* bar() const { return bar_; }
 

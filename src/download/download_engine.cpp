@@ -68,10 +68,41 @@ DownloadEngine::DownloadEngine(DownloadVia via, std::span<const std::uint8_t> re
 }
 
 DownloadEngine::DownloadEngine(DownloadVia via, ProgramSource& program)
-    : kind_(DownloadKind::kProgram), via_(via), program_(&program) {}
+    : kind_(DownloadKind::kProgram), via_(via), program_(&program) {
+  // Framed once ahead, so that a stop can say how many frames there were.
+  SRecordFramer framer;
+  std::array<std::uint8_t, kProgramChunk> chunk;
+  for (std::size_t got; !framer.ended() && (got = program.Read(chunk)) > 0;) {
+    framer.Feed(std::span(chunk).first(got));
+    frames_total_ += static_cast<int>(framer.frames().size());
+    framer.frames().clear();
+  }
+  program.Rewind();
+}
 
 void DownloadEngine::Emit(Kind kind, int value, std::string_view text, std::string_view caption) {
+  if (kind == Kind::kProgressOpen) progress_open_ = true;
+  if (kind == Kind::kProgressClose) progress_open_ = false;
   out_.push_back({kind, value, {}, std::string(text), std::string(caption)});
+}
+
+std::string DownloadEngine::StopText() const {
+  if (kind_ == DownloadKind::kSettings) {
+    return "Download stopped after block " + std::to_string(block_) + " of " +
+           std::to_string(kSettingsBlockCount);
+  }
+  return "Download stopped after frame " + std::to_string(frames_acked_) + " of " +
+         std::to_string(frames_total_);
+}
+
+DownloadEvents DownloadEngine::Stop(std::int64_t now) {
+  now_ = now;
+  if (step_ == Step::kDone) return std::exchange(out_, {});
+  if (progress_open_) Emit(Kind::kProgressClose);
+  if (via_ == DownloadVia::kRf) Emit(Kind::kCloseLink);
+  Emit(Kind::kStatus, 0, StopText());
+  Finish(false);
+  return std::exchange(out_, {});
 }
 
 void DownloadEngine::Message(std::string_view text, std::string_view caption) {
@@ -138,6 +169,12 @@ DownloadEvents DownloadEngine::ListenFailed(ListenError error, std::int64_t now)
 DownloadEvents DownloadEngine::LinkClosed(std::int64_t now) {
   now_ = now;
   link_closed_ = true;
+  // Frames sent into a closed connection can only time out: say so at once instead.
+  if (kind_ == DownloadKind::kProgram && (step_ == Step::kFrame || step_ == Step::kPause)) {
+    Message("The terminal closed the connection after frame " + std::to_string(frames_acked_),
+            download_text::kDownload);
+    TransferEnded(false);
+  }
   return std::exchange(out_, {});
 }
 
@@ -160,7 +197,7 @@ void DownloadEngine::BeginAttempt() {
   link_closed_ = false;
   if (via_ == DownloadVia::kRf) {
     step_ = Step::kListening;
-    deadline_ = now_ + kListenWaitMs;
+    deadline_ = now_ + listen_wait_ms_;
     Emit(Kind::kStatus, 0, download_text::kWaitingForTerminal);
     Emit(Kind::kListen);
     return;
@@ -282,6 +319,7 @@ void DownloadEngine::StartErase() {
   Emit(Kind::kStatus, 0, download_text::kErasing);
   erase_deadline_ = now_ + kEraseWaitMs;
   step_ = Step::kErase;
+  reached_terminal_ = true;  // from here on the old program is gone
   Exchange(Bytes(kEraseToken));
 }
 
@@ -333,12 +371,14 @@ void DownloadEngine::StartSending() {
   }
   framer_ = SRecordFramer();
   program_read_ = 0;
+  frames_acked_ = 0;
   chunk_pending_ = false;
   NextProgramStep();
 }
 
 void DownloadEngine::SendNextBlock() {
   sent_ = SettingsBlock(image_, block_);
+  reached_terminal_ = true;
   sends_ = 1;
   last_send_ = false;
   step_ = Step::kBlock;
@@ -396,7 +436,10 @@ void DownloadEngine::NextProgramStep() {
 void DownloadEngine::FrameReply() {
   if (discarding_) return ResendFrame();
   ++looks_;
-  if (reply_ == "FA") return NextProgramStep();
+  if (reply_ == "FA") {
+    ++frames_acked_;
+    return NextProgramStep();
+  }
   if (reply_ == "FN") return ResendFrame();
   if (reply_ == "FF") {
     Message(download_text::kDownloadError, download_text::kDownload);

@@ -69,6 +69,11 @@ inline constexpr std::string_view kDownloading = "Downloading...";
 inline constexpr std::string_view kWaitingForTerminal = "Waiting for the terminal to connect...";
 inline constexpr std::string_view kCallingTerminal = "Calling the terminal...";
 inline constexpr std::string_view kErasing = "Erasing the terminal's program memory...";
+// Stopping a download that has reached the terminal leaves part of it there: the user is told.
+inline constexpr std::string_view kStopSettings =
+    "Stop the download? The terminal keeps an incomplete settings.";
+inline constexpr std::string_view kStopProgram =
+    "Stop the download? The terminal keeps an incomplete program.";
 }  // namespace download_text
 
 // Why listening for the terminal failed (the listener's negative results).
@@ -144,6 +149,21 @@ class DownloadEngine {
   // RF: the terminal closed its end; later sends go nowhere.
   DownloadEvents LinkClosed(std::int64_t now);
   DownloadEvents AnswerRetry(bool retry, std::int64_t now);
+  // The user stops the download: the link is closed and the command ends, saying how far the
+  // transfer got (StopText).
+  DownloadEvents Stop(std::int64_t now);
+
+  // "Download stopped after block N of 598" (or "frame N of M"): what the terminal acknowledged.
+  std::string StopText() const;
+  // The terminal's settings or program have been touched (a block sent, the flash erased), so a
+  // stop leaves it part of a download.
+  bool reached_terminal() const { return reached_terminal_; }
+  DownloadKind kind() const { return kind_; }
+
+  // RF: how long each attempt waits for the terminal (10 s unless a fleet's driver says).
+  void set_listen_wait(std::int64_t ms) { listen_wait_ms_ = ms; }
+  // Blocks or frames the terminal has acknowledged in this attempt.
+  int acknowledged() const { return kind_ == DownloadKind::kSettings ? block_ : frames_acked_; }
 
   std::optional<std::int64_t> deadline() const { return deadline_; }
   bool finished() const { return step_ == Step::kDone; }
@@ -206,6 +226,9 @@ class DownloadEngine {
   DownloadEvents out_;
   bool succeeded_ = false;
   bool link_closed_ = false;
+  bool reached_terminal_ = false;
+  bool progress_open_ = false;
+  std::int64_t listen_wait_ms_ = kListenWaitMs;
 
   // Reply collection.
   bool collecting_ = false;
@@ -228,6 +251,8 @@ class DownloadEngine {
   SRecordFramer framer_;
   std::uint64_t program_size_ = 0;
   std::uint64_t program_read_ = 0;
+  int frames_total_ = 0;  // the data frames of the whole program
+  int frames_acked_ = 0;
 };
 
 }  // namespace veltrix

@@ -25,8 +25,11 @@ TerminalListenerQt::TerminalListenerQt(QObject* parent)
   connect(server_, &QTcpServer::newConnection, this, &TerminalListenerQt::HandOut);
 }
 
-bool TerminalListenerQt::Listen(const QHostAddress& address, quint16 port, ListenError* error) {
+bool TerminalListenerQt::Listen(const QHostAddress& address, quint16 port, ListenError* error,
+                                int backlog) {
   if (server_->isListening()) return true;
+  server_->setListenBacklogSize(backlog);
+  server_->setMaxPendingConnections(std::max(backlog, 30));
   if (server_->listen(address, port)) return true;
   switch (server_->serverError()) {
     case QAbstractSocket::SocketResourceError:
@@ -64,6 +67,7 @@ void TerminalListenerQt::HandOut() {
     waiting_.pop_front();
     session->Accept(server_->nextPendingConnection());
   }
+  while (unserved_ && server_->hasPendingConnections()) unserved_(server_->nextPendingConnection());
 }
 
 // ---- One download -------------------------------------------------------------------------------
@@ -177,6 +181,18 @@ void DownloadSessionQt::End(bool succeeded) {
 void DownloadSessionQt::Cancel() {
   if (!done_) queue_.clear();
   End(false);
+}
+
+void DownloadSessionQt::Stop() {
+  if (done_) return;
+  queue_.clear();
+  ir_.reset();
+  // Carried here, not queued: a stop may come while a message box holds the queue.
+  for (const DownloadEvent& e : engine_->Stop(Now())) {
+    if (e.kind == DownloadEvent::Kind::kProgressClose) emit progressClosed();
+    if (e.kind == DownloadEvent::Kind::kStatus) emit status(QString::fromStdString(e.text));
+  }
+  End(false);  // closes the link
 }
 
 void DownloadSessionQt::AnswerRetry(bool retry) {

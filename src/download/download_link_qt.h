@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QString>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -30,8 +31,14 @@ class TerminalListenerQt : public QObject {
 
  public:
   explicit TerminalListenerQt(QObject* parent = nullptr);
-  // False with the error the download reports.
-  bool Listen(const QHostAddress& address, quint16 port, ListenError* error);
+  // False with the error the download reports. `backlog` is how many connections the system
+  // holds for us (1 for one terminal; a fleet's size).
+  bool Listen(const QHostAddress& address, quint16 port, ListenError* error, int backlog = 1);
+  // A fleet's listener hands a connection no session waits for to `handler` at once (which closes
+  // it and reports it) instead of leaving the terminal connected and unserved.
+  void SetUnservedHandler(std::function<void(QTcpSocket*)> handler) {
+    unserved_ = std::move(handler);
+  }
   void Close();
   bool listening() const;
   quint16 port() const;
@@ -42,6 +49,7 @@ class TerminalListenerQt : public QObject {
   void HandOut();
   QTcpServer* server_;
   std::deque<QPointer<DownloadSessionQt>> waiting_;
+  std::function<void(QTcpSocket*)> unserved_;
 };
 
 // Where and how a download runs.
@@ -72,6 +80,9 @@ class DownloadSessionQt : public QObject {
   void AnswerRetry(bool retry);
   // Stops at once: closes the link, no message; finished(false) follows.
   void Cancel();
+  // The user stops the download: the engine says how far it got (status), then finished(false).
+  void Stop();
+  const DownloadEngine& engine() const { return *engine_; }
   // The terminal's address over RF ("127.0.0.1:40112"), the port name over serial.
   QString peer() const { return peer_; }
   // The port the session's own listener listens on (0 when it is not listening).

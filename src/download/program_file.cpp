@@ -1,39 +1,27 @@
 #include "download/program_file.h"
 
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
+#include "settings/file_read.h"
 
 namespace veltrix {
 
-bool FileProgramSource::Open(const std::string& path, std::string* reason) {
-  path_ = path;
-  in_ = std::ifstream();
-  size_ = 0;
-  std::error_code error;
-  const auto status = std::filesystem::status(path, error);
-  if (error) {
-    if (reason) *reason = error.message();
-    return false;
+ProgramFile LoadProgramFile(const std::string& path) {
+  ProgramFile file;
+  std::optional<FileRead> read = ReadRegularFile(path, kMaxProgramFileBytes, &file.reason);
+  if (!read) return file;
+  if (read->cut) {
+    file.status = ProgramFile::Status::kRefused;
+    file.reason = "The file is larger than " + std::to_string(kMaxProgramFileBytes >> 20) + " MB.";
+    return file;
   }
-  if (!std::filesystem::is_regular_file(status)) {
-    if (reason) *reason = "not a regular file";
-    return false;
+  ProgramCheck check = CheckProgram(read->bytes);
+  if (!check.ok) {
+    file.status = ProgramFile::Status::kRefused;
+    file.reason = std::move(check.error);
+    return file;
   }
-  in_.open(path, std::ios::binary);
-  if (!in_) {
-    if (reason) *reason = std::strerror(errno);
-    return false;
-  }
-  size_ = std::filesystem::file_size(path, error);
-  if (error) size_ = 0;
-  return true;
-}
-
-std::size_t FileProgramSource::Read(std::span<std::uint8_t> buffer) {
-  if (!in_) return 0;
-  in_.read(reinterpret_cast<char*>(buffer.data()), static_cast<std::streamsize>(buffer.size()));
-  return static_cast<std::size_t>(in_.gcount());
+  file.status = ProgramFile::Status::kOk;
+  file.program = std::move(check.program);
+  return file;
 }
 
 }  // namespace veltrix

@@ -1,28 +1,23 @@
 #ifndef VELTRIX_DOWNLOAD_PROGRAM_FILE_H_
 #define VELTRIX_DOWNLOAD_PROGRAM_FILE_H_
 
-#include <fstream>
 #include <string>
 
-#include "download/download_engine.h"
+#include "download/srecord_reader.h"
 
 namespace veltrix {
 
-// An SHX program on disk, read in chunks. Only a regular file is opened (a FIFO or a device
-// would hang or never end); Rewind closes and opens it again, as a retry does.
-class FileProgramSource : public ProgramSource {
- public:
-  // False with the system's reason when the file cannot be opened.
-  bool Open(const std::string& path, std::string* reason = nullptr);
-  std::uint64_t Size() override { return size_; }
-  std::size_t Read(std::span<std::uint8_t> buffer) override;
-  bool Rewind() override { return Open(path_); }
-
- private:
-  std::string path_;
-  std::ifstream in_;
-  std::uint64_t size_ = 0;
+// An SHX program read from disk and checked before anything is sent. The download then goes
+// out of this copy, so a retry sends what was checked even if the file changes meanwhile.
+struct ProgramFile {
+  enum class Status { kOk, kCannotOpen, kRefused };
+  Status status = Status::kCannotOpen;
+  std::string reason;  // the system's reason, or the check's line and problem
+  CheckedProgram program;
 };
+
+// Only a regular file of at most kMaxProgramFileBytes is read (a FIFO or a device would hang).
+ProgramFile LoadProgramFile(const std::string& path);
 
 }  // namespace veltrix
 

@@ -30,6 +30,7 @@ struct Terminal {
   bool connects = true;            // RF: the terminal connects when the PC listens
   std::deque<bool> retry_answers;  // how the retry questions are answered (then No)
   int close_after_sends = -1;      // RF: the terminal closes once this many bytes strings came
+  int stop_after_sends = -1;       // the user stops the download once this many were sent
 };
 
 struct Outcome {
@@ -37,6 +38,7 @@ struct Outcome {
   std::vector<std::int64_t> sent_at;
   std::vector<std::string> messages;  // "caption: text", retry questions as "? caption: text"
   std::vector<int> progress;
+  std::string status;  // the last status line
   std::int64_t ended_at = 0;
   bool succeeded = false;
   int listens = 0;
@@ -64,6 +66,7 @@ Outcome Drive(DownloadEngine& engine, Terminal terminal) {
           if (static_cast<int>(o.sent.size()) == terminal.close_after_sends) {
             take(engine.LinkClosed(now));
           }
+          if (static_cast<int>(o.sent.size()) == terminal.stop_after_sends) take(engine.Stop(now));
           break;
         case Kind::kListen:
           ++o.listens;
@@ -74,6 +77,9 @@ Outcome Drive(DownloadEngine& engine, Terminal terminal) {
           break;
         case Kind::kProgress:
           o.progress.push_back(e.value);
+          break;
+        case Kind::kStatus:
+          o.status = e.text;
           break;
         case Kind::kMessage:
           o.messages.push_back(e.caption + ": " + e.text);
@@ -342,6 +348,33 @@ TEST(ProgramDownload, FileFaultsAndTheRetryReadsItFromTheStart) {
       {.script = {"FN", "FA", "FF", "FN", "FA"}, .otherwise = AlwaysFa, .retry_answers = {true}});
   ASSERT_TRUE(o.succeeded);
   EXPECT_EQ(o.sent[2], o.sent[5]);
+}
+
+TEST(ProgramDownload, AStopOrAClosedConnectionSaysHowFarTheTransferGot) {
+  std::vector<std::string> records;
+  for (int i = 0; i < 8; ++i) records.push_back(Record("3", 0x1000 + 0x100 * i, 4, 32));
+  std::string file;
+  for (const auto& r : records) file += r;
+  file += Record("7", 0, 4, 0);
+  // Handshake "\r", ":ERASE", then frames: the terminal closes after the third frame was sent.
+  MemoryProgramSource closing(Bytes(file));
+  DownloadEngine closed(DownloadVia::kRf, closing);
+  Outcome o = Drive(closed, {.script = {"FN", "FA"}, .otherwise = AlwaysFa, .close_after_sends = 5});
+  EXPECT_EQ(o.messages.front(), "Download: The terminal closed the connection after frame 2");
+  EXPECT_LT(o.ended_at, kTransferPauseMs + 100);  // at once, not after the frame time-outs
+
+  MemoryProgramSource stopping(Bytes(file));
+  DownloadEngine stopped(DownloadVia::kRs232, stopping);
+  EXPECT_FALSE(stopped.reached_terminal());
+  o = Drive(stopped, {.script = {"FN", "FA"}, .otherwise = AlwaysFa, .stop_after_sends = 6});
+  EXPECT_TRUE(stopped.reached_terminal());
+  EXPECT_FALSE(o.succeeded);
+  EXPECT_EQ(o.status, "Download stopped after frame 3 of 8");
+
+  DownloadEngine settings(DownloadVia::kRf, NumberedRecord());
+  o = Drive(settings, {.otherwise = AlwaysAck, .stop_after_sends = 11});
+  EXPECT_EQ(o.status, "Download stopped after block 9 of 598");
+  EXPECT_EQ(o.closes, 1);
 }
 
 // ---- Framing ------------------------------------------------------------------------------------

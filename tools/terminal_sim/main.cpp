@@ -105,7 +105,12 @@ bool WriteFile(const QString& path, const std::vector<std::uint8_t>& bytes) {
 int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);
   Options options;
-  if (!Parse(app.arguments(), options)) return 2;
+  const QStringList args = app.arguments();
+  if (args.contains("--help") || args.contains("-h")) {
+    std::fputs(kUsage, stdout);
+    return 0;
+  }
+  if (!Parse(args, options)) return 2;
   SimulatedTerminal terminal(options.faults);
   std::unique_ptr<QIODevice> link;
   bool completed = false;
@@ -172,12 +177,14 @@ int main(int argc, char** argv) {
     port->setBaudRate(115200);
     QObject::connect(port, &QSerialPort::readyRead, on_data);
     idle.start();
-  } else {
+  }
+  // Kept for the whole run: the handlers below use them long after the set-up.
+  QElapsedTimer trying;
+  QTimer retry;  // the PC may not be listening yet
+  if (options.serial.isEmpty()) {
     auto* socket = new QTcpSocket;
     link.reset(socket);
-    QElapsedTimer trying;
     trying.start();
-    QTimer retry;  // the PC may not be listening yet
     retry.setSingleShot(true);
     QObject::connect(&retry, &QTimer::timeout, [&] {
       socket->abort();
