@@ -9,7 +9,7 @@ packages=(
   fontconfig fonts-dejavu-core fonts-wqy-microhei
   # Faces that used to take over the fixed-pitch texts: the tests run with them installed.
   fonts-noto-mono fonts-urw-base35 fonts-droid-fallback
-  xvfb xauth socat
+  xvfb xauth socat srecord
   clang-14 libclang-rt-14-dev clang-format-14
 )
 missing=()

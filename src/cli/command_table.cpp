@@ -64,7 +64,7 @@ void PrintHelp(std::ostream& out) {
   }
   out << "\nNumbers are decimal, texts plain text, byte strings hexadecimal pairs (0D 41).\n"
          "Exit status: 0 success, 1 the files differ (diff) or the screens cannot be told apart\n"
-         "(identify) or a download failed, 2 bad usage or unreadable input.\n";
+         "(identify), 2 bad usage or unreadable input, 3 a download did not complete.\n";
 }
 
 int Fail(CliIo& io, std::string_view message) {

@@ -61,8 +61,7 @@ int RunDownloadCommand(std::span<const std::string> args, CliIo& io) {
     }
   }
   static constexpr std::string_view kValues[] = {
-      "--via",       "--baud",      "--retries",
-      "--listen-port", "--terminals", "--listen-address", "--wait"};
+      "--via", "--baud", "--retries", "--listen-port", "--terminals", "--listen-address", "--wait"};
   static constexpr std::string_view kFlags[] = {"--check", "--json"};
   const ParsedArgs parsed = ParseArgs(rest, kValues, kFlags);
   if (!parsed.error.empty()) return Fail(io, parsed.error);

@@ -14,7 +14,7 @@ namespace veltrix::cli {
 struct DownloadRequest {
   DownloadKind kind = DownloadKind::kSettings;
   std::string file;
-  SettingsRecord record{};  // a settings download: the file's record
+  SettingsRecord record{};            // a settings download: the file's record
   std::vector<std::uint8_t> program;  // a program download: the checked records
   bool json = false;                  // one object per terminal instead of the report lines
   DownloadVia via = DownloadVia::kRs232;
@@ -23,7 +23,7 @@ struct DownloadRequest {
   int retries = 0;  // how many retry questions are answered Yes
   std::string listen_address = "0.0.0.0";
   int listen_port = 3000;
-  int terminals = 1;  // RF: how many terminals are served on the port
+  int terminals = 1;                            // RF: how many terminals are served on the port
   std::int64_t listen_wait_ms = kListenWaitMs;  // RF: each attempt's wait for a terminal
 };
 

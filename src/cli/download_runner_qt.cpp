@@ -180,7 +180,7 @@ int Run(const DownloadRequest& request, CliIo& io) {
       t.peer = t.session->peer().toStdString();
       t.acknowledged = t.session->engine().acknowledged();
       if (t.outcome.empty() || (!succeeded && t.outcome == download_text::kCompleted)) {
-        t.outcome = succeeded ? std::string(download_text::kCompleted)
+        t.outcome = succeeded        ? std::string(download_text::kCompleted)
                     : t.peer.empty() ? "No terminal connected"
                                      : "Failed to download";
       }
@@ -225,7 +225,8 @@ int Run(const DownloadRequest& request, CliIo& io) {
     for (const std::string& address : refused) io.out << address << "  " << kRefusedText << '\n';
     io.out << succeeded << " of " << count << " terminals downloaded completely in "
            << Seconds(static_cast<double>(total.elapsed()) / 1000.0) << '\n';
-  } else if (!terminals.front().succeeded && terminals.front().outcome.starts_with("Download stopped")) {
+  } else if (!terminals.front().succeeded &&
+             terminals.front().outcome.starts_with("Download stopped")) {
     io.out << terminals.front().outcome << '\n';
   }
   io.out.flush();

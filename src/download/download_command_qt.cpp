@@ -138,8 +138,8 @@ void DownloadCommandQt::OnStatus(const QString& text) {
   emit statusChanged(text);
   const bool waiting = text == QtText(download_text::kWaitingForTerminal);
   if (waiting && !waiting_) {
-    waiting_ = ShowWindow(new DownloadProgressDialog(QtText(download_text::kDownload), text, 0,
-                                                     window_));
+    waiting_ =
+        ShowWindow(new DownloadProgressDialog(QtText(download_text::kDownload), text, 0, window_));
   } else if (!waiting) {
     Dismiss(waiting_);
   }

@@ -26,11 +26,10 @@ std::string Hex(unsigned value) {
 
 void AppendS3(std::vector<std::uint8_t>& text, std::uint32_t address,
               std::span<const std::uint8_t> data) {
-  std::vector<std::uint8_t> body{static_cast<std::uint8_t>(4 + data.size() + 1),
-                                 static_cast<std::uint8_t>(address >> 24),
-                                 static_cast<std::uint8_t>(address >> 16),
-                                 static_cast<std::uint8_t>(address >> 8),
-                                 static_cast<std::uint8_t>(address)};
+  std::vector<std::uint8_t> body{
+      static_cast<std::uint8_t>(4 + data.size() + 1), static_cast<std::uint8_t>(address >> 24),
+      static_cast<std::uint8_t>(address >> 16), static_cast<std::uint8_t>(address >> 8),
+      static_cast<std::uint8_t>(address)};
   body.insert(body.end(), data.begin(), data.end());
   unsigned sum = 0;
   for (std::uint8_t b : body) sum += b;
@@ -86,13 +85,15 @@ class Reader {
   bool Record(std::string_view line) {
     seen_record_ = true;
     if (ended_) return Problem("a record after the end record.");
-    if (line[0] != 'S') return Problem("a record starts with \"S\", not \"" + std::string(1, line[0]) + "\".");
+    if (line[0] != 'S')
+      return Problem("a record starts with \"S\", not \"" + std::string(1, line[0]) + "\".");
     if (line.size() < 2 || line[1] < '0' || line[1] > '9') {
       return Problem("\"" + std::string(line.substr(0, 2)) + "\" is not a record type.");
     }
     const int type = line[1] - '0';
     const int address_bytes = kAddressBytes[static_cast<std::size_t>(type)];
-    if (address_bytes == 0) return Problem("record type S" + std::to_string(type) + " is not known.");
+    if (address_bytes == 0)
+      return Problem("record type S" + std::to_string(type) + " is not known.");
     std::vector<std::uint8_t> bytes;
     for (std::size_t i = 2; i < line.size(); ++i) {
       if (HexValue(line[i]) < 0) {
@@ -103,7 +104,8 @@ class Reader {
                                  std::to_string(i + 1) + ").");
       }
     }
-    if ((line.size() - 2) % 2 != 0) return Problem("the record has an odd number of hexadecimal digits.");
+    if ((line.size() - 2) % 2 != 0)
+      return Problem("the record has an odd number of hexadecimal digits.");
     for (std::size_t i = 2; i < line.size(); i += 2) {
       bytes.push_back(static_cast<std::uint8_t>(HexValue(line[i]) * 16 + HexValue(line[i + 1])));
     }
@@ -124,7 +126,8 @@ class Reader {
                      Hex(expected) + ".");
     }
     std::uint32_t address = 0;
-    for (int i = 1; i <= address_bytes; ++i) address = address * 256 + bytes[static_cast<std::size_t>(i)];
+    for (int i = 1; i <= address_bytes; ++i)
+      address = address * 256 + bytes[static_cast<std::size_t>(i)];
     const std::span<const std::uint8_t> data =
         std::span(bytes).subspan(1 + static_cast<std::size_t>(address_bytes),
                                  count - 1 - static_cast<std::size_t>(address_bytes));

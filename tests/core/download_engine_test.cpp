@@ -359,7 +359,8 @@ TEST(ProgramDownload, AStopOrAClosedConnectionSaysHowFarTheTransferGot) {
   // Handshake "\r", ":ERASE", then frames: the terminal closes after the third frame was sent.
   MemoryProgramSource closing(Bytes(file));
   DownloadEngine closed(DownloadVia::kRf, closing);
-  Outcome o = Drive(closed, {.script = {"FN", "FA"}, .otherwise = AlwaysFa, .close_after_sends = 5});
+  Outcome o =
+      Drive(closed, {.script = {"FN", "FA"}, .otherwise = AlwaysFa, .close_after_sends = 5});
   EXPECT_EQ(o.messages.front(), "Download: The terminal closed the connection after frame 2");
   EXPECT_LT(o.ended_at, kTransferPauseMs + 100);  // at once, not after the frame time-outs
 

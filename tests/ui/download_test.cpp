@@ -2,9 +2,13 @@
 // pseudo-terminal pair, with the simulator's faults; and the window's command against a terminal
 // in-process, checking that the window keeps working while the progress dialog advances.
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTcpSocket>
@@ -51,11 +55,14 @@ class DownloadTest : public QObject {
   void initTestCase();
   void settingsAndProgramOverTcp_data();
   void settingsAndProgramOverTcp();
-  void fleetOfTwentyOverTcp();
+  void fleetOfTwoHundredOverTcp();
+  void srecCatProgramOverTcp();
   void settingsOverAPseudoTerminal();
   void windowStaysResponsiveAndProgressAdvances();
   void propertiesDialogStartsAtTheFirstPort();
   void closingTheWindowMidTransferClosesTheLink();
+  void closingTheProgressWindowAsksAndReports();
+  void theRfWaitCancelsAndASecondCommandRaisesIt();
 
  private:
   // Starts veltrix-cli download with `args`, then the simulator with `sim_args` on its port.
@@ -65,7 +72,7 @@ class DownloadTest : public QObject {
     QString out;
     QString sim_out;
   };
-  Run Download(const QStringList& args, const QStringList& sim_args);
+  Run Download(const QStringList& args, const QStringList& sim_args, int terminals = -1);
   QTemporaryDir dir_;
   QString settings_;
   QString program_;
@@ -82,7 +89,8 @@ void DownloadTest::initTestCase() {
   file.write(Program(2000, &program_data_));
 }
 
-DownloadTest::Run DownloadTest::Download(const QStringList& args, const QStringList& sim_args) {
+DownloadTest::Run DownloadTest::Download(const QStringList& args, const QStringList& sim_args,
+                                         int terminals) {
   Run run;
   QProcess cli;
   cli.setReadChannel(QProcess::StandardError);
@@ -98,8 +106,7 @@ DownloadTest::Run DownloadTest::Download(const QStringList& args, const QStringL
   }
   if (!match.hasMatch()) return run;
   const QString port = match.captured(1);
-  int terminals = 1;
-  if (int at = args.indexOf("--terminals"); at >= 0) terminals = args[at + 1].toInt();
+  if (terminals < 0) terminals = 1;
   std::vector<std::unique_ptr<QProcess>> sims;
   for (int i = 0; i < terminals; ++i) {
     auto sim = std::make_unique<QProcess>();
@@ -129,13 +136,13 @@ void DownloadTest::settingsAndProgramOverTcp_data() {
   QTest::newRow("settings, a block refused once")
       << "settings" << QStringList{"--nak-block", "300"} << 0 << "Download: Downloaded completely!";
   QTest::newRow("settings, the terminal closes mid-transfer")
-      << "settings" << QStringList{"--close-at", "5"} << 1
+      << "settings" << QStringList{"--close-at", "5"} << 3
       << "Error: Error on downloading!\nError: Failed to download, would you like to retry? No";
   QTest::newRow("program, FN during the erase and to a frame")
       << "program" << QStringList{"--erase-fn", "--fn-frame", "3"} << 0
       << "Download: Downloaded completely!";
   QTest::newRow("program, FF to a frame")
-      << "program" << QStringList{"--ff-frame", "2"} << 1
+      << "program" << QStringList{"--ff-frame", "2"} << 3
       << "Download: Error on downloading!\nError: Failed to download, would you like to retry? No";
 }
 
@@ -160,20 +167,59 @@ void DownloadTest::settingsAndProgramOverTcp() {
   QCOMPARE(got.readAll(), settings ? sent.read(kRecordSize) : program_data_);
 }
 
-void DownloadTest::fleetOfTwentyOverTcp() {
-  Run run = Download({"settings", settings_, "--terminals", "20"},
-                     {"--settings-out", dir_.filePath("fleet%i.bin")});
+void DownloadTest::fleetOfTwoHundredOverTcp() {
+  // One terminal more than the fleet: it is closed at once and named, the others all complete.
+  Run run = Download({"settings", settings_, "--terminals", "200", "--json"},
+                     {"--settings-out", dir_.filePath("fleet%i.bin")}, 201);
   QCOMPARE(run.cli_exit, 0);
-  QCOMPARE(run.out.count("  Downloaded completely!  "), 20);
-  QVERIFY(run.out.contains("20 of 20 terminals downloaded completely in "));
+  const QStringList lines = run.out.trimmed().split('\n');
+  QCOMPARE(lines.size(), 201);
+  QSet<QString> addresses;
+  int completed = 0;
+  for (const QString& line : lines) {
+    const QJsonObject o = QJsonDocument::fromJson(line.toUtf8()).object();
+    addresses.insert(o["address"].toString());
+    if (o["result"] == "Downloaded completely!" && o["blocks"] == 598) ++completed;
+  }
+  QCOMPARE(completed, 200);
+  QCOMPARE(addresses.size(), 201);
+  QVERIFY(run.out.contains("\"result\": \"Refused: no download was waiting for this terminal\""));
   QFile sent(settings_);
   QVERIFY(sent.open(QIODevice::ReadOnly));
   const QByteArray record = sent.read(kRecordSize);
-  for (int i = 0; i < 20; ++i) {
+  int received = 0;
+  for (int i = 0; i < 201; ++i) {
     QFile got(dir_.filePath(QString("fleet%1.bin").arg(i)));
-    QVERIFY(got.open(QIODevice::ReadOnly));
+    if (!got.open(QIODevice::ReadOnly)) continue;
     QCOMPARE(got.readAll(), record);
+    ++received;
   }
+  QCOMPARE(received, 200);
+}
+
+void DownloadTest::srecCatProgramOverTcp() {
+  const QString srec_cat = QStandardPaths::findExecutable("srec_cat");
+  if (srec_cat.isEmpty()) QSKIP("srec_cat is not installed");
+  // Another tool's S-records: LF line ends, an S0 header, S2 records, an S5 count, an S8 end.
+  QByteArray binary;
+  for (int i = 0; i < 5000; ++i) binary.append(static_cast<char>((i * 131 + i / 7) & 0xFF));
+  const QString bin = dir_.filePath("other.bin");
+  const QString srec = dir_.filePath("other.srec");
+  QFile out(bin);
+  QVERIFY(out.open(QIODevice::WriteOnly));
+  out.write(binary);
+  out.close();
+  QCOMPARE(QProcess::execute(
+               srec_cat, {bin, "-binary", "-offset", "0x12000", "-execution-start-address=0x12000",
+                          "-o", srec, "-address-length=3"}),
+           0);
+  const QString received = dir_.filePath("other-received.bin");
+  Run run = Download({"program", srec}, {"--program-out", received});
+  QCOMPARE(run.out.trimmed(), "Download: Downloaded completely!");
+  QVERIFY(run.sim_out.contains("program at 0x00012000"));
+  QFile got(received);
+  QVERIFY(got.open(QIODevice::ReadOnly));
+  QCOMPARE(got.readAll(), binary);
 }
 
 void DownloadTest::settingsOverAPseudoTerminal() {
@@ -284,6 +330,80 @@ void DownloadTest::closingTheWindowMidTransferClosesTheLink() {
   QTRY_VERIFY_WITH_TIMEOUT(command->progress() != nullptr, 5000);
   delete window;
   QTRY_COMPARE_WITH_TIMEOUT(socket.state(), QAbstractSocket::UnconnectedState, 5000);
+}
+
+void DownloadTest::closingTheProgressWindowAsksAndReports() {
+  QWidget window;
+  DownloadCommandQt command(&window);
+  command.SetListenAddress(QHostAddress::LocalHost, 0);
+  command.SetPropertiesAsker([](int, int) {
+    return DownloadCommandQt::Choice{static_cast<int>(DownloadVia::kRf), QString(), 0};
+  });
+  QStringList asked;
+  bool answer = false;
+  command.SetStopAsker([&](const QString& caption, const QString& text) {
+    asked << caption + ": " + text;
+    return answer;
+  });
+  QString status;
+  connect(&command, &DownloadCommandQt::statusChanged, [&](const QString& s) { status = s; });
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  command.Run(DownloadKind::kSettings, *doc);
+  // A terminal that acknowledges slowly, so that the transfer is under way when the window goes.
+  sim::SimulatedTerminal terminal;
+  QTcpSocket socket;
+  connect(&socket, &QTcpSocket::readyRead, [&] {
+    const QByteArray bytes = socket.readAll();
+    for (const auto& out : terminal.Received({reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                                              static_cast<std::size_t>(bytes.size())})) {
+      const QByteArray reply(reinterpret_cast<const char*>(out.bytes.data()),
+                             static_cast<qsizetype>(out.bytes.size()));
+      QTimer::singleShot(20, &socket, [&socket, reply] { socket.write(reply); });
+    }
+  });
+  socket.connectToHost(QHostAddress::LocalHost, command.session()->listening_port());
+  QTRY_VERIFY_WITH_TIMEOUT(command.progress() != nullptr, 5000);
+  QTRY_VERIFY_WITH_TIMEOUT(command.progress()->bar()->value() >= 3, 10000);
+  command.progress()->close();  // No: the download goes on
+  QCOMPARE(asked,
+           QStringList{"Download: Stop the download? The terminal keeps an incomplete settings."});
+  QVERIFY(command.running());
+  answer = true;
+  command.progress()->close();
+  QTRY_VERIFY(!command.running());
+  QVERIFY2(status.contains(QRegularExpression("^Download stopped after block \\d+ of 598$")),
+           qPrintable(status));
+  QTRY_COMPARE_WITH_TIMEOUT(socket.state(), QAbstractSocket::UnconnectedState, 5000);
+}
+
+void DownloadTest::theRfWaitCancelsAndASecondCommandRaisesIt() {
+  QWidget window;
+  DownloadCommandQt command(&window);
+  command.SetListenAddress(QHostAddress::LocalHost, 0);
+  int asked_properties = 0;
+  command.SetPropertiesAsker([&](int, int) {
+    ++asked_properties;
+    return DownloadCommandQt::Choice{static_cast<int>(DownloadVia::kRf), QString(), 0};
+  });
+  command.SetStopAsker([](const QString&, const QString&) {
+    qFatal("nothing reached the terminal: no question");
+    return true;
+  });
+  auto doc = std::make_unique<Document>();
+  SetDefaults(*doc, 1);
+  command.Run(DownloadKind::kSettings, *doc);
+  QVERIFY(command.waiting() != nullptr);
+  QVERIFY(command.waiting()->isVisible());
+  command.waiting()->hide();
+  command.Run(DownloadKind::kSettings, *doc);  // the second command shows the wait again
+  QCOMPARE(asked_properties, 1);
+  QVERIFY(command.waiting()->isVisible());
+  auto* cancel =
+      command.waiting()->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
+  QTest::mouseClick(cancel, Qt::LeftButton);
+  QTRY_VERIFY(!command.running());
+  QCOMPARE(command.session(), nullptr);
 }
 
 }  // namespace veltrix

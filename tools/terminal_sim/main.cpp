@@ -29,6 +29,7 @@ constexpr const char* kUsage =
     "  --nak-block N | --fn-frame N | --ff-frame N | --close-at N\n"
     "  --erase-fn            answer the erase with FN once\n"
     "  --slow MS             wait MS before every answer\n"
+    "  --help                print this and exit\n"
     "Exits 0 once a download completed, 1 when the link ended without one, 2 on bad usage.\n";
 
 struct Options {
