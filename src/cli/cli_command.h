@@ -12,7 +12,7 @@ namespace veltrix::cli {
 inline constexpr int kExitOk = 0;
 inline constexpr int kExitDiffers = 1;  // a check found a difference (diff)
 inline constexpr int kExitUsage = 2;    // bad usage, unreadable input or a refused value
-inline constexpr int kExitFailed = 3;   // a download did not complete
+inline constexpr int kExitFailed = 3;   // a download or a host session failed
 
 struct CliIo {
   std::ostream& out;

@@ -33,7 +33,7 @@ constexpr Command kCommands[] = {
      "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR] "
      "[--log] [--wait SECONDS] [--json]",
      "a host session without a window: type KEYS (replay syntax, <Capture> appends the screen to "
-     "FILE.SCR), print the last screen; exit 1 on a time-out, 2 when the connection fails",
+     "FILE.SCR), print the last screen; exit 3 on a time-out or when the connection fails",
      RunSessionCommand},
     {"download",
      "settings FILE.QVL | program FILE.SHX [--via cradle-ir|rs-232|irda|rf] [--port DEVICE]... "
@@ -64,7 +64,7 @@ void PrintHelp(std::ostream& out) {
   }
   out << "\nNumbers are decimal, texts plain text, byte strings hexadecimal pairs (0D 41).\n"
          "Exit status: 0 success, 1 the files differ (diff) or the screens cannot be told apart\n"
-         "(identify), 2 bad usage or unreadable input, 3 a download did not complete.\n";
+         "(identify), 2 bad usage or unreadable input, 3 a download or host session failed.\n";
 }
 
 int Fail(CliIo& io, std::string_view message) {

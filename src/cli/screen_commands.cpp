@@ -64,11 +64,10 @@ std::optional<LoadedScreens> LoadScreens(const std::string& path, CliIo& io, con
     return loaded;
   }
   if (error == kVersionErrorMessage) {
+    // The program's own message on standard output; an unreadable input exits 2 as any other.
     io.out << (json ? "{\"error\": " + JsonString(error) + "}" : error) << '\n';
-    exit_code = kExitDiffers;
-  } else {
-    exit_code = Fail(io, std::string(command) + ": " + error);
   }
+  exit_code = Fail(io, std::string(command) + ": " + error);
   return std::nullopt;
 }
 

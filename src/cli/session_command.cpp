@@ -20,7 +20,6 @@
 namespace veltrix::cli {
 namespace {
 
-constexpr int kExitHost = 2;  // connection refused or closed
 using Clock = std::chrono::steady_clock;
 
 class Socket {
@@ -209,7 +208,7 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   if (!socket.Connect(host, port, std::chrono::seconds(wait_seconds), reason)) {
     io.err << "veltrix-cli: session: Can not establish connection to " << host << ':' << port
            << ": " << reason << '\n';
-    return kExitHost;
+    return kExitFailed;
   }
   log.LogConnect();
   ReplayRun run(config);
@@ -222,14 +221,14 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   auto fail_host = [&](const std::string& why) {
     log.LogClose();
     io.err << "veltrix-cli: session: " << why << '\n';
-    return kExitHost;
+    return kExitFailed;
   };
   bool timed_out = false;
   if (!WaitForHost(socket, run, log, wait, timed_out, reason)) return fail_host(reason);
   if (timed_out) {
     log.LogClose();
     io.err << "veltrix-cli: session: no first screen within " << wait_seconds << " seconds\n";
-    return kExitDiffers;
+    return kExitFailed;
   }
   for (std::size_t p = 0; p < pieces.size(); ++p) {
     if (p > 0) {
@@ -247,7 +246,7 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
         log.LogClose();
         io.err << "veltrix-cli: session: the host did not answer " << KeyStrokeText(key)
                << " within " << wait_seconds << " seconds\n";
-        return kExitDiffers;
+        return kExitFailed;
       }
     }
   }

@@ -485,7 +485,7 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   const quint16 closed = probe.serverPort();
   probe.close();
   out = run({"session", "127.0.0.1", "--port", QString::number(closed)}, code);
-  QCOMPARE(code, 2);
+  QCOMPARE(code, 3);
   QVERIFY2(out.contains("Connection refused"), qPrintable(out));
 }
 
