@@ -6,7 +6,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${FUZZ_SECONDS:-60}
 CXX=clang++-14 cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-  -DVELTRIX_FUZZ=ON -DVELTRIX_BUILD_UI=OFF -DVELTRIX_BUILD_BENCH=OFF >/dev/null
+  -DVELTRIX_FUZZ=ON -DVELTRIX_BUILD_UI=OFF -DVELTRIX_BUILD_BENCH=OFF \
+  -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
 cmake --build build-sanitize
 
 work=$(mktemp -d)

@@ -24,6 +24,10 @@ int main(int argc, char** argv) {
     PrintHelp(std::cerr);
     return kExitUsage;
   }
+  if (args[0] == "--version") {
+    std::cout << "veltrix-cli " << VELTRIX_VERSION << '\n';
+    return kExitOk;
+  }
   if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
     PrintHelp(std::cout);
     return kExitOk;

@@ -10,7 +10,9 @@ namespace veltrix::cli {
 
 std::string ApplySetAssignment(Document& doc, std::string_view assignment) {
   const std::size_t equals = assignment.find('=');
-  if (equals == std::string::npos) return "'" + std::string(assignment) + "' is not NAME=VALUE";
+  if (equals == std::string::npos) {
+    return std::string("'").append(assignment).append("' is not NAME=VALUE");
+  }
   const ElementLookup lookup = LookUpElement(assignment.substr(0, equals));
   if (!lookup.ok()) return lookup.error;
   const FieldDef& field = *lookup.field;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <string_view>
 
 namespace veltrix {
@@ -17,6 +18,13 @@ int HexValue(char c) {
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   return -1;
+}
+
+// Joined by appending: GCC 12 at -O3 takes "text" + string for an overlapping copy.
+std::string Cat(std::initializer_list<std::string_view> parts) {
+  std::string text;
+  for (std::string_view part : parts) text.append(part);
+  return text;
 }
 
 std::string Hex(unsigned value) {
@@ -78,7 +86,7 @@ class Reader {
   }
 
   bool Problem(const std::string& text) {
-    error_ = "Line " + std::to_string(line_) + ": " + text;
+    error_ = Cat({"Line ", std::to_string(line_), ": ", text});
     return false;
   }
 
@@ -86,22 +94,24 @@ class Reader {
     seen_record_ = true;
     if (ended_) return Problem("a record after the end record.");
     if (line[0] != 'S')
-      return Problem("a record starts with \"S\", not \"" + std::string(1, line[0]) + "\".");
+      return Problem(Cat({"a record starts with \"S\", not \"", line.substr(0, 1), "\"."}));
     if (line.size() < 2 || line[1] < '0' || line[1] > '9') {
-      return Problem("\"" + std::string(line.substr(0, 2)) + "\" is not a record type.");
+      return Problem(
+          std::string("\"").append(line.substr(0, 2)).append("\" is not a record type."));
     }
     const int type = line[1] - '0';
     const int address_bytes = kAddressBytes[static_cast<std::size_t>(type)];
     if (address_bytes == 0)
-      return Problem("record type S" + std::to_string(type) + " is not known.");
+      return Problem(Cat({"record type S", std::to_string(type), " is not known."}));
     std::vector<std::uint8_t> bytes;
     for (std::size_t i = 2; i < line.size(); ++i) {
       if (HexValue(line[i]) < 0) {
         const char c = line[i];
+        const std::string column = std::to_string(i + 1);
         return Problem(c == ' ' || c == '\t'
-                           ? "a blank inside the record (column " + std::to_string(i + 1) + ")."
-                           : "\"" + std::string(1, c) + "\" is not a hexadecimal digit (column " +
-                                 std::to_string(i + 1) + ").");
+                           ? Cat({"a blank inside the record (column ", column, ")."})
+                           : Cat({"\"", std::string(1, c), "\" is not a hexadecimal digit (column ",
+                                  column, ")."}));
       }
     }
     if ((line.size() - 2) % 2 != 0)
@@ -112,18 +122,18 @@ class Reader {
     if (bytes.empty()) return Problem("the record has no count.");
     const std::size_t count = bytes[0];
     if (count != bytes.size() - 1) {
-      return Problem("the count is " + Hex(static_cast<unsigned>(count)) + ", the record holds " +
-                     Hex(static_cast<unsigned>(bytes.size() - 1)) + " bytes.");
+      return Problem(Cat({"the count is ", Hex(static_cast<unsigned>(count)), ", the record holds ",
+                          Hex(static_cast<unsigned>(bytes.size() - 1)), " bytes."}));
     }
     if (count < static_cast<std::size_t>(address_bytes) + 1) {
-      return Problem("the record is too short for an S" + std::to_string(type) + " record.");
+      return Problem(Cat({"the record is too short for an S", std::to_string(type), " record."}));
     }
     unsigned sum = 0;
     for (std::size_t i = 0; i + 1 < bytes.size(); ++i) sum += bytes[i];
     const unsigned expected = 0xFF - (sum & 0xFF);
     if (bytes.back() != expected) {
-      return Problem("checksum is " + Hex(bytes.back()) + ", the record's bytes give " +
-                     Hex(expected) + ".");
+      return Problem(Cat(
+          {"checksum is ", Hex(bytes.back()), ", the record's bytes give ", Hex(expected), "."}));
     }
     std::uint32_t address = 0;
     for (int i = 1; i <= address_bytes; ++i)
@@ -141,9 +151,9 @@ class Reader {
       case 5:
       case 6:
         if (address != static_cast<std::uint32_t>(check_.program.data_records)) {
-          return Problem("the count record says " + std::to_string(address) +
-                         " data records, the file holds " +
-                         std::to_string(check_.program.data_records) + ".");
+          return Problem(Cat({"the count record says ", std::to_string(address),
+                              " data records, the file holds ",
+                              std::to_string(check_.program.data_records), "."}));
         }
         return true;
       default:  // 7, 8, 9

@@ -49,7 +49,7 @@ constexpr StringEntry kStrings[] = {
     {3003, "Dravin R"},
     // ---- summary information -----------------------------------------------------------------
     {4001, "Quarvel"},
-    {4002, "1.0"},
+    {4002, VELTRIX_VERSION},  // the project's version, from the build
     {4003, "Copyright (C) Quarvel. All rights reserved."},
     // ---- licence agreement (About box) -------------------------------------------------------
     {8888,

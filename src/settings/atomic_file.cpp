@@ -124,7 +124,11 @@ bool FileUpdateLock::Acquire(const std::string& path, int timeout_ms, std::strin
 
 std::string TemporaryPrefixFor(const std::string& target) {
   const fs::path at(target);
-  return (at.parent_path() / ("." + at.filename().string() + ".veltrix-save-")).string();
+  // Appended piece by piece: GCC 12 at -O3 takes "." + string for an overlapping copy.
+  std::string name = ".";
+  name += at.filename().string();
+  name += ".veltrix-save-";
+  return (at.parent_path() / name).string();
 }
 
 bool WriteFileAtomically(const std::string& path,

@@ -74,12 +74,12 @@ void DocumentCommands::New() {
   open_settings_sheet_();
 }
 
-bool DocumentCommands::Open() {
+bool DocumentCommands::Open(const std::string* path) {
   if (!OfferToSave()) return false;
   doc_.file_name.clear();
   file_is_foreign_ = false;
   doc_.modified = false;
-  if (!OpenSettingsFile()) return false;
+  if (!OpenSettingsFile(path)) return false;
   open_settings_sheet_();
   return true;
 }
@@ -107,8 +107,9 @@ bool DocumentCommands::ChangeProduct(int index) {
 
 bool DocumentCommands::QueryClose() { return OfferToSave(); }
 
-bool DocumentCommands::OpenSettingsFile() {
-  std::optional<std::string> path = chooser_.ChooseFileToOpen(SettingsFilter(), doc_.file_name);
+bool DocumentCommands::OpenSettingsFile(const std::string* named) {
+  std::optional<std::string> path =
+      named ? std::optional(*named) : chooser_.ChooseFileToOpen(SettingsFilter(), doc_.file_name);
   if (!path || path->empty()) return false;
   const std::optional<SettingsFileReport> report = io_.read(doc_, *path);
   if (!report) {

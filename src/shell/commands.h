@@ -43,7 +43,8 @@ class DocumentCommands {
 
   void New();
   // True when a file was read (the sheet has been shown; the caller selects the product).
-  bool Open();
+  // With `path` (a file named on the command line) the file dialog is not shown.
+  bool Open(const std::string* path = nullptr);
   bool Save();
   bool SaveAs();
   void Configure() { open_settings_sheet_(); }
@@ -54,7 +55,7 @@ class DocumentCommands {
 
   // The file operations: each returns true when the file was read or written. A file that
   // cannot be read or written is reported with the "Error" caption.
-  bool OpenSettingsFile();
+  bool OpenSettingsFile(const std::string* path = nullptr);
   bool SaveSettingsFile();
   bool SaveSettingsFileAs();
   bool WriteSettingsFile();

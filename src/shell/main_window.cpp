@@ -238,6 +238,13 @@ void MainWindow::ShowAbout() {
   about.exec();
 }
 
+void MainWindow::OpenFile(const QString& path) {
+  const std::string file = path.toStdString();
+  if (commands_->Open(&file)) SelectProductInBox();
+  RebuildSummary();
+  UpdateTitle();
+}
+
 void MainWindow::SelectProductInBox() { product_box_->setCurrentIndex(doc_->product()); }
 
 void MainWindow::OnProductChosen(int index) {

@@ -74,6 +74,8 @@ class MainWindow : public QMainWindow {
   void OpenSettingsSheet();
   void RebuildSummary();
   void ShowAbout();
+  // Opens `path` as Open does, without the file dialog (a file named on the command line).
+  void OpenFile(const QString& path);
 
   QAction* action(int command_id) const;
   QComboBox* product_box() const { return product_box_; }

@@ -143,11 +143,15 @@ bool ParseReplayKeys(std::string_view text, int emulation_type, std::vector<KeyS
 
 std::string KeyStrokeText(const KeyStroke& stroke) {
   if (stroke.row >= 0) {
-    return "<Point " + std::to_string(stroke.row) + " " + std::to_string(stroke.column) + ">";
+    return std::string("<Point ")
+        .append(std::to_string(stroke.row))
+        .append(" ")
+        .append(std::to_string(stroke.column))
+        .append(">");
   }
   if (stroke.is_character) return std::string(1, static_cast<char>(stroke.character));
   for (const KeyName& k : kKeyNames) {
-    if (k.key == stroke.key) return "<" + std::string(k.name) + ">";
+    if (k.key == stroke.key) return std::string("<").append(k.name).append(">");
   }
   return "<?>";
 }
@@ -200,7 +204,7 @@ std::string ReplayRun::Text() const {
            " attribute=" + Hex2(f.attribute) + "\n";
   }
   out += "sent";
-  for (std::uint8_t b : sent_) out += " " + Hex2(b);
+  for (std::uint8_t b : sent_) out.append(" ").append(Hex2(b));
   out += "\n";
   out += session_.KeyboardLocked() ? "keyboard locked\n" : "keyboard unlocked\n";
   if (session_.MessageWaiting()) out += "message waiting\n";

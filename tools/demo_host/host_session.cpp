@@ -9,7 +9,7 @@ namespace veltrix::demo_host {
 namespace {
 
 void Send3(std::vector<std::uint8_t>& out, std::uint8_t verb, std::uint8_t option) {
-  out.insert(out.end(), {kIac, verb, option});
+  for (std::uint8_t b : {kIac, verb, option}) out.push_back(b);
 }
 
 bool IsOurs(std::uint8_t option) {

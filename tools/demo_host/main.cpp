@@ -29,12 +29,19 @@ int main(int argc, char** argv) {
         return 2;
       }
       idle_seconds = int(value);
+    } else if (args[i] == QLatin1String("--version")) {
+      std::printf("veltrix-demo-host %s\n", VELTRIX_VERSION);
+      return 0;
     } else {
-      std::fprintf(stderr,
-                   "usage: veltrix-demo-host [--port N] [--idle-seconds S]\n"
-                   "Serves a TN5250 demo host on 127.0.0.1 (default port 2323, 0 = any free);\n"
-                   "stations idle for S seconds are dropped (900 by default, 0 = never).\n");
-      return args[i] == QLatin1String("--help") ? 0 : 2;
+      const bool help = args[i] == QLatin1String("--help");
+      std::fputs(
+          "usage: veltrix-demo-host [--port N] [--idle-seconds S]\n"
+          "Serves a TN5250 demo host on 127.0.0.1 (default port 2323, 0 = any free);\n"
+          "stations idle for S seconds are dropped (900 by default, 0 = never).\n"
+          "  --help     print this and exit\n"
+          "  --version  print the version and exit\n",
+          help ? stdout : stderr);
+      return help ? 0 : 2;
     }
   }
   veltrix::demo_host::DemoHostServer server;

@@ -30,6 +30,7 @@ constexpr const char* kUsage =
     "  --erase-fn            answer the erase with FN once\n"
     "  --slow MS             wait MS before every answer\n"
     "  --help                print this and exit\n"
+    "  --version             print the version and exit\n"
     "Exits 0 once a download completed, 1 when the link ended without one, 2 on bad usage.\n";
 
 struct Options {
@@ -109,6 +110,10 @@ int main(int argc, char** argv) {
   const QStringList args = app.arguments();
   if (args.contains("--help") || args.contains("-h")) {
     std::fputs(kUsage, stdout);
+    return 0;
+  }
+  if (args.contains("--version")) {
+    std::printf("veltrix-terminal-sim %s\n", VELTRIX_VERSION);
     return 0;
   }
   if (!Parse(args, options)) return 2;
