@@ -17,6 +17,10 @@ namespace {
 std::atomic<std::size_t> allocations{0};
 }  // namespace
 
+// Replacing the global operators is what the standard allows; GCC 12 still pairs the free()
+// inside them with the new-expression that called them.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 void* operator new(std::size_t size) {
   allocations.fetch_add(1, std::memory_order_relaxed);
   if (void* p = std::malloc(size == 0 ? 1 : size)) return p;
@@ -24,6 +28,7 @@ void* operator new(std::size_t size) {
 }
 void operator delete(void* p) noexcept { std::free(p); }
 void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+#pragma GCC diagnostic pop
 
 namespace veltrix {
 namespace {

@@ -30,10 +30,11 @@ constexpr Command kCommands[] = {
      "they cannot be told apart",
      RunIdentifyCommand},
     {"session",
-     "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR] "
-     "[--log] [--wait SECONDS] [--json]",
-     "a host session without a window: type KEYS (replay syntax, <Capture> appends the screen to "
-     "FILE.SCR), print the last screen; exit 3 on a time-out or when the connection fails",
+     "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR "
+     "[--append|--overwrite]] [--log] [--wait SECONDS] [--json]",
+     "a host session without a window: type KEYS (replay syntax, <Capture> takes the screen for "
+     "FILE.SCR, written when the session ends; an existing file needs --append or --overwrite), "
+     "print the last screen; exit 3 on a time-out or when the connection fails",
      RunSessionCommand},
     {"download",
      "settings FILE.QVL | program FILE.SHX [--via cradle-ir|rs-232|irda|rf] [--port DEVICE]... "

@@ -5,15 +5,19 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 #include <ostream>
 
 #include "capture/screen_file.h"
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
+#include "settings/atomic_file.h"
+#include "settings/file_read.h"
 #include "tn5250/replay.h"
 #include "tn5250/session_log.h"
 
@@ -141,18 +145,53 @@ std::vector<std::string> SplitCaptures(const std::string& keys) {
   return pieces;
 }
 
+// The start of a capture file's new content: a new file's header, or with --append the existing
+// file, checked as Load checks it. An existing file is refused without --append or --overwrite.
+bool StartCaptureContent(const std::string& path, bool append, bool overwrite,
+                         std::vector<std::uint8_t>& content, std::string& error) {
+  if (append && overwrite) {
+    error = "--append and --overwrite exclude each other";
+    return false;
+  }
+  std::error_code code;
+  const bool exists = std::filesystem::exists(path, code);
+  if (exists && !append && !overwrite) {
+    error = "'" + path + "' exists: --append adds the screens to it, --overwrite replaces it";
+    return false;
+  }
+  if (exists && append) {
+    std::optional<FileRead> read = ReadRegularFile(path, std::size_t{256} << 20, &error);
+    if (!read) {
+      error = "cannot read '" + path + "': " + error;
+      return false;
+    }
+    if (!ScreensInFileOfSize(read->bytes.size()) ||
+        !std::equal(kScreenFileTag.begin(), kScreenFileTag.end(), read->bytes.begin())) {
+      error = "'" + path + "': " + std::string(kVersionErrorMessage);
+      return false;
+    }
+    content = std::move(read->bytes);
+    return true;
+  }
+  const auto header = ScreenFileHeader();
+  content.assign(header.begin(), header.end());
+  return true;
+}
+
 }  // namespace
 
 int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   constexpr std::string_view kValues[] = {"--port", "--emulation", "--local-name",
                                           "--keys", "--capture",   "--wait"};
-  constexpr std::string_view kFlags[] = {"--json", "--log"};
+  constexpr std::string_view kFlags[] = {"--json", "--log", "--append", "--overwrite"};
   const ParsedArgs parsed = ParseArgs(args, kValues, kFlags);
   if (!parsed.error.empty()) return Fail(io, "session: " + parsed.error);
   if (std::string error = ExpectPositional(parsed, 1, 1); !error.empty()) {
-    return Fail(io, "session: " + error +
-                        " (session HOST [--port N] [--emulation N] [--local-name NAME] [--keys "
-                        "KEYS] [--capture FILE.SCR] [--log] [--wait SECONDS] [--json])");
+    return Fail(io,
+                "session: " + error +
+                    " (session HOST [--port N] [--emulation N] [--local-name NAME] [--keys "
+                    "KEYS] [--capture FILE.SCR [--append|--overwrite]] [--log] [--wait SECONDS] "
+                    "[--json])");
   }
   auto number = [&](std::string_view option, int low, int high, int fallback, int& out) {
     out = fallback;
@@ -190,12 +229,33 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
       return Fail(io, "session: --keys: " + error);
     }
   }
-  CaptureFile capture;
-  if (const std::string* file = parsed.value("--capture")) {
-    if (!capture.Start(*file)) return Fail(io, "session: " + std::string(kCreateFileFailedMessage));
+  // The screens go to the file only when the session ends, through a temporary file renamed
+  // into place: a session that fails to connect leaves an existing file as it was.
+  const std::string* capture_path = parsed.value("--capture");
+  std::vector<std::uint8_t> capture;  // the file's new content: header (or old file) and screens
+  int captured = 0;
+  if (capture_path) {
+    std::string error;
+    if (!StartCaptureContent(*capture_path, parsed.has_flag("--append"),
+                             parsed.has_flag("--overwrite"), capture, error)) {
+      return Fail(io, "session: " + error);
+    }
   } else if (pieces.size() > 1) {
     return Fail(io, "session: <Capture> needs --capture FILE.SCR");
+  } else if (parsed.has_flag("--append") || parsed.has_flag("--overwrite")) {
+    return Fail(io, "session: --append and --overwrite go with --capture FILE.SCR");
   }
+  // Writes what was captured, also after a time-out or a closed connection; false when the
+  // write failed (the old file is then as it was).
+  auto write_capture = [&]() {
+    if (!capture_path || captured == 0) return true;
+    const std::span<const std::uint8_t> parts[] = {capture};
+    SaveStatus status;
+    if (WriteFileAtomically(*capture_path, parts, SystemFileCalls(), &status)) return true;
+    io.err << "veltrix-cli: session: cannot write '" << *capture_path << "': " << status.reason
+           << "; the " << captured << " screens of this session were not saved\n";
+    return false;
+  };
 
   FileLogSink sink(LogDirectoryFor(std::filesystem::current_path()));
   SystemLocalClock clock;
@@ -221,6 +281,7 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   auto fail_host = [&](const std::string& why) {
     log.LogClose();
     io.err << "veltrix-cli: session: " << why << '\n';
+    write_capture();
     return kExitFailed;
   };
   bool timed_out = false;
@@ -228,13 +289,15 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   if (timed_out) {
     log.LogClose();
     io.err << "veltrix-cli: session: no first screen within " << wait_seconds << " seconds\n";
+    write_capture();
     return kExitFailed;
   }
   for (std::size_t p = 0; p < pieces.size(); ++p) {
     if (p > 0) {
       auto page = std::make_unique<PageRecord>();
       run.session().CopyScreenRecord(*page);
-      if (!capture.Append(*page)) return Fail(io, "session: writing the screen file failed");
+      capture.insert(capture.end(), page->begin(), page->end());
+      ++captured;
     }
     for (const KeyStroke& key : pieces[p]) {
       Press(run.session(), key);
@@ -246,12 +309,13 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
         log.LogClose();
         io.err << "veltrix-cli: session: the host did not answer " << KeyStrokeText(key)
                << " within " << wait_seconds << " seconds\n";
+        write_capture();
         return kExitFailed;
       }
     }
   }
-  capture.Stop();
   log.LogClose();
+  if (!write_capture()) return kExitFailed;
   io.out << (parsed.has_flag("--json") ? run.Json() : run.Text());
   return kExitOk;
 }

@@ -17,7 +17,7 @@ namespace {
 void DumpRows(std::string& out, const char* title, std::span<const std::uint8_t> bytes) {
   out += title;
   out += '\n';
-  char cell[16];
+  char cell[32];
   for (std::size_t row = 0; row < bytes.size(); row += 16) {
     const auto line = bytes.subspan(row, std::min<std::size_t>(16, bytes.size() - row));
     if (std::ranges::all_of(line, [](std::uint8_t b) { return b == 0; })) continue;

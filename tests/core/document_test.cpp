@@ -81,7 +81,9 @@ TEST(FieldRegistry, FieldsLieInsideTheRecordAndNamesAreUnique) {
       EXPECT_LE(f->bit_lo + f->bit_count, 8) << f->name;
       EXPECT_GE(f->bit_count, 1) << f->name;
     }
-    if (!f->numeric()) EXPECT_GE(f->width, 1) << f->name;
+    if (!f->numeric()) {
+      EXPECT_GE(f->width, 1) << f->name;
+    }
     if (f->numeric()) {
       EXPECT_LE(f->min, f->max) << f->name;
       // A constant default must be a value the field accepts.

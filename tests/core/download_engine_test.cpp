@@ -314,9 +314,13 @@ TEST(ProgramDownload, HandshakeEraseAndFrameReplies) {
     for (const auto& s : o.sent) {
       if (s.size() > 0 && s[0] != 'S') sent_tokens.push_back(Text(s));
     }
-    if (!tokens.empty()) EXPECT_EQ(sent_tokens, tokens);
+    if (!tokens.empty()) {
+      EXPECT_EQ(sent_tokens, tokens);
+    }
     EXPECT_EQ(o.messages, messages);
-    if (ended >= 0) EXPECT_EQ(o.ended_at, ended);
+    if (ended >= 0) {
+      EXPECT_EQ(o.ended_at, ended);
+    }
   }
 }
 

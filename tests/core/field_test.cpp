@@ -75,7 +75,9 @@ TEST(FieldValues, LooksUpNamesWithIndices) {
     const std::size_t elements = std::stoul(row[1]);
     const ElementLookup lookup = LookUpElement(row[0]);
     EXPECT_EQ(elements != 0, lookup.ok()) << row[0] << ": " << lookup.error;
-    if (lookup.ok()) EXPECT_EQ(elements, ElementsOf(lookup).size()) << row[0];
+    if (lookup.ok()) {
+      EXPECT_EQ(elements, ElementsOf(lookup).size()) << row[0];
+    }
   }
   const ElementLookup one = LookUpElement("TerminalScreen[4][7]");
   ASSERT_TRUE(one.single());

@@ -127,7 +127,9 @@ TEST(ScreenFile, SizesThatFitTheLayoutAndNoMoreThanAHundred) {
     const std::vector<std::uint8_t> bytes(c.size);
     const auto loaded = ParseScreenFile(bytes);
     ASSERT_EQ(loaded.has_value(), c.ok) << c.size;
-    if (loaded) EXPECT_EQ(loaded->screens.size(), c.screens);
+    if (loaded) {
+      EXPECT_EQ(loaded->screens.size(), c.screens);
+    }
   }
 }
 

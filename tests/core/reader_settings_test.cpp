@@ -126,7 +126,9 @@ TEST(ReaderFieldTable, FieldsLieInTheReaderRangesWithDefaultsInRange) {
     const bool in_two_d = f->offset >= 58659 && f->LastByte() <= 58880;
     EXPECT_TRUE(in_section || in_two_d) << f->name;
     EXPECT_FALSE(f->meaning.empty()) << f->name;
-    if (f->type == FieldType::kBits) EXPECT_LT(f->max, 1 << f->bit_count) << f->name;
+    if (f->type == FieldType::kBits) {
+      EXPECT_LT(f->max, 1 << f->bit_count) << f->name;
+    }
   }
 }
 

@@ -371,12 +371,16 @@ TEST_F(SettingsFileTest, SaveRespectsWhatIsAtTheName) {
   EXPECT_EQ(fs::status(real).permissions() & fs::perms::all, fs::perms(0444));
 
   fs::permissions(real, fs::perms(0600));
-  if (::geteuid() == 0) ASSERT_EQ(::chown(real.c_str(), 1234, 4321), 0);
+  if (::geteuid() == 0) {
+    ASSERT_EQ(::chown(real.c_str(), 1234, 4321), 0);
+  }
   ASSERT_TRUE(WriteFileAtomically(real, parts));
   struct stat after {};
   ASSERT_EQ(::stat(real.c_str(), &after), 0);
   EXPECT_EQ(after.st_mode & 07777, 0600u);
-  if (::geteuid() == 0) EXPECT_EQ(std::pair(after.st_uid, after.st_gid), std::pair(1234u, 4321u));
+  if (::geteuid() == 0) {
+    EXPECT_EQ(std::pair(after.st_uid, after.st_gid), std::pair(1234u, 4321u));
+  }
 
   // A leftover of a save whose process is gone goes; one of a running process stays.
   const std::string dead = TemporaryPrefixFor(real) + "999999999-x";

@@ -71,7 +71,9 @@ TEST(LinearOptionDialogs, BindOnlyLinearFieldsWithDistinctControls) {
       EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*group.field)) << dialog.template_name;
       EXPECT_TRUE(names.insert(group.caption).second) << dialog.template_name;
     }
-    if (dialog.length != nullptr) EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*dialog.length));
+    if (dialog.length != nullptr) {
+      EXPECT_EQ(ReaderBlock::kLinear, BlockOf(*dialog.length));
+    }
     EXPECT_EQ(&dialog, FindLinearOptionDialog(dialog.template_name));
   }
   EXPECT_EQ(nullptr, FindLinearOptionDialog("NoSuchDlg"));

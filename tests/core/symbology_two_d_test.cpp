@@ -79,7 +79,9 @@ TEST(TwoDOptionDialogs, BindOnlyTwoDimensionalFieldsWithDistinctControls) {
       EXPECT_EQ(ReaderBlock::kTwoD, BlockOf(*list.field)) << dialog.template_name;
       EXPECT_TRUE(names.insert(list.caption).second) << dialog.template_name << " " << list.caption;
     }
-    if (dialog.length_option != nullptr) EXPECT_EQ(ReaderBlock::kTwoD, BlockOf(*dialog.length2));
+    if (dialog.length_option != nullptr) {
+      EXPECT_EQ(ReaderBlock::kTwoD, BlockOf(*dialog.length2));
+    }
     EXPECT_EQ(&dialog, FindTwoDOptionDialog(dialog.template_name));
   }
 }

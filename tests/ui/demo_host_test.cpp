@@ -480,13 +480,28 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   QCOMPARE(code, 0);
   QVERIFY2(out.startsWith("{\"pages\": [0, 1, 2, 3]"), qPrintable(out));
 
+  // An existing capture file is neither emptied by a session that cannot connect nor replaced
+  // unasked; --append adds to it.
   QTcpServer probe;
   QVERIFY(probe.listen(QHostAddress::LocalHost, 0));
   const quint16 closed = probe.serverPort();
   probe.close();
-  out = run({"session", "127.0.0.1", "--port", QString::number(closed)}, code);
+  const qint64 four = qint64(20 + 4 * 10424);
+  out = run({"session", "127.0.0.1", "--port", QString::number(closed), "--capture", "four.SCR",
+             "--overwrite", "--keys", "<Capture>"},
+            code);
   QCOMPARE(code, 3);
   QVERIFY2(out.contains("Connection refused"), qPrintable(out));
+  QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), four);
+  const QStringList capture_one = {
+      "session",   "127.0.0.1", "--port", QString::number(server.port()),
+      "--capture", "four.SCR",  "--keys", "<Capture>"};
+  out = run(capture_one, code);
+  QCOMPARE(code, 2);
+  QVERIFY2(out.contains("--append adds the screens to it"), qPrintable(out));
+  out = run(capture_one + QStringList{"--append"}, code);
+  QCOMPARE(code, 0);
+  QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), four + 10424);
 }
 
 QTEST_MAIN(DemoHostTest)
