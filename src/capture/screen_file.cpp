@@ -1,6 +1,7 @@
 #include "capture/screen_file.h"
 
 #include <iterator>
+#include <memory>
 
 #include "settings/file_read.h"
 
@@ -41,6 +42,21 @@ std::vector<FieldEntry> FieldEntries(const PageRecord& page) {
   return entries;
 }
 
+void BlankNonDisplayFields(PageRecord& page) {
+  // Fields run on across rows of the 80-column host screen.
+  constexpr int kColumns = 80;
+  constexpr int kCells = static_cast<int>(kScreenImageRows) * kColumns;
+  for (const FieldEntry& f : FieldEntries(page)) {
+    if ((f.attribute & 0x07) != 0x07) continue;  // displayed
+    const int first = f.row * kColumns + f.column;
+    for (int i = 0; i < f.length && first + i < kCells; ++i) {
+      const int cell = first + i;
+      page[kScreenImageOffset + static_cast<std::size_t>(cell / kColumns) * kScreenImageRowBytes +
+           static_cast<std::size_t>(cell % kColumns)] = 0;
+    }
+  }
+}
+
 std::optional<std::size_t> ScreensInFileOfSize(std::size_t size) {
   if (size < kScreenFileHeaderSize || (size - kScreenFileHeaderSize) % kPageRecordSize != 0) {
     return std::nullopt;
@@ -58,6 +74,7 @@ std::optional<LoadedScreens> ParseScreenFile(std::span<const std::uint8_t> bytes
   for (std::size_t k = 0; k < n; ++k) {
     const auto from = bytes.subspan(kScreenFileHeaderSize + k * kPageRecordSize, kPageRecordSize);
     std::copy(from.begin(), from.end(), loaded.screens[k].begin());
+    BlankNonDisplayFields(loaded.screens[k]);  // files captured before this was done
   }
   return loaded;
 }
@@ -111,9 +128,12 @@ bool CaptureFile::Start(const std::filesystem::path& path) {
   return true;
 }
 
-bool CaptureFile::Append(const PageRecord& page) {
+bool CaptureFile::Append(const PageRecord& screen) {
   if (!file_.is_open()) return false;
-  file_.write(reinterpret_cast<const char*>(page.data()), page.size());
+  auto page = std::make_unique<PageRecord>(screen);
+  BlankNonDisplayFields(*page);
+  file_.write(reinterpret_cast<const char*>(page->data()),
+              static_cast<std::streamsize>(page->size()));
   file_.flush();
   return static_cast<bool>(file_);
 }

@@ -43,6 +43,10 @@ std::uint8_t ImageCell(const PageRecord& page, int row, int column);
 // The field entries up to the first with number 0 (at most 255).
 std::vector<FieldEntry> FieldEntries(const PageRecord& page);
 
+// Blanks (empties) the characters of the non-display input fields of a captured screen, such as
+// a sign-on's password, so that no screen file, listing or page record holds them.
+void BlankNonDisplayFields(PageRecord& page);
+
 // A screen file read whole.
 struct LoadedScreens {
   std::vector<PageRecord> screens;  // at most kMaxLoadedScreens, in file order

@@ -296,6 +296,7 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
     if (p > 0) {
       auto page = std::make_unique<PageRecord>();
       run.session().CopyScreenRecord(*page);
+      BlankNonDisplayFields(*page);
       capture.insert(capture.end(), page->begin(), page->end());
       ++captured;
     }

@@ -476,6 +476,17 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   QCOMPARE(code, 0);
   QVERIFY2(out.contains("ITEM0011"), qPrintable(out));
   QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), qint64(20 + 4 * 10424));
+  // A password typed into the sign-on's non-display field is in no file or listing.
+  out = run({"session", "127.0.0.1", "--port", QString::number(server.port()), "--capture",
+             "secret.SCR", "--keys", "bob<Tab>s3cret<Capture>"},
+            code);
+  QCOMPARE(code, 0);
+  QFile scr(dir.filePath("secret.SCR"));
+  QVERIFY(scr.open(QIODevice::ReadOnly));
+  const QByteArray file = scr.readAll();
+  QVERIFY(file.contains("BOB") && !file.toUpper().contains("S3CRET"));
+  out = run({"screens", "secret.SCR"}, code);
+  QVERIFY2(out.contains("BOB") && !out.toUpper().contains("S3CRET"), qPrintable(out));
   out = run({"identify", "four.SCR", "--json"}, code);
   QCOMPARE(code, 0);
   QVERIFY2(out.startsWith("{\"pages\": [0, 1, 2, 3]"), qPrintable(out));
