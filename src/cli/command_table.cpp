@@ -31,7 +31,7 @@ constexpr Command kCommands[] = {
      RunIdentifyCommand},
     {"session",
      "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR "
-     "[--append|--overwrite]] [--log] [--wait SECONDS] [--json]",
+     "[--append|--overwrite]] [--log [--log-secrets]] [--wait SECONDS] [--json]",
      "a host session without a window: type KEYS (replay syntax, <Capture> takes the screen for "
      "FILE.SCR, written when the session ends; an existing file needs --append or --overwrite), "
      "print the last screen; exit 3 on a time-out or when the connection fails",

@@ -183,15 +183,16 @@ bool StartCaptureContent(const std::string& path, bool append, bool overwrite,
 int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   constexpr std::string_view kValues[] = {"--port", "--emulation", "--local-name",
                                           "--keys", "--capture",   "--wait"};
-  constexpr std::string_view kFlags[] = {"--json", "--log", "--append", "--overwrite"};
+  constexpr std::string_view kFlags[] = {"--json", "--log", "--log-secrets", "--append",
+                                         "--overwrite"};
   const ParsedArgs parsed = ParseArgs(args, kValues, kFlags);
   if (!parsed.error.empty()) return Fail(io, "session: " + parsed.error);
   if (std::string error = ExpectPositional(parsed, 1, 1); !error.empty()) {
-    return Fail(io,
-                "session: " + error +
-                    " (session HOST [--port N] [--emulation N] [--local-name NAME] [--keys "
-                    "KEYS] [--capture FILE.SCR [--append|--overwrite]] [--log] [--wait SECONDS] "
-                    "[--json])");
+    return Fail(io, "session: " + error +
+                        " (session HOST [--port N] [--emulation N] [--local-name NAME] [--keys "
+                        "KEYS] [--capture FILE.SCR [--append|--overwrite]] [--log [--log-secrets]] "
+                        "[--wait SECONDS] "
+                        "[--json])");
   }
   auto number = [&](std::string_view option, int low, int high, int fallback, int& out) {
     out = fallback;
@@ -261,6 +262,7 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   SystemLocalClock clock;
   SessionLog log(sink, clock);
   log.set_save_log(parsed.has_flag("--log"));
+  log.set_include_secrets(parsed.has_flag("--log-secrets"));
 
   const std::string& host = parsed.positional[0];
   Socket socket;
@@ -274,7 +276,7 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   ReplayRun run(config);
   bool send_failed = false;
   run.SetSender([&](std::span<const std::uint8_t> bytes) {
-    log.LogSend(bytes);
+    log.LogSend(bytes, run.session().SendSecret());
     send_failed = send_failed || !socket.Send(bytes);
   });
   const std::chrono::milliseconds wait = std::chrono::seconds(wait_seconds);

@@ -166,7 +166,7 @@ bool HostConnection::Character(char32_t c) {
 
 void HostConnection::OnSend(std::span<const std::uint8_t> bytes) {
   if (!connected()) return;
-  log_.LogSend(bytes);
+  log_.LogSend(bytes, session_->SendSecret());
   link_.Send(bytes);
 }
 

@@ -87,6 +87,8 @@ class HostConnection : private SessionListener {
   // engine and opens the link to `TelnetPort`. False (with the message shown) when the address
   // is refused; otherwise the link's answer comes through Opened or OpenFailed.
   bool Connect(const Document& doc, const HostOctets& octets, bool save_log);
+  // The next connection's log shows non-display fields' data instead of "**".
+  void set_log_secrets(bool on) { log_.set_include_secrets(on); }
   // The link is open: the session stands (the caller stores the address in host entry 0).
   void Opened();
   // The link could not be opened: the failure with its reason goes to the log, the session ends

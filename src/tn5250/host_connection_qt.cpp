@@ -36,6 +36,7 @@ void HostConnectionQt::SetLogDirectory(const std::filesystem::path& directory) {
 bool HostConnectionQt::ConnectToHost(Document& doc) {
   if (!run_dialog_(form_, ReadHostSettings(doc).active_entry)) return false;
   connect_doc_ = &doc;
+  connection_.set_log_secrets(form_.log_secrets());
   return connection_.Connect(doc, form_.octets(), form_.save_log());
 }
 

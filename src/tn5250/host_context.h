@@ -18,8 +18,10 @@ class EngineOutput {
   virtual ~EngineOutput() = default;
   // Telnet answers, sent as they stand.
   virtual void SendRaw(std::span<const std::uint8_t> bytes) = 0;
-  // A 5250 record without framing; the output adds IAC EOR.
-  virtual void SendRecord(std::span<const std::uint8_t> record) = 0;
+  // A 5250 record without framing; the output adds IAC EOR. `secret` marks, byte for byte, the
+  // data of non-display fields (passwords) that the session log must not show; empty: none.
+  virtual void SendRecord(std::span<const std::uint8_t> record,
+                          std::span<const std::uint8_t> secret = {}) = 0;
   virtual void Trace(const TraceEvent& event) = 0;
   virtual void Bell() = 0;
   virtual void KeyboardLockChanged(bool locked) = 0;

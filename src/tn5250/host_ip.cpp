@@ -62,6 +62,7 @@ std::optional<std::uint32_t> HostAddressValue(const HostOctets& octets) {
 
 void HostIpForm::Open(std::string_view active_entry) {
   save_log_ = false;
+  log_secrets_ = false;
   SplitHostAddress(active_entry, octets_);
 }
 
@@ -70,7 +71,8 @@ void HostIpForm::EditChanged(int index, std::string_view text) {
   if (std::optional<std::uint32_t> value = ParseOctet(text)) octets_[index] = *value;
 }
 
-bool HostIpForm::Confirm(const std::array<std::string, 4>& texts, bool save_log_checked) {
+bool HostIpForm::Confirm(const std::array<std::string, 4>& texts, bool save_log_checked,
+                         bool log_secrets_checked) {
   HostOctets read{};
   for (std::size_t i = 0; i < texts.size(); ++i) {
     std::optional<std::uint32_t> value = ParseOctet(texts[i]);
@@ -79,6 +81,7 @@ bool HostIpForm::Confirm(const std::array<std::string, 4>& texts, bool save_log_
   }
   octets_ = read;
   save_log_ = save_log_checked;
+  log_secrets_ = save_log_checked && log_secrets_checked;
   return true;
 }
 

@@ -40,14 +40,18 @@ class HostIpForm {
   void EditChanged(int index, std::string_view text);
   // OK: every edit is read again. False when one is not a number in 0..255 (the dialog shows
   // kInvalidIpAddressMessage and stays open); otherwise "Save Log" takes the check box's state.
-  bool Confirm(const std::array<std::string, 4>& texts, bool save_log_checked);
+  // "Include passwords in the log" counts only with "Save Log".
+  bool Confirm(const std::array<std::string, 4>& texts, bool save_log_checked,
+               bool log_secrets_checked = false);
 
   const HostOctets& octets() const { return octets_; }
   bool save_log() const { return save_log_; }
+  bool log_secrets() const { return log_secrets_; }
 
  private:
   HostOctets octets_{};
   bool save_log_ = false;
+  bool log_secrets_ = false;
 };
 
 }  // namespace veltrix

@@ -43,6 +43,11 @@ HostIpDialog::HostIpDialog(HostIpForm& form, const std::string& active_entry, QW
   save_log_->setObjectName(QStringLiteral("saveLog301"));
   save_log_->setChecked(form_.save_log());
   layout->addWidget(save_log_);
+  // Passwords are masked in the log unless the user asks for them, for this connection.
+  log_secrets_ = new QCheckBox(QStringLiteral("Include passwords in the log"), this);
+  log_secrets_->setEnabled(save_log_->isChecked());
+  connect(save_log_, &QCheckBox::toggled, log_secrets_, &QCheckBox::setEnabled);
+  layout->addWidget(log_secrets_);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   connect(buttons, &QDialogButtonBox::accepted, this, &HostIpDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &HostIpDialog::reject);
@@ -54,7 +59,7 @@ HostIpDialog::HostIpDialog(HostIpForm& form, const std::string& active_entry, QW
 void HostIpDialog::accept() {
   std::array<std::string, 4> texts;
   for (int i = 0; i < 4; ++i) texts[i] = edits_[i]->text().toStdString();
-  if (!form_.Confirm(texts, save_log_->isChecked())) {
+  if (!form_.Confirm(texts, save_log_->isChecked(), log_secrets_->isChecked())) {
     report_error_(this, QString::fromUtf8(kInvalidIpAddressMessage.data(),
                                           static_cast<int>(kInvalidIpAddressMessage.size())));
     // The box that is wrong takes the focus, its text selected for typing over.

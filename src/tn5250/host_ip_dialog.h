@@ -38,6 +38,7 @@ class HostIpDialog : public QDialog {
   ErrorReporter report_error_;
   std::array<QLineEdit*, 4> edits_{};
   QCheckBox* save_log_ = nullptr;
+  QCheckBox* log_secrets_ = nullptr;
 };
 
 // Shows "text" in a modal message box captioned "Error" with the exclamation icon.

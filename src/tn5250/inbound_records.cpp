@@ -32,14 +32,18 @@ FieldDataOptions MdtReadOptions(bool nul_as_blank) {
 
 InboundRecords::InboundRecords(HostContext& host) : host_(host) { record_.reserve(4096); }
 
-void InboundRecords::StartRecord() { record_.assign(kHeader.begin(), kHeader.end()); }
+void InboundRecords::StartRecord() {
+  record_.assign(kHeader.begin(), kHeader.end());
+  secret_.clear();
+}
 
 void InboundRecords::FinishRecord() {
   // The length field has 16 bits: a record can never be longer than that.
   if (record_.size() > kMaxRecord) record_.resize(kMaxRecord);
   record_[0] = static_cast<std::uint8_t>(record_.size() >> 8);
   record_[1] = static_cast<std::uint8_t>(record_.size());
-  host_.out.SendRecord(record_);
+  if (!secret_.empty()) secret_.resize(record_.size(), 0);
+  host_.out.SendRecord(record_, secret_);
 }
 
 template <typename Cell, typename PairAt>
@@ -67,7 +71,7 @@ bool InboundRecords::AppendDoubleByteRun(std::vector<std::uint8_t>& out, int& k,
 }
 
 int InboundRecords::CollectFieldData(std::vector<std::uint8_t>& out,
-                                     const FieldDataOptions& options) const {
+                                     const FieldDataOptions& options) {
   const std::size_t start_size = out.size();
   const PresentationSpace& ps = host_.ps;
   const auto records = host_.fields.Records();
@@ -106,6 +110,7 @@ int InboundRecords::CollectFieldData(std::vector<std::uint8_t>& out,
         --count;
       }
     }
+    const std::size_t data_start = out.size();
     for (int k = 0; k < count; ++k) {
       if (pair_at(k) && AppendDoubleByteRun(out, k, count, cell, pair_at)) continue;
       std::uint8_t c = cell(k);
@@ -117,6 +122,11 @@ int InboundRecords::CollectFieldData(std::vector<std::uint8_t>& out,
       if (ps.PlaneCharacter(sign / ps.Columns(), sign % ps.Columns()) == kMinus) {
         out.back() = static_cast<std::uint8_t>((out.back() & 0x0F) | 0xD0);
       }
+    }
+    // A non-display field's data (a password) is marked for the session log to mask.
+    if ((f.attribute & 0x07) == 0x07 && &out == &record_ && out.size() > data_start) {
+      secret_.resize(out.size(), 0);
+      std::fill(secret_.begin() + static_cast<std::ptrdiff_t>(data_start), secret_.end(), 1);
     }
   }
   return static_cast<int>(out.size() - start_size);

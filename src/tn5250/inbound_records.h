@@ -30,7 +30,7 @@ class InboundRecords {
   explicit InboundRecords(HostContext& host);
 
   // `CollectFieldData`: appends the field data; gives the number of bytes written.
-  int CollectFieldData(std::vector<std::uint8_t>& out, const FieldDataOptions& options) const;
+  int CollectFieldData(std::vector<std::uint8_t>& out, const FieldDataOptions& options);
   // `SendAidRecord`.
   void SendAidRecord(std::uint8_t aid);
   // `SendReadImmediate`: 0x72 (alternate false) or 0x83 (alternate true).
@@ -49,6 +49,7 @@ class InboundRecords {
 
   HostContext& host_;
   std::vector<std::uint8_t> record_;
+  std::vector<std::uint8_t> secret_;  // 1 for each byte of record_ that is a non-display field's
 };
 
 }  // namespace veltrix

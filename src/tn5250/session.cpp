@@ -41,6 +41,8 @@ void Session::CopyScreenRecord(PageRecord& page) const {
   }
 }
 
+std::span<const std::uint8_t> Session::SendSecret() const { return engine_->send_secret(); }
+
 bool Session::MessageWaiting() const { return engine_->host.message_waiting; }
 ReadMode Session::CurrentReadMode() const { return engine_->host.read_mode; }
 bool Session::EchoFlag() const { return engine_->telnet.echo(); }

@@ -57,6 +57,9 @@ class Session {
   // Read access for painting, capture and tests.
   const PresentationSpace& Screen() const;
   const FieldTable& Fields() const;
+  // During SessionListener::OnSend: a mark for each byte being sent, 1 where it is the data of a
+  // non-display field (a password); empty when the bytes hold none.
+  std::span<const std::uint8_t> SendSecret() const;
   int CursorRow() const { return Screen().CursorRow(); }
   int CursorColumn() const { return Screen().CursorColumn(); }
   bool KeyboardLocked() const;

@@ -22,15 +22,25 @@ void SessionEngine::SendRaw(std::span<const std::uint8_t> bytes) {
 
 // A 0xFF inside a record is doubled, so that the host's Telnet layer does not take it for a
 // command; the record's length field still counts it once.
-void SessionEngine::SendRecord(std::span<const std::uint8_t> record) {
+void SessionEngine::SendRecord(std::span<const std::uint8_t> record,
+                               std::span<const std::uint8_t> secret) {
   framed_.clear();
-  for (std::uint8_t b : record) {
-    framed_.push_back(b);
-    if (b == kIac) framed_.push_back(kIac);
+  framed_secret_.clear();
+  for (std::size_t i = 0; i < record.size(); ++i) {
+    const std::uint8_t mark = i < secret.size() ? secret[i] : 0;
+    framed_.push_back(record[i]);
+    framed_secret_.push_back(mark);
+    if (record[i] == kIac) {
+      framed_.push_back(kIac);
+      framed_secret_.push_back(mark);
+    }
   }
   framed_.push_back(kIac);
   framed_.push_back(kEor);
+  framed_secret_.resize(framed_.size(), 0);
+  if (!secret.empty()) send_secret_ = framed_secret_;
   SendRaw(framed_);
+  send_secret_ = {};
 }
 
 void SessionEngine::Trace(const TraceEvent& event) {

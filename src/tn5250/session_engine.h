@@ -20,7 +20,10 @@ class SessionEngine : public EngineOutput, public TelnetPeer {
   SessionEngine(SessionConfig config, SessionListener* listener);
 
   void SendRaw(std::span<const std::uint8_t> bytes) override;
-  void SendRecord(std::span<const std::uint8_t> record) override;
+  void SendRecord(std::span<const std::uint8_t> record,
+                  std::span<const std::uint8_t> secret = {}) override;
+  // During OnSend: which of the bytes being sent are secret (1), or empty when none are.
+  std::span<const std::uint8_t> send_secret() const { return send_secret_; }
   void Trace(const TraceEvent& event) override;
   void Bell() override;
   void KeyboardLockChanged(bool locked) override;
@@ -44,6 +47,8 @@ class SessionEngine : public EngineOutput, public TelnetPeer {
  private:
   void Report(ScreenChange::Kind repaint, CellAddress before);
   std::vector<std::uint8_t> framed_;
+  std::vector<std::uint8_t> framed_secret_;
+  std::span<const std::uint8_t> send_secret_;
 };
 
 }  // namespace veltrix

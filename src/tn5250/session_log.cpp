@@ -54,13 +54,15 @@ std::string LogTimeStamp(const LocalTime& t) {
   return stamp;
 }
 
-std::string LogDataLine(std::span<const std::uint8_t> bytes) {
+std::string LogDataLine(std::span<const std::uint8_t> bytes, std::span<const std::uint8_t> masked) {
   static constexpr char kHex[] = "0123456789ABCDEF";
   std::string line;
   line.reserve(bytes.size() * 3 + 2);
-  for (std::uint8_t b : bytes) {
-    line += kHex[b >> 4];
-    line += kHex[b & 0x0F];
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const std::uint8_t b = bytes[i];
+    const bool hide = i < masked.size() && masked[i] != 0;
+    line += hide ? '*' : kHex[b >> 4];
+    line += hide ? '*' : kHex[b & 0x0F];
     line += ' ';
   }
   line += "\r\n";
@@ -84,9 +86,12 @@ void SessionLog::LogConnectFailed(std::string_view text) {
   open_ = false;
 }
 
-void SessionLog::LogSend(std::span<const std::uint8_t> bytes) {
+void SessionLog::LogSend(std::span<const std::uint8_t> bytes,
+                         std::span<const std::uint8_t> secret) {
   WriteStamped("Send:");
-  if (open_ && save_log_) sink_.Write(LogDataLine(bytes));
+  if (open_ && save_log_) {
+    sink_.Write(LogDataLine(bytes, include_secrets_ ? std::span<const std::uint8_t>() : secret));
+  }
 }
 
 void SessionLog::LogReceive(std::span<const std::uint8_t> bytes) {

@@ -70,7 +70,9 @@ std::filesystem::path LogDirectoryFor(const std::filesystem::path& working_direc
 std::string LogTimeStamp(const LocalTime& time);
 
 // Every byte as two upper-case hexadecimal digits and a blank, then CR LF.
-std::string LogDataLine(std::span<const std::uint8_t> bytes);
+// `masked` marks bytes written as "**" (the line keeps its length).
+std::string LogDataLine(std::span<const std::uint8_t> bytes,
+                        std::span<const std::uint8_t> masked = {});
 
 // The session log of one connection: the connection's traffic as time-stamped lines with the
 // bytes in hexadecimal, written only while "Save Log" was ticked for the connection.
@@ -89,7 +91,9 @@ class SessionLog {
   // the user can tell where to and why.
   void LogConnectFailed(std::string_view text);
   // Before bytes go to the host: "Send:" and the data line.
-  void LogSend(std::span<const std::uint8_t> bytes);
+  // Bytes marked in `secret` (a password's) are written as "**" unless set_include_secrets.
+  void LogSend(std::span<const std::uint8_t> bytes, std::span<const std::uint8_t> secret = {});
+  void set_include_secrets(bool include) { include_secrets_ = include; }
   // After a receive: "Recv:" and the data line (empty when the host closed or an error came).
   void LogReceive(std::span<const std::uint8_t> bytes);
   // After the socket is closed: "Close:", then the file is closed.
@@ -104,6 +108,7 @@ class SessionLog {
   LogSink& sink_;
   const LocalClock& clock_;
   bool save_log_ = false;
+  bool include_secrets_ = false;
   bool open_ = false;
 };
 

@@ -478,15 +478,25 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), qint64(20 + 4 * 10424));
   // A password typed into the sign-on's non-display field is in no file or listing.
   out = run({"session", "127.0.0.1", "--port", QString::number(server.port()), "--capture",
-             "secret.SCR", "--keys", "bob<Tab>s3cret<Capture>"},
+             "secret.SCR", "--keys", "bob<Tab>s3cret<Capture><Enter>", "--log"},
             code);
   QCOMPARE(code, 0);
+  auto log = [&] {
+    QFile file(dir.filePath("Logs/Quarvel-TN.log"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  };
+  const QByteArray secret_hex = "A2 F3 83 99 85 A3";  // "s3cret" as the host's code
+  QVERIFY(log().contains("** ** ** ** ** **") && !log().contains(secret_hex));
   QFile scr(dir.filePath("secret.SCR"));
   QVERIFY(scr.open(QIODevice::ReadOnly));
   const QByteArray file = scr.readAll();
   QVERIFY(file.contains("BOB") && !file.toUpper().contains("S3CRET"));
   out = run({"screens", "secret.SCR"}, code);
   QVERIFY2(out.contains("BOB") && !out.toUpper().contains("S3CRET"), qPrintable(out));
+  run({"session", "127.0.0.1", "--port", QString::number(server.port()), "--keys",
+       "bob<Tab>s3cret<Enter>", "--log", "--log-secrets"},
+      code);
+  QVERIFY(log().contains(secret_hex));
   out = run({"identify", "four.SCR", "--json"}, code);
   QCOMPARE(code, 0);
   QVERIFY2(out.startsWith("{\"pages\": [0, 1, 2, 3]"), qPrintable(out));
