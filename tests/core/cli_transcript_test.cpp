@@ -95,7 +95,7 @@ class CliTranscript : public ::testing::TestWithParam<Case> {
 
   void Run(const std::string& args) {
     std::string command = "cd " + Quote(work_.path().string()) + " && " + Quote(VELTRIX_CLI_PATH);
-    for (const std::string& arg : Words(args)) command += " " + Quote(arg);
+    for (const std::string& arg : Words(args)) command.append(" ").append(Quote(arg));
     const std::string out = output_.File("out"), err = output_.File("err");
     const int raw = std::system((command + " >" + Quote(out) + " 2>" + Quote(err)).c_str());
     status_ = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;

@@ -37,7 +37,8 @@ TEST(CommandTable, MenusCommandsAndToolbarMatchTheGolden) {
   EXPECT_EQ(seen.size(), kCommands.size());
   out += "toolbar";
   for (const ToolButtonDef& b : kToolbar) {
-    out += b.command == kSeparator ? " |" : " " + std::to_string(b.command);
+    out.append(b.command == kSeparator ? " |" : " ")
+        .append(b.command == kSeparator ? "" : std::to_string(b.command));
     EXPECT_EQ(b.command == kSeparator, b.image == ToolImage::kNone);
   }
   out += "\n";
