@@ -46,6 +46,19 @@ QByteArray Program(int bytes, QByteArray* data) {
   return text + "S70500000000FA\r\n";
 }
 
+// The socket answers what it receives through the simulator's rules, each reply `delay_ms` later.
+void AnswerAs(sim::SimulatedTerminal& terminal, QTcpSocket& socket, int delay_ms) {
+  QObject::connect(&socket, &QTcpSocket::readyRead, [&terminal, &socket, delay_ms] {
+    const QByteArray bytes = socket.readAll();
+    for (const auto& out : terminal.Received({reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                                              static_cast<std::size_t>(bytes.size())})) {
+      const QByteArray reply(reinterpret_cast<const char*>(out.bytes.data()),
+                             static_cast<qsizetype>(out.bytes.size()));
+      QTimer::singleShot(delay_ms, &socket, [&socket, reply] { socket.write(reply); });
+    }
+  });
+}
+
 }  // namespace
 
 class DownloadTest : public QObject {
@@ -266,14 +279,7 @@ void DownloadTest::windowStaysResponsiveAndProgressAdvances() {
   QVERIFY(port != 0);
   sim::SimulatedTerminal terminal;
   QTcpSocket socket;
-  connect(&socket, &QTcpSocket::readyRead, [&] {
-    const QByteArray bytes = socket.readAll();
-    for (const auto& out : terminal.Received({reinterpret_cast<const std::uint8_t*>(bytes.data()),
-                                              static_cast<std::size_t>(bytes.size())})) {
-      socket.write(reinterpret_cast<const char*>(out.bytes.data()),
-                   static_cast<qint64>(out.bytes.size()));
-    }
-  });
+  AnswerAs(terminal, socket, 0);
   socket.connectToHost(QHostAddress::LocalHost, port);
 
   int ticks = 0;  // the event loop's heartbeat during the download
@@ -353,15 +359,7 @@ void DownloadTest::closingTheProgressWindowAsksAndReports() {
   // A terminal that acknowledges slowly, so that the transfer is under way when the window goes.
   sim::SimulatedTerminal terminal;
   QTcpSocket socket;
-  connect(&socket, &QTcpSocket::readyRead, [&] {
-    const QByteArray bytes = socket.readAll();
-    for (const auto& out : terminal.Received({reinterpret_cast<const std::uint8_t*>(bytes.data()),
-                                              static_cast<std::size_t>(bytes.size())})) {
-      const QByteArray reply(reinterpret_cast<const char*>(out.bytes.data()),
-                             static_cast<qsizetype>(out.bytes.size()));
-      QTimer::singleShot(20, &socket, [&socket, reply] { socket.write(reply); });
-    }
-  });
+  AnswerAs(terminal, socket, 20);
   socket.connectToHost(QHostAddress::LocalHost, command.session()->listening_port());
   QTRY_VERIFY_WITH_TIMEOUT(command.progress() != nullptr, 5000);
   QTRY_VERIFY_WITH_TIMEOUT(command.progress()->bar()->value() >= 3, 10000);
