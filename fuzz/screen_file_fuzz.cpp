@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!loaded) return 0;
   // The first byte after the header (when there is one) picks K, as a foreign document could.
   const int k = size > 20 ? data[20] % 21 : 20;
-  const veltrix::HostScreenSize screen = veltrix::HostScreenSizeOf(loaded->screens);
+  const veltrix::HostScreenSize screen = veltrix::kHostScreen;
   const veltrix::Identification id = veltrix::IdentifyScreens(loaded->screens, k, screen);
   for (const veltrix::ScreenCell& cell : id.cells) {
     if (cell.row >= screen.rows || cell.column >= screen.columns) std::abort();

@@ -37,19 +37,19 @@ std::vector<std::uint8_t> StringAt(const PageRecord& screen, const CellRun& run,
 
 }  // namespace
 
-std::string ScreenBufferFullText(int most) {
-  return " Screen buffer full !! \r\n Accept at most " + std::to_string(most) + " screens. ";
+int CharacteristicLengthOf(const SettingsRecord& record, std::string* finding) {
+  const auto k = ReadNumber(record, kCharacteristicLength);
+  if (k >= 1 && k <= static_cast<std::uint32_t>(kCharacteristicCells)) return static_cast<int>(k);
+  if (finding) {
+    *finding = "CharacteristicLength " + std::to_string(k) + " is outside 1 to " +
+               std::to_string(kCharacteristicCells) + "; " +
+               std::to_string(kDefaultCharacteristicLength) + " is used.";
+  }
+  return kDefaultCharacteristicLength;
 }
 
-HostScreenSize HostScreenSizeOf(std::span<const PageRecord> screens) {
-  for (const PageRecord& s : screens) {
-    for (int r = 0; r < 27; ++r) {
-      for (int c = 0; c < 132; ++c) {
-        if ((r >= 24 || c >= 80) && ImageCell(s, r, c) != 0) return {27, 132};
-      }
-    }
-  }
-  return {};
+std::string ScreenBufferFullText(int most) {
+  return " Screen buffer full !! \r\n Accept at most " + std::to_string(most) + " screens. ";
 }
 
 std::vector<CellRun> CandidateRuns(int k, HostScreenSize size) {

@@ -21,9 +21,13 @@ struct HostScreenSize {
   int rows = 24;
   int columns = 80;
 };
-// The host screen the screens were captured from: 27 x 132 when any screen holds a character
-// beyond row 24 or column 80, else 24 x 80 (the image keeps no size of its own).
-HostScreenSize HostScreenSizeOf(std::span<const PageRecord> screens);
+// The host screen every screen file is read as: 24 x 80. Bytes of the image beyond it (the
+// presentation space's spare rows and columns) take no part in telling screens apart.
+inline constexpr HostScreenSize kHostScreen{};
+
+// The run length a document asks for: CharacteristicLength when it is 1 to 20; any other value (a
+// damaged file) counts as 20, and `finding` says so.
+int CharacteristicLengthOf(const SettingsRecord& record, std::string* finding = nullptr);
 
 struct ScreenCell {
   int row = 0;

@@ -61,8 +61,10 @@ LoadOutcome LoadScreenFileInto(Document& doc, const std::filesystem::path& path)
     outcome.messages.push_back(
         {std::string(kScreenCaption), FirstScreensReadText(loaded->screens_in_file)});
   }
-  const int k = static_cast<int>(ReadNumber(doc.record, kCharacteristicLength));
-  const Identification id = IdentifyScreens(loaded->screens, k, HostScreenSizeOf(loaded->screens));
+  std::string finding;
+  const int k = CharacteristicLengthOf(doc.record, &finding);
+  if (!finding.empty()) outcome.messages.push_back({std::string(kScreenCaption), finding});
+  const Identification id = IdentifyScreens(loaded->screens, k, kHostScreen);
   if (!id.ok) {
     outcome.messages.push_back({std::string(kErrorCaption), std::string(kIdentifyFailedMessage)});
     return outcome;
@@ -207,7 +209,7 @@ ScreenEditor::View ScreenEditor::Show() const {
   v.lines_forward = pages_of_lines && first_line_ < line_count - kVisibleLines;
 
   if (pages > 0) {
-    const HostScreenSize size = HostScreenSizeOf({&page, 1});
+    const HostScreenSize size = kHostScreen;
     for (int r = 0; r < size.rows - 1; ++r) {
       for (int c = 0; c < size.columns; ++c) {
         const std::uint8_t b = ImageCell(page, r, c);

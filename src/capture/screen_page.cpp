@@ -204,7 +204,7 @@ void ScreenPage::SetActive(Document& doc) {
   }
 }
 
-void ScreenPage::Apply(Document& doc) { editor_.PadLineTexts(HostScreenSizeOf(doc.pages).rows); }
+void ScreenPage::Apply(Document& /*doc*/) { editor_.PadLineTexts(kHostScreen.rows); }
 
 void ScreenPage::FillSizes() {
   sizes_font_ = static_cast<int>(ReadNumber(doc().record, kFontSize));

@@ -123,7 +123,7 @@ int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
   int exit_code = kExitOk;
   const auto loaded = LoadScreens(parsed.positional[0], io, "screens", json, exit_code);
   if (!loaded) return exit_code;
-  const HostScreenSize size = HostScreenSizeOf(loaded->screens);
+  const HostScreenSize size = kHostScreen;
   if (json) io.out << "{\"screens\": [";
   for (std::size_t s = 0; s < loaded->screens.size(); ++s) {
     const PageRecord& page = loaded->screens[s];
@@ -176,9 +176,10 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
   int exit_code = kExitOk;
   const auto loaded = LoadScreens(parsed.positional[0], io, "identify", json, exit_code);
   if (!loaded) return exit_code;
-  const int k = doc ? static_cast<int>(ReadNumber(doc->record, kCharacteristicLength))
-                    : kDefaultCharacteristicLength;
-  const HostScreenSize size = HostScreenSizeOf(loaded->screens);
+  std::string finding;
+  const int k = doc ? CharacteristicLengthOf(doc->record, &finding) : kDefaultCharacteristicLength;
+  if (!finding.empty()) Warn(io, finding);
+  const HostScreenSize size = kHostScreen;
   const Identification id = IdentifyScreens(loaded->screens, k, size);
   const Explanation why =
       explain ? ExplainIdentification(loaded->screens, k, size, id) : Explanation{};

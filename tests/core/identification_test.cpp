@@ -29,7 +29,7 @@ PageRecord Screen(int row = 0, int column = 0, std::string_view text = "") {
 }
 
 Identification Identify(const std::vector<PageRecord>& screens) {
-  return IdentifyScreens(screens, kK, HostScreenSizeOf(screens));
+  return IdentifyScreens(screens, kK, kHostScreen);
 }
 
 TEST(Identification, EveryRunStaysOnTheHostScreen) {
@@ -65,6 +65,7 @@ TEST(Identification, StrategiesInOrderAndDuplicates) {
       {"diagonal from row 4", {Screen(23, 21, "A"), Screen(23, 21, "B")}, 0, {4, 2}, {0, 1}},
       {"along row 23", {Screen(23, 5, "A"), Screen(23, 5, "B")}, 1, {23, 2}, {0, 1}},
       {"down column 40", {Screen(10, 40, "A"), Screen(10, 40, "B")}, 2, {2, 40}, {0, 1}},
+      {"different only beyond 24 x 80", {Screen(24, 5, "A"), Screen(3, 100, "B")}, 0, {2, 2}, {0}},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
@@ -74,6 +75,16 @@ TEST(Identification, StrategiesInOrderAndDuplicates) {
     EXPECT_EQ(id.run.start, c.start);
     EXPECT_EQ(id.pages, c.pages);
     EXPECT_FALSE(id.buffer_full);
+  }
+}
+
+TEST(Identification, ADamagedCharacteristicLengthCountsAsTwenty) {
+  auto doc = std::make_unique<Document>();
+  for (const auto& [stored, used] : {std::pair{5, 5}, {20, 20}, {0, 20}, {21, 20}, {255, 20}}) {
+    WriteNumber(doc->record, kCharacteristicLength, static_cast<std::uint32_t>(stored));
+    std::string finding;
+    EXPECT_EQ(CharacteristicLengthOf(doc->record, &finding), used) << stored;
+    EXPECT_EQ(finding.empty(), stored == used) << finding;
   }
 }
 
