@@ -107,30 +107,42 @@ class Socket {
   int fd_ = -1;
 };
 
-// Receives until the session's keyboard is free and no record is half received, for at most
-// `wait`. False with `reason` when the host ended the connection; `timed_out` when it took too
-// long.
+// The host has answered: no record is half received, and the keyboard is free or locked by an
+// error the host wrote on the error line (Reset frees it).
+bool Answered(const Session& session) {
+  return session.BetweenRecords() && (!session.KeyboardLocked() || session.Screen().ErrorLine());
+}
+
+// Receives until the host has answered and then sent nothing for 100 ms (a burst of records has
+// ended), for at most `wait`. False with `reason` when the host ended the connection;
+// `timed_out` when no answer came in time.
 bool WaitForHost(Socket& socket, ReplayRun& run, SessionLog& log, std::chrono::milliseconds wait,
                  bool& timed_out, std::string& reason) {
+  constexpr std::chrono::milliseconds kQuiet(100);
   const auto deadline = Clock::now() + wait;
   timed_out = false;
-  while (run.session().KeyboardLocked() || !run.session().BetweenRecords()) {
+  for (;;) {
+    const bool answered = Answered(run.session());
     const auto left =
         std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
     if (left.count() <= 0) {
-      timed_out = true;
+      timed_out = !answered;
       return true;
     }
-    std::optional<std::vector<std::uint8_t>> bytes = socket.Receive(left, reason);
+    std::optional<std::vector<std::uint8_t>> bytes =
+        socket.Receive(answered ? std::min(left, kQuiet) : left, reason);
     if (!bytes) {
       log.LogReceive({});
+      if (answered) return true;  // the answer stands; the closing shows at the next wait
       return false;
     }
-    if (bytes->empty()) continue;
+    if (bytes->empty()) {
+      if (answered) return true;  // quiet for 100 ms after the answer
+      continue;
+    }
     log.LogReceive(*bytes);
     run.session().Receive(*bytes);
   }
-  return true;
 }
 
 // The key list's pieces: keys in replay syntax, with <Capture> between them.

@@ -501,6 +501,17 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   QCOMPARE(code, 0);
   QVERIFY2(out.startsWith("{\"pages\": [0, 1, 2, 3]"), qPrintable(out));
 
+  // An error answer (keyboard locked, message on the error line) counts as an answer: the error
+  // screen is captured, and <Reset> frees the keyboard.
+  out = run(
+      {"session", "127.0.0.1", "--port", QString::number(server.port()), "--capture", "error.SCR",
+       "--keys", "bob<Enter>2<Enter>ITEM0004x1<Enter><Capture><Reset><Home><Down>25 <Enter>"},
+      code);
+  QCOMPARE(code, 0);
+  QVERIFY2(out.contains("Quantity 25 recorded for ITEM0004."), qPrintable(out));
+  out = run({"screens", "error.SCR"}, code);
+  QVERIFY2(out.contains("Quantity must be a number from 1 to 9999."), qPrintable(out));
+
   // An existing capture file is neither emptied by a session that cannot connect nor replaced
   // unasked; --append adds to it.
   QTcpServer probe;
