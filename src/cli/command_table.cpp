@@ -23,8 +23,10 @@ constexpr Command kCommands[] = {
     {"replay", "[--emulation N] [--local-name NAME] [--keys KEYS] [--json] STREAM",
      "feed host bytes (a file, - for standard input) to a TN5250 session, type KEYS, print it",
      RunReplayCommand},
-    {"screens", "FILE.SCR [--json]",
-     "print each captured screen of a screen file: its rows, then its fields", RunScreensCommand},
+    {"screens", "FILE.SCR [--json] [--keep LIST] [--append OTHER.SCR] [--out NEW.SCR]",
+     "print each captured screen of a screen file: its rows, then its fields; with --out, write "
+     "the screens LIST keeps (counted from 1, as 1,3-5) and those of OTHER.SCR as a new file",
+     RunScreensCommand},
     {"identify", "FILE.SCR [--json] [--into DOC.QVL] [--explain]",
      "tell a screen file's screens apart as Load does; --into stores the pages in DOC; exit 1 when "
      "they cannot be told apart",

@@ -1,4 +1,5 @@
 // veltrix-cli screens and identify: what a screen file holds and how its screens are told apart.
+#include <optional>
 #include <ostream>
 
 #include "capture/identification.h"
@@ -6,6 +7,7 @@
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
 #include "cli/settings_input.h"
+#include "settings/atomic_file.h"
 #include "settings/field.h"
 #include "settings/screen/screen_pages.h"
 #include "shell/summary_json.h"
@@ -110,19 +112,94 @@ std::string ExplanationJson(const Explanation& why) {
   return out + "]}";
 }
 
+// The screens "1,3-5" names, counted from 1; nothing when the list is not of that form or names
+// a screen the file does not hold.
+std::optional<std::vector<std::size_t>> KeepList(const std::string& text, std::size_t count) {
+  std::vector<std::size_t> keep;
+  std::size_t at = 0;
+  while (at <= text.size()) {
+    const std::size_t end = std::min(text.find(',', at), text.size());
+    const std::string item = text.substr(at, end - at);
+    const std::size_t dash = item.find('-');
+    try {
+      std::size_t used = 0;
+      const std::size_t first = std::stoul(item.substr(0, dash), &used);
+      if (used != std::min(dash, item.size())) return std::nullopt;
+      std::size_t last = first;
+      if (dash != std::string::npos) {
+        last = std::stoul(item.substr(dash + 1), &used);
+        if (used != item.size() - dash - 1) return std::nullopt;
+      }
+      if (first < 1 || last < first || last > count) return std::nullopt;
+      for (std::size_t n = first; n <= last; ++n) keep.push_back(n - 1);
+    } catch (...) {
+      return std::nullopt;
+    }
+    at = end + 1;
+  }
+  return keep;
+}
+
+// --out: the kept screens, then those of --append, written as a new screen file.
+int WriteScreens(const ParsedArgs& parsed, const LoadedScreens& loaded, CliIo& io) {
+  if (loaded.screens_in_file > loaded.screens.size()) {
+    return Fail(io, "screens: the file holds more screens than can be edited (" +
+                        std::to_string(kMaxLoadedScreens) + ")");
+  }
+  std::vector<const PageRecord*> out;
+  if (const std::string* keep = parsed.value("--keep")) {
+    const auto list = KeepList(*keep, loaded.screens.size());
+    if (!list) {
+      return Fail(io, "screens: --keep takes screens from 1 to " +
+                          std::to_string(loaded.screens.size()) + " as in 1,3-5");
+    }
+    for (std::size_t k : *list) out.push_back(&loaded.screens[k]);
+  } else {
+    for (const PageRecord& page : loaded.screens) out.push_back(&page);
+  }
+  std::optional<LoadedScreens> other;
+  if (const std::string* append = parsed.value("--append")) {
+    int exit_code = kExitOk;
+    other = LoadScreens(*append, io, "screens", false, exit_code);
+    if (!other) return exit_code;
+    if (other->screens_in_file > other->screens.size()) {
+      return Fail(io, "screens: '" + *append + "' holds more screens than can be edited (" +
+                          std::to_string(kMaxLoadedScreens) + ")");
+    }
+    for (const PageRecord& page : other->screens) out.push_back(&page);
+  }
+  const auto header = ScreenFileHeader();
+  std::vector<std::span<const std::uint8_t>> parts{header};
+  for (const PageRecord* page : out) parts.emplace_back(*page);
+  SaveStatus status;
+  const std::string& path = *parsed.value("--out");
+  if (!WriteFileAtomically(path, parts, SystemFileCalls(), &status)) {
+    return Fail(io, "screens: cannot write '" + path + "': " + status.reason);
+  }
+  io.out << out.size() << " screens written to " << path << '\n';
+  return kExitOk;
+}
+
 }  // namespace
 
 int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
+  constexpr std::string_view kValues[] = {"--keep", "--append", "--out"};
   constexpr std::string_view kFlags[] = {"--json"};
-  const ParsedArgs parsed = ParseArgs(args, {}, kFlags);
+  const ParsedArgs parsed = ParseArgs(args, kValues, kFlags);
   if (!parsed.error.empty()) return Fail(io, "screens: " + parsed.error);
   if (std::string error = ExpectPositional(parsed, 1, 1); !error.empty()) {
-    return Fail(io, "screens: " + error + " (screens FILE.SCR [--json])");
+    return Fail(io, "screens: " + error +
+                        " (screens FILE.SCR [--json] [--keep LIST] [--append OTHER.SCR] "
+                        "[--out NEW.SCR])");
   }
   const bool json = parsed.has_flag("--json");
   int exit_code = kExitOk;
   const auto loaded = LoadScreens(parsed.positional[0], io, "screens", json, exit_code);
   if (!loaded) return exit_code;
+  if (parsed.value("--out")) return WriteScreens(parsed, *loaded, io);
+  if (parsed.value("--keep") || parsed.value("--append")) {
+    return Fail(io, "screens: --keep and --append go with --out NEW.SCR");
+  }
   const HostScreenSize size = kHostScreen;
   if (json) io.out << "{\"screens\": [";
   for (std::size_t s = 0; s < loaded->screens.size(); ++s) {
