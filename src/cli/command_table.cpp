@@ -31,6 +31,11 @@ constexpr Command kCommands[] = {
      "tell a screen file's screens apart as Load does; --into stores the pages in DOC; exit 1 when "
      "they cannot be told apart",
      RunIdentifyCommand},
+    {"check", "DOC.QVL FILE.SCR [--json]",
+     "recognise each captured screen with DOC's pages as the terminal does (screens, pages, lines, "
+     "rows and columns counted from 1); exit 1 when a screen matches no page or several, or its "
+     "page shows a host field the screen does not have",
+     RunCheckCommand},
     {"session",
      "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR "
      "[--append|--overwrite]] [--log [--log-secrets]] [--wait SECONDS] [--json]",

@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "capture/identification.h"
+#include "capture/screen_check.h"
 #include "capture/screen_file.h"
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
@@ -316,6 +317,55 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
     if (!SaveSettingsOutput(*doc, *into, io)) return kExitUsage;
   }
   return kExitOk;
+}
+
+int RunCheckCommand(std::span<const std::string> args, CliIo& io) {
+  constexpr std::string_view kFlags[] = {"--json"};
+  const ParsedArgs parsed = ParseArgs(args, {}, kFlags);
+  if (!parsed.error.empty()) return Fail(io, "check: " + parsed.error);
+  if (std::string error = ExpectPositional(parsed, 2, 2); !error.empty()) {
+    return Fail(io, "check: " + error + " (check DOC.QVL FILE.SCR [--json])");
+  }
+  const bool json = parsed.has_flag("--json");
+  const auto doc = LoadSettingsInput(parsed.positional[0], io);
+  if (!doc) return kExitUsage;
+  int exit_code = kExitOk;
+  const auto loaded = LoadScreens(parsed.positional[1], io, "check", json, exit_code);
+  if (!loaded) return exit_code;
+  const std::vector<ScreenCheck> checks = CheckScreens(*doc, loaded->screens);
+  bool all_ok = true;
+  if (json) io.out << "{\"screens\": [";
+  for (std::size_t s = 0; s < checks.size(); ++s) {
+    const ScreenCheck& c = checks[s];
+    all_ok = all_ok && c.ok();
+    // Screens, pages, lines, rows and columns are counted from 1, as the window shows them.
+    if (json) {
+      io.out << (s ? ", " : "") << "{\"screen\": " << s + 1 << ", \"pages\": [";
+      for (std::size_t i = 0; i < c.pages.size(); ++i) io.out << (i ? ", " : "") << c.pages[i] + 1;
+      io.out << "], \"missing\": [";
+      for (std::size_t i = 0; i < c.missing.size(); ++i) {
+        const MissingField& m = c.missing[i];
+        io.out << (i ? ", " : "") << "{\"line\": " << m.line + 1 << ", \"row\": " << m.row + 1
+               << ", \"column\": " << m.column + 1 << "}";
+      }
+      io.out << "], \"ok\": " << (c.ok() ? "true" : "false") << "}";
+      continue;
+    }
+    io.out << "screen " << s + 1 << ": ";
+    if (c.pages.empty()) {
+      io.out << "matches no page\n";
+      continue;
+    }
+    io.out << (c.pages.size() == 1 ? "page" : "pages");
+    for (std::size_t i = 0; i < c.pages.size(); ++i) io.out << (i ? ", " : " ") << c.pages[i] + 1;
+    io.out << (c.pages.size() > 1 ? " (the terminal cannot tell them apart)\n" : "\n");
+    for (const MissingField& m : c.missing) {
+      io.out << "  line " << m.line + 1 << " shows the host field at row " << m.row + 1
+             << " column " << m.column + 1 << ", which this screen does not have\n";
+    }
+  }
+  if (json) io.out << "], \"ok\": " << (all_ok ? "true" : "false") << "}\n";
+  return all_ok ? kExitOk : kExitDiffers;
 }
 
 }  // namespace veltrix::cli

@@ -511,6 +511,17 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   QVERIFY2(out.contains("Quantity 25 recorded for ITEM0004."), qPrintable(out));
   out = run({"screens", "error.SCR"}, code);
   QVERIFY2(out.contains("Quantity must be a number from 1 to 9999."), qPrintable(out));
+  // check: the capture a document came from passes, a screen of another kind is named.
+  run({"new", "--product", "1", "--out", "d.QVL"}, code);
+  run({"identify", "four.SCR", "--into", "d.QVL"}, code);
+  QCOMPARE(code, 0);
+  run({"set", "d.QVL", "HostRow[0][0]=5", "HostColumn[0][0]=52"}, code);  // the user field
+  out = run({"check", "d.QVL", "four.SCR"}, code);
+  QCOMPARE(code, 0);
+  QCOMPARE(out, "screen 1: page 1\nscreen 2: page 2\nscreen 3: page 3\nscreen 4: page 4\n");
+  out = run({"check", "d.QVL", "error.SCR"}, code);
+  QCOMPARE(code, 1);
+  QCOMPARE(out, "screen 1: matches no page\n");
 
   // An existing capture file is neither emptied by a session that cannot connect nor replaced
   // unasked; --append adds to it.
