@@ -12,15 +12,16 @@ namespace {
 
 bool HasFieldAt(const PageRecord& page, int row, int column) {
   const std::vector<FieldEntry> fields = FieldEntries(page);
-  return std::ranges::any_of(fields,
-                             [&](const FieldEntry& f) { return f.row == row && f.column == column; });
+  return std::ranges::any_of(
+      fields, [&](const FieldEntry& f) { return f.row == row && f.column == column; });
 }
 
 }  // namespace
 
 std::vector<ScreenCheck> CheckScreens(const Document& doc, std::span<const PageRecord> screens) {
   const int k = CharacteristicLengthOf(doc.record);
-  const int pages = std::min<int>(static_cast<int>(ReadNumber(doc.record, kTotalPages)), kPageCount);
+  const int pages =
+      std::min<int>(static_cast<int>(ReadNumber(doc.record, kTotalPages)), kPageCount);
   const std::span<const std::uint8_t> record(doc.record);
   std::vector<ScreenCheck> checks;
   for (const PageRecord& screen : screens) {

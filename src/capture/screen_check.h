@@ -17,8 +17,8 @@ struct MissingField {
 
 // How the terminal would recognise one captured screen with a document's pages.
 struct ScreenCheck {
-  std::vector<int> pages;              // the pages whose characteristic string it shows, from 0
-  std::vector<MissingField> missing;   // of the one page it matches
+  std::vector<int> pages;             // the pages whose characteristic string it shows, from 0
+  std::vector<MissingField> missing;  // of the one page it matches
   bool ok() const { return pages.size() == 1 && missing.empty(); }
 };
 

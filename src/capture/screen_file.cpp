@@ -31,12 +31,21 @@ std::vector<FieldEntry> FieldEntries(const PageRecord& page) {
     if (page[at] == 0) break;
     FieldEntry e;
     e.number = page[at];
+    e.resequence = page[at + 1];
     e.column = page[at + 2];
     e.row = page[at + 3];
     e.format1 = page[at + 4];
     e.format2 = page[at + 5];
+    e.control1 = page[at + 6];
+    e.control2 = page[at + 7];
     e.attribute = page[at + 8];
     e.length = page[at + 12] | page[at + 13] << 8;
+    auto le32 = [&](std::size_t from) {
+      return static_cast<std::uint32_t>(page[from] | page[from + 1] << 8 | page[from + 2] << 16 |
+                                        static_cast<std::uint32_t>(page[from + 3]) << 24);
+    };
+    e.next = le32(at + 16);
+    e.previous = le32(at + 20);
     entries.push_back(e);
   }
   return entries;

@@ -30,12 +30,17 @@ std::array<std::uint8_t, kScreenFileHeaderSize> ScreenFileHeader();
 // One field entry of a page record, as stored.
 struct FieldEntry {
   int number = 0;
+  int resequence = 0;
   int column = 0;
   int row = 0;
   std::uint8_t format1 = 0;  // field format word
   std::uint8_t format2 = 0;
+  std::uint8_t control1 = 0;  // field control word
+  std::uint8_t control2 = 0;
   std::uint8_t attribute = 0;
   int length = 0;
+  std::uint32_t next = 0;  // the field list's links as the engine kept them
+  std::uint32_t previous = 0;
 };
 
 // The character at (row, column) of a page record's screen image; 0 outside the image.

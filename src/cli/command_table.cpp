@@ -71,6 +71,8 @@ void PrintHelp(std::ostream& out) {
     out << "  " << c.name << ' ' << c.usage << "\n      " << c.description << '\n';
   }
   out << "\nNumbers are decimal, texts plain text, byte strings hexadecimal pairs (0D 41).\n"
+         "screens, identify and check count screens, pages, lines, rows and columns from 1, as\n"
+         "the host window shows them; get and set show the record's own values.\n"
          "Exit status: 0 success, 1 the files differ (diff) or the screens cannot be told apart\n"
          "(identify), 2 bad usage or unreadable input, 3 a download or host session failed.\n";
 }

@@ -46,8 +46,12 @@ std::string RowText(const PageRecord& page, int row, int columns) {
   return text;
 }
 
+// Rows and columns counted from 1, as the host window's status bar shows them.
 std::string CellText(const ScreenCell& cell) {
-  return "row " + std::to_string(cell.row) + " column " + std::to_string(cell.column);
+  return std::string("row ")
+      .append(std::to_string(cell.row + 1))
+      .append(" column ")
+      .append(std::to_string(cell.column + 1));
 }
 
 std::string CharacterText(std::uint8_t b) {
@@ -94,19 +98,19 @@ std::string ExplanationJson(const Explanation& why) {
   std::string out = "{\"told_apart\": [";
   for (std::size_t i = 0; i < why.told_apart.size(); ++i) {
     const PairDistinction& d = why.told_apart[i];
-    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a) +
-           ", \"b\": " + std::to_string(d.b) + ", \"row\": " + std::to_string(d.cell.row) +
-           ", \"column\": " + std::to_string(d.cell.column) + ", \"first\": \"" +
+    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a + 1) +
+           ", \"b\": " + std::to_string(d.b + 1) + ", \"row\": " + std::to_string(d.cell.row + 1) +
+           ", \"column\": " + std::to_string(d.cell.column + 1) + ", \"first\": \"" +
            Hex({&d.first, 1}) + "\", \"second\": \"" + Hex({&d.second, 1}) + "\"}";
   }
   out += "], \"inseparable\": [";
   for (std::size_t i = 0; i < why.inseparable.size(); ++i) {
     const PairDifference& d = why.inseparable[i];
-    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a) +
-           ", \"b\": " + std::to_string(d.b) + ", \"cells\": [";
+    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a + 1) +
+           ", \"b\": " + std::to_string(d.b + 1) + ", \"cells\": [";
     for (std::size_t j = 0; j < d.cells.size(); ++j) {
-      out += (j ? ", [" : "[") + std::to_string(d.cells[j].row) + ", " +
-             std::to_string(d.cells[j].column) + "]";
+      out += (j ? ", [" : "[") + std::to_string(d.cells[j].row + 1) + ", " +
+             std::to_string(d.cells[j].column + 1) + "]";
     }
     out += "]}";
   }
@@ -219,11 +223,15 @@ int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
       const FieldEntry& f = fields[i];
       const std::uint8_t ffw[] = {f.format1, f.format2};
       if (json) {
-        io.out << (i ? ", " : "") << "{\"number\": " << f.number << ", \"row\": " << f.row
-               << ", \"column\": " << f.column << ", \"length\": " << f.length << ", \"ffw\": \""
-               << Hex(ffw) << "\", \"attribute\": \"" << Hex({&f.attribute, 1}) << "\"}";
+        const std::uint8_t fcw[] = {f.control1, f.control2};
+        io.out << (i ? ", " : "") << "{\"number\": " << f.number
+               << ", \"resequence\": " << f.resequence << ", \"row\": " << f.row + 1
+               << ", \"column\": " << f.column + 1 << ", \"length\": " << f.length
+               << ", \"ffw\": \"" << Hex(ffw) << "\", \"fcw\": \"" << Hex(fcw)
+               << "\", \"attribute\": \"" << Hex({&f.attribute, 1}) << "\", \"next\": " << f.next
+               << ", \"previous\": " << f.previous << "}";
       } else {
-        io.out << "field number=" << f.number << " row=" << f.row << " column=" << f.column
+        io.out << "field number=" << f.number << " row=" << f.row + 1 << " column=" << f.column + 1
                << " length=" << f.length << " ffw=" << Hex(ffw)
                << " attribute=" << Hex({&f.attribute, 1}) << '\n';
       }
@@ -274,18 +282,19 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
   }
   if (json) {
     io.out << "{\"pages\": [";
-    for (std::size_t i = 0; i < id.pages.size(); ++i) io.out << (i ? ", " : "") << id.pages[i];
+    for (std::size_t i = 0; i < id.pages.size(); ++i) io.out << (i ? ", " : "") << id.pages[i] + 1;
     io.out << "], \"duplicates\": [";
     bool first = true;
     for (std::size_t b = 0; b < id.duplicate_of.size(); ++b) {
       if (id.duplicate_of[b] < 0) continue;
-      io.out << (first ? "" : ", ") << "{\"screen\": " << b << ", \"of\": " << id.duplicate_of[b]
-             << "}";
+      io.out << (first ? "" : ", ") << "{\"screen\": " << b + 1
+             << ", \"of\": " << id.duplicate_of[b] + 1 << "}";
       first = false;
     }
     io.out << "], \"strategy\": " << id.run.strategy << ", \"cells\": [";
     for (std::size_t j = 0; j < id.cells.size(); ++j) {
-      io.out << (j ? ", " : "") << "[" << id.cells[j].row << ", " << id.cells[j].column << "]";
+      io.out << (j ? ", " : "") << "[" << id.cells[j].row + 1 << ", " << id.cells[j].column + 1
+             << "]";
     }
     io.out << "], \"strings\": [";
     for (std::size_t i = 0; i < id.pages.size(); ++i) {
