@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "demo_host/demo_screens.h"
+#include "demo_host/ebcdic_text.h"
 #include "demo_host/host_codes.h"
 #include "demo_host/outbound_record.h"
 
@@ -51,6 +52,8 @@ HostOutput DemoApplication::Begin(const StationInfo& station) {
   device_name_ = it == station.environment.end() ? std::string() : it->second;
   const auto codepage = station.environment.find("CODEPAGE");
   if (codepage != station.environment.end()) welcome_ = DoubleByteWelcome(codepage->second);
+  capitals_ = codepage != station.environment.end() && codepage->second == "930";
+  const CapitalsOnly capitals(capitals_);
   HostOutput out = Show(Screen::kSignOn);
   // Like a midrange host, ask the station what it is first.
   out.records.insert(out.records.begin(), OutboundRecord().Query().Finish());
@@ -58,6 +61,7 @@ HostOutput DemoApplication::Begin(const StationInfo& station) {
 }
 
 HostOutput DemoApplication::OnRecord(std::span<const std::uint8_t> record) {
+  const CapitalsOnly capitals(capitals_);
   if (awaiting_immediate_) {
     awaiting_immediate_ = false;
     const InboundRecord in = ParseImmediateRecord(record);

@@ -36,6 +36,7 @@ class DemoApplication : public HostApplication {
   Screen screen_ = Screen::kSignOn;
   std::string device_name_;
   std::vector<std::uint8_t> welcome_;  // double-byte greeting of the station's code page
+  bool capitals_ = false;              // a Katakana station: text in capitals only
   std::string user_;
   int page_ = 0;
   std::string item_;

@@ -27,7 +27,13 @@ const std::array<std::uint8_t, 128>& AsciiToHostTable() {
 
 }  // namespace
 
+thread_local bool g_capitals_only = false;
+
+CapitalsOnly::CapitalsOnly(bool on) : was_(g_capitals_only) { g_capitals_only = on; }
+CapitalsOnly::~CapitalsOnly() { g_capitals_only = was_; }
+
 std::uint8_t AsciiToHost(char c) {
+  if (g_capitals_only && c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
   const auto u = static_cast<unsigned char>(c);
   if (u < 0x20 || u >= 0x7F) return 0x40;
   return AsciiToHostTable()[u];
