@@ -35,6 +35,27 @@ std::vector<std::uint8_t> StringAt(const PageRecord& screen, const CellRun& run,
   return s;
 }
 
+// The characteristic cells that may not hold on the terminal what they held when captured.
+std::vector<FragileCell> FragileCells(std::span<const PageRecord> screens,
+                                      const Identification& id) {
+  std::vector<FragileCell> fragile;
+  for (std::size_t j = 0; j < id.cells.size(); ++j) {
+    FragileCell f{id.cells[j]};
+    f.on_message_line = f.cell.row == kHostScreen.rows - 1;
+    const int cell = f.cell.row * kHostScreen.columns + f.cell.column;
+    for (int p : id.pages) {
+      const std::uint8_t c = id.strings[static_cast<std::size_t>(p)][j];
+      f.blank_in_a_page = f.blank_in_a_page || c == 0 || c == ' ';
+      for (const FieldEntry& field : FieldEntries(screens[static_cast<std::size_t>(p)])) {
+        const int first = field.row * kHostScreen.columns + field.column;
+        f.in_input_field = f.in_input_field || (cell >= first && cell < first + field.length);
+      }
+    }
+    if (f.in_input_field || f.on_message_line || f.blank_in_a_page) fragile.push_back(f);
+  }
+  return fragile;
+}
+
 }  // namespace
 
 int CharacteristicLengthOf(const SettingsRecord& record, std::string* finding) {
@@ -149,6 +170,7 @@ Explanation ExplainIdentification(std::span<const PageRecord> screens, int k, Ho
         }
       }
     }
+    why.fragile = FragileCells(screens, id);
     return why;
   }
   const std::vector<CellRun> runs = CandidateRuns(k, size);
@@ -170,6 +192,41 @@ Explanation ExplainIdentification(std::span<const PageRecord> screens, int k, Ho
       }
       why.inseparable.push_back(std::move(d));
     }
+  }
+  // Each run with the pairs it cannot tell apart, and the run that needs the fewest screens
+  // dropped (a greedy cover: the screen in most of the remaining pairs first).
+  bool proposed = false;
+  for (const CellRun& run : runs) {
+    RunConflicts conflicts{run, {}};
+    for (int a = 0; a < n; ++a) {
+      const PageRecord& sa = screens[static_cast<std::size_t>(a)];
+      const auto string_a = StringAt(sa, run, k);
+      for (int b = a + 1; b < n; ++b) {
+        const PageRecord& sb = screens[static_cast<std::size_t>(b)];
+        if (string_a != StringAt(sb, run, k) || SameScreen(sa, sb, size)) continue;
+        conflicts.pairs.push_back({a, b});
+      }
+    }
+    std::vector<std::pair<int, int>> left = conflicts.pairs;
+    std::vector<int> drop;
+    while (!left.empty()) {
+      std::vector<int> degree(static_cast<std::size_t>(n), 0);
+      for (const auto& [a, b] : left) {
+        ++degree[static_cast<std::size_t>(a)];
+        ++degree[static_cast<std::size_t>(b)];
+      }
+      const auto most =
+          static_cast<int>(std::max_element(degree.begin(), degree.end()) - degree.begin());
+      drop.push_back(most);
+      std::erase_if(left, [most](const auto& p) { return p.first == most || p.second == most; });
+    }
+    std::sort(drop.begin(), drop.end());
+    if (!proposed || drop.size() < why.drop.size()) {
+      why.drop = drop;
+      why.drop_run = run;
+      proposed = true;
+    }
+    why.runs.push_back(std::move(conflicts));
   }
   return why;
 }

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "settings/document.h"
@@ -81,9 +82,25 @@ struct PairDifference {  // failure: two different screens no run can tell apart
   int b = 0;
   std::vector<ScreenCell> cells;  // where they do differ on the host screen
 };
+struct RunConflicts {  // failure: a run tried and the pairs of screens it cannot tell apart
+  CellRun run;
+  std::vector<std::pair<int, int>> pairs;
+};
+struct FragileCell {  // success: a characteristic cell that may not hold what it held
+  ScreenCell cell;
+  bool in_input_field = false;   // the user or the host may change it
+  bool on_message_line = false;  // row 24: messages come and go
+  bool blank_in_a_page = false;  // a page tells itself apart by nothing there
+};
 struct Explanation {
   std::vector<PairDistinction> told_apart;
   std::vector<PairDifference> inseparable;
+  std::vector<RunConflicts> runs;
+  // The fewest screens found to drop or recapture so that one run tells the rest apart, and
+  // that run (empty `drop` when nothing failed).
+  std::vector<int> drop;
+  CellRun drop_run;
+  std::vector<FragileCell> fragile;
 };
 Explanation ExplainIdentification(std::span<const PageRecord> screens, int k, HostScreenSize size,
                                   const Identification& id);

@@ -1,6 +1,7 @@
 // veltrix-cli screens and identify: what a screen file holds and how its screens are told apart.
 #include <optional>
 #include <ostream>
+#include <utility>
 
 #include "capture/identification.h"
 #include "capture/screen_check.h"
@@ -78,6 +79,23 @@ std::optional<LoadedScreens> LoadScreens(const std::string& path, CliIo& io, con
   return std::nullopt;
 }
 
+constexpr const char* kShapes[] = {"diagonal", "along a row", "down a column"};
+
+// "the diagonal from row 3 column 3", as a run is named in explanations.
+std::string RunText(const CellRun& run) {
+  return std::string(kShapes[run.strategy]).append(" from ").append(CellText(run.start));
+}
+
+// A run's fields of a JSON object, the object left open.
+std::string RunJson(const CellRun& run) {
+  return std::string("{\"strategy\": ")
+      .append(std::to_string(run.strategy))
+      .append(", \"row\": ")
+      .append(std::to_string(run.start.row + 1))
+      .append(", \"column\": ")
+      .append(std::to_string(run.start.column + 1));
+}
+
 void PrintExplanationText(const Explanation& why, std::ostream& out) {
   for (const PairDistinction& d : why.told_apart) {
     out << "screens " << d.a + 1 << " and " << d.b + 1 << " are told apart at " << CellText(d.cell)
@@ -91,6 +109,37 @@ void PrintExplanationText(const Explanation& why, std::ostream& out) {
     }
     if (d.cells.size() > kShown) out << " and " << d.cells.size() - kShown << " more cells";
     out << ", where no run of characteristic cells reaches; capture one of them differently\n";
+  }
+  // Neighbouring runs of one shape that fail on the same pairs share a line.
+  for (std::size_t i = 0; i < why.runs.size();) {
+    const RunConflicts& r = why.runs[i];
+    std::size_t last = i;
+    while (last + 1 < why.runs.size() && why.runs[last + 1].run.strategy == r.run.strategy &&
+           why.runs[last + 1].pairs == r.pairs) {
+      ++last;
+    }
+    out << RunText(r.run);
+    if (last > i) out << " to " << CellText(why.runs[last].run.start);
+    out << " cannot tell apart";
+    for (std::size_t p = 0; p < r.pairs.size(); ++p) {
+      out << (p ? ", " : " ") << "screens " << r.pairs[p].first + 1 << " and "
+          << r.pairs[p].second + 1;
+    }
+    out << '\n';
+    i = last + 1;
+  }
+  if (!why.drop.empty()) {
+    out << "drop or recapture screen" << (why.drop.size() > 1 ? "s" : "");
+    for (std::size_t i = 0; i < why.drop.size(); ++i) out << (i ? ", " : " ") << why.drop[i] + 1;
+    out << " and the " << RunText(why.drop_run) << " tells the rest apart\n";
+  }
+  for (const FragileCell& f : why.fragile) {
+    out << "characteristic cell " << CellText(f.cell) << " may change:";
+    const char* sep = " ";
+    if (f.in_input_field) out << std::exchange(sep, ", ") << "inside an input field";
+    if (f.on_message_line) out << std::exchange(sep, ", ") << "on the message line";
+    if (f.blank_in_a_page) out << std::exchange(sep, ", ") << "blank in a page";
+    out << '\n';
   }
 }
 
@@ -113,6 +162,41 @@ std::string ExplanationJson(const Explanation& why) {
              std::to_string(d.cells[j].column + 1) + "]";
     }
     out += "]}";
+  }
+  out += "], \"runs\": [";
+  for (std::size_t i = 0; i < why.runs.size(); ++i) {
+    const RunConflicts& r = why.runs[i];
+    out.append(i ? ", " : "").append(RunJson(r.run)).append(", \"pairs\": [");
+    for (std::size_t j = 0; j < r.pairs.size(); ++j) {
+      out.append(j ? ", [" : "[")
+          .append(std::to_string(r.pairs[j].first + 1))
+          .append(", ")
+          .append(std::to_string(r.pairs[j].second + 1))
+          .append("]");
+    }
+    out += "]}";
+  }
+  out += "], \"drop\": [";
+  for (std::size_t i = 0; i < why.drop.size(); ++i) {
+    out.append(i ? ", " : "").append(std::to_string(why.drop[i] + 1));
+  }
+  out += "]";
+  if (!why.drop.empty()) out.append(", \"drop_run\": ").append(RunJson(why.drop_run)).append("}");
+  out += ", \"fragile\": [";
+  for (std::size_t i = 0; i < why.fragile.size(); ++i) {
+    const FragileCell& f = why.fragile[i];
+    out.append(i ? ", " : "")
+        .append("{\"row\": ")
+        .append(std::to_string(f.cell.row + 1))
+        .append(", \"column\": ")
+        .append(std::to_string(f.cell.column + 1))
+        .append(", \"input_field\": ")
+        .append(f.in_input_field ? "true" : "false")
+        .append(", \"message_line\": ")
+        .append(f.on_message_line ? "true" : "false")
+        .append(", \"blank_in_a_page\": ")
+        .append(f.blank_in_a_page ? "true" : "false")
+        .append("}");
   }
   return out + "]}";
 }
@@ -305,7 +389,6 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
     if (explain) io.out << ", \"explain\": " << ExplanationJson(why);
     io.out << "}\n";
   } else {
-    static constexpr const char* kShapes[] = {"diagonal", "along a row", "down a column"};
     io.out << loaded->screens.size() << " screens, " << id.pages.size() << " pages; "
            << kShapes[id.run.strategy] << " from " << CellText(id.run.start) << '\n';
     for (std::size_t i = 0; i < id.pages.size(); ++i) {
