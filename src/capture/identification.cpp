@@ -198,12 +198,16 @@ Explanation ExplainIdentification(std::span<const PageRecord> screens, int k, Ho
   bool proposed = false;
   for (const CellRun& run : runs) {
     RunConflicts conflicts{run, {}};
+    std::vector<std::vector<std::uint8_t>> strings;
+    for (int a = 0; a < n; ++a)
+      strings.push_back(StringAt(screens[static_cast<std::size_t>(a)], run, k));
     for (int a = 0; a < n; ++a) {
-      const PageRecord& sa = screens[static_cast<std::size_t>(a)];
-      const auto string_a = StringAt(sa, run, k);
       for (int b = a + 1; b < n; ++b) {
-        const PageRecord& sb = screens[static_cast<std::size_t>(b)];
-        if (string_a != StringAt(sb, run, k) || SameScreen(sa, sb, size)) continue;
+        if (strings[static_cast<std::size_t>(a)] != strings[static_cast<std::size_t>(b)] ||
+            SameScreen(screens[static_cast<std::size_t>(a)], screens[static_cast<std::size_t>(b)],
+                       size)) {
+          continue;
+        }
         conflicts.pairs.push_back({a, b});
       }
     }
