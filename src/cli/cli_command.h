@@ -48,6 +48,7 @@ int RunSummaryCommand(std::span<const std::string> args, CliIo& io);
 int RunScreensCommand(std::span<const std::string> args, CliIo& io);
 int RunIdentifyCommand(std::span<const std::string> args, CliIo& io);
 int RunCheckCommand(std::span<const std::string> args, CliIo& io);
+int RunPreviewCommand(std::span<const std::string> args, CliIo& io);
 // Defined in session_command.cpp.
 int RunSessionCommand(std::span<const std::string> args, CliIo& io);
 // Defined in download_command.cpp.

@@ -36,6 +36,11 @@ constexpr Command kCommands[] = {
      "rows and columns counted from 1); exit 1 when a screen matches no page or several, or its "
      "page shows a host field the screen does not have",
      RunCheckCommand},
+    {"preview", "DOC.QVL [FILE.SCR] [--page N]",
+     "show DOC's pages as the terminal's display shows them: each line's text and, between "
+     "brackets, the host field mapped to it, filled from the page's screen or from each screen of "
+     "FILE.SCR the terminal recognises",
+     RunPreviewCommand},
     {"session",
      "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR "
      "[--append|--overwrite]] [--log [--log-secrets]] [--wait SECONDS] [--json]",

@@ -6,6 +6,7 @@
 #include "capture/identification.h"
 #include "capture/screen_check.h"
 #include "capture/screen_file.h"
+#include "capture/terminal_preview.h"
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
 #include "cli/settings_input.h"
@@ -458,6 +459,70 @@ int RunCheckCommand(std::span<const std::string> args, CliIo& io) {
   }
   if (json) io.out << "], \"ok\": " << (all_ok ? "true" : "false") << "}\n";
   return all_ok ? kExitOk : kExitDiffers;
+}
+
+int RunPreviewCommand(std::span<const std::string> args, CliIo& io) {
+  constexpr std::string_view kValues[] = {"--page"};
+  const ParsedArgs parsed = ParseArgs(args, kValues, {});
+  if (!parsed.error.empty()) return Fail(io, "preview: " + parsed.error);
+  if (std::string error = ExpectPositional(parsed, 1, 2); !error.empty()) {
+    return Fail(io, "preview: " + error + " (preview DOC.QVL [FILE.SCR] [--page N])");
+  }
+  const auto doc = LoadSettingsInput(parsed.positional[0], io);
+  if (!doc) return kExitUsage;
+  const int pages =
+      std::min<int>(static_cast<int>(ReadNumber(doc->record, kTotalPages)), kPageCount);
+  int only = 0;  // counted from 1; 0: every page
+  if (const std::string* page = parsed.value("--page")) {
+    try {
+      std::size_t used = 0;
+      only = std::stoi(*page, &used);
+      if (used != page->size()) only = -1;
+    } catch (...) {
+      only = -1;
+    }
+    if (only < 1 || only > pages) {
+      return Fail(io, "preview: --page takes a page from 1 to " + std::to_string(pages));
+    }
+  }
+  auto print = [&](int page, const PageRecord& screen, const std::string& heading) {
+    const TerminalPreview preview = PreviewPage(*doc, page, screen);
+    io.out << heading << " (" << preview.size_text << ")\n";
+    const std::string border =
+        "+" + std::string(static_cast<std::size_t>(preview.chars_per_line), '-') + "+\n";
+    io.out << border;
+    for (const std::string& line : preview.lines) {
+      std::string text;
+      for (char b : line) AppendUtf8(text, DisplayByteToUnicode(0, static_cast<std::uint8_t>(b)));
+      io.out << '|' << text << "|\n";
+    }
+    io.out << border;
+  };
+  if (parsed.positional.size() == 1) {
+    for (int p = 0; p < pages; ++p) {
+      if (only == 0 || only == p + 1)
+        print(p, doc->pages[static_cast<std::size_t>(p)], "page " + std::to_string(p + 1));
+    }
+    return kExitOk;
+  }
+  // With a screen file: each screen the terminal recognises, as that page shows it.
+  int exit_code = kExitOk;
+  const auto loaded = LoadScreens(parsed.positional[1], io, "preview", false, exit_code);
+  if (!loaded) return exit_code;
+  const std::vector<ScreenCheck> checks = CheckScreens(*doc, loaded->screens);
+  for (std::size_t s = 0; s < checks.size(); ++s) {
+    const std::string screen = "screen " + std::to_string(s + 1);
+    if (checks[s].pages.size() != 1) {
+      io.out << screen << ": "
+             << (checks[s].pages.empty() ? "matches no page" : "matches several pages") << "\n";
+      exit_code = kExitDiffers;
+      continue;
+    }
+    const int p = checks[s].pages.front();
+    if (only == 0 || only == p + 1)
+      print(p, loaded->screens[s], screen + " as page " + std::to_string(p + 1));
+  }
+  return exit_code;
 }
 
 }  // namespace veltrix::cli

@@ -522,6 +522,11 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   out = run({"check", "d.QVL", "error.SCR"}, code);
   QCOMPARE(code, 1);
   QCOMPARE(out, "screen 1: matches no page\n");
+  out = run({"preview", "d.QVL", "--page", "1"}, code);
+  QCOMPARE(code, 0);
+  QVERIFY2(out.startsWith("page 1 (20 characters *  8 lines)\n+--------------------+\n"
+                          "|[          ]        |\n"),
+           qPrintable(out));  // the sign-on's empty user field on the first line
 
   // An existing capture file is neither emptied by a session that cannot connect nor replaced
   // unasked; --append adds to it.
