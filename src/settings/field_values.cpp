@@ -71,6 +71,14 @@ std::string StoreNumber(std::span<std::uint8_t> record, const FieldElement& e,
 std::string StoreText(std::span<std::uint8_t> record, const FieldElement& e,
                       std::string_view value) {
   const std::size_t room = e.field->width - 1u;
+  // A file may hold a text that fills the whole field without a NUL; `get` prints it as it is,
+  // and setting it back unchanged must not fail.
+  const auto stored = FieldBytes(std::span<const std::uint8_t>(record), *e.field, e.i, e.j);
+  if (value.size() == stored.size() &&
+      std::equal(value.begin(), value.end(), stored.begin(),
+                 [](char c, std::uint8_t b) { return static_cast<std::uint8_t>(c) == b; })) {
+    return {};
+  }
   if (value.size() > room) {
     return ElementName(e) + ": text of " + std::to_string(value.size()) +
            " characters is too long, at most " + std::to_string(room);
