@@ -17,8 +17,8 @@ namespace veltrix {
 
 // The link a download runs over, as `DownloadVia` numbers it.
 enum class DownloadVia : std::uint8_t { kCradleIr = 0, kRs232 = 1, kIrDa = 2, kRf = 3 };
-// The download mode: the command that started it.
-enum class DownloadKind { kSettings = 1210, kProgram = 1220 };
+// What a download sends: the settings record or an SHX program.
+enum class DownloadKind { kSettings, kProgram };
 
 // Reply collection: a reply ends at its carriage return, at the 10th byte or 2.5 s after the
 // collection started. A TCP receive brings up to 256 bytes at once; what a reply keeps is bounded

@@ -3,6 +3,7 @@
 #include <QStatusBar>
 
 #include "download/download_command_qt.h"
+#include "shell/command_table.h"
 #include "shell/main_window.h"
 
 namespace veltrix {
@@ -13,13 +14,16 @@ DownloadCommandQt* InstallDownload(MainWindow& window) {
   command->SetMessageShower([prompt](const QString& caption, const QString& text) {
     prompt->ShowMessage(caption.toStdString(), text.toStdString(), PromptIcon::kExclamation);
   });
-  command->SetRetryAsker([prompt](const QString& caption, const QString& text) {
+  auto ask = [prompt](const QString& caption, const QString& text) {
     return prompt->AskYesNo(caption.toStdString(), text.toStdString());
-  });
+  };
+  command->SetRetryAsker(ask);
+  command->SetStopAsker(ask);
   QObject::connect(command, &DownloadCommandQt::statusChanged, &window,
                    [&window](const QString& text) { window.statusBar()->showMessage(text); });
   window.SetDownloadHandler([command, &window](int mode) {
-    command->Run(static_cast<DownloadKind>(mode), window.document());
+    command->Run(mode == kCmdDownloadProgram ? DownloadKind::kProgram : DownloadKind::kSettings,
+                 window.document());
   });
   return command;
 }
