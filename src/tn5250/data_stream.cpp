@@ -339,7 +339,7 @@ void DataStreamInterpreter::WriteMessageByte(std::uint8_t b, int row, int& colum
   const int cols = ps.Columns();
   if (b == kShiftOut || b == kShiftIn) {
     set_double_byte(b == kShiftOut);
-    if (column < cols) ps.PutCell(column, row, kBlank);
+    if (column < cols) ps.PutErrorCell(column, row, kBlank);
     ++column;
     return;
   }
@@ -367,10 +367,10 @@ void DataStreamInterpreter::WriteMessageByte(std::uint8_t b, int row, int& colum
     return;
   }
   if (b >= 0x20 && b <= 0x3F) {
-    ps.SetCell(column, row, 0, ps.Attribute(row, column));
+    ps.SetErrorCell(column, row, 0, ps.Attribute(row, column));
   } else {
     const std::uint8_t d = HostToDisplay(host_.emulation_type, b);
-    ps.PutCell(column, row, d == 0xFF ? (window ? kBlank : 0) : d);
+    ps.PutErrorCell(column, row, d == 0xFF ? (window ? kBlank : 0) : d);
   }
   ++column;
 }

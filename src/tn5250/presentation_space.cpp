@@ -77,6 +77,16 @@ void PresentationSpace::SetCell(int column, int row, std::uint8_t character,
   BreakPairBefore(row, column);
 }
 
+void PresentationSpace::SetErrorCell(int column, int row, std::uint8_t character,
+                                     std::uint8_t attribute) {
+  if (InScreen(row, column)) return SetCell(column, row, character, attribute);
+  if (row < rows_ || row >= kPlaneRows || column < 0 || column >= columns_) return;
+  const int i = Index(row, column);
+  characters_[i] = character;
+  attributes_[i] = attribute;
+  pair_start_[i] = false;
+}
+
 void PresentationSpace::SetAttribute(int column, int row, std::uint8_t attribute) {
   if (InScreen(row, column)) attributes_[Index(row, column)] = attribute;
 }

@@ -65,6 +65,12 @@ class PresentationSpace {
   void PutCell(int column, int row, std::uint8_t character);
   // Stores character and attribute directly (dropped outside the screen).
   void SetCell(int column, int row, std::uint8_t character, std::uint8_t attribute);
+  // An error message's cells: the error row may lie below the screen, in the plane's spare rows,
+  // where the host put it; only cells beyond the plane are dropped.
+  void SetErrorCell(int column, int row, std::uint8_t character, std::uint8_t attribute);
+  void PutErrorCell(int column, int row, std::uint8_t character) {
+    SetErrorCell(column, row, character, current_attribute_);
+  }
   void SetAttribute(int column, int row, std::uint8_t attribute);
   // Writes a double-byte character: first byte at (column, row), second in the next cell, and
   // marks the first cell as the left half of a pair (for painting and text output).

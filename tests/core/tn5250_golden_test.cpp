@@ -144,7 +144,19 @@ std::string GoldenText(const ReplayRun& run) {
       line += kDigits[a >> 4];
       line += kDigits[a & 15];
     }
-    if (any) out += "attributes " + std::to_string(row) + " " + line + "\n";
+    if (any) out.append("attributes ").append(std::to_string(row)).append(" ").append(line) += '\n';
+  }
+  // Rows of the plane below the screen that hold characters (an error row placed there).
+  for (int row = ps.Rows(); row < kPlaneRows; ++row) {
+    std::string line;
+    bool any = false;
+    for (int column = 0; column < ps.Columns(); ++column) {
+      const std::uint8_t c = ps.PlaneCharacter(row, column);
+      any = any || c != 0;
+      line += c == 0 ? ' ' : static_cast<char>(c);
+    }
+    if (any)
+      out.append("below the screen ").append(std::to_string(row)).append(" ").append(line) += '\n';
   }
   return out;
 }
