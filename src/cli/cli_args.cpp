@@ -1,6 +1,7 @@
 #include "cli/cli_args.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace veltrix::cli {
 
@@ -45,6 +46,17 @@ std::string ExpectPositional(const ParsedArgs& parsed, std::size_t at_least, std
   if (n < at_least) return "too few arguments";
   if (n > at_most) return "unexpected argument '" + parsed.positional[at_most] + "'";
   return {};
+}
+
+std::optional<int> ParseInt(std::string_view text, int low, int high) {
+  int value = 0;
+  const char* end = text.data() + text.size();
+  const char* begin = text.data() + (!text.empty() && text.front() == '+' ? 1 : 0);
+  const auto [stop, error] = std::from_chars(begin, end, value);
+  if (text.empty() || error != std::errc() || stop != end || value < low || value > high) {
+    return std::nullopt;
+  }
+  return value;
 }
 
 }  // namespace veltrix::cli

@@ -2,6 +2,7 @@
 #define VELTRIX_CLI_CLI_ARGS_H_
 
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,6 +26,10 @@ struct ParsedArgs {
 ParsedArgs ParseArgs(std::span<const std::string> args,
                      std::span<const std::string_view> value_options,
                      std::span<const std::string_view> flags);
+
+// A whole decimal number from `low` to `high`, the whole text of it; nothing otherwise. The one
+// number reader of every command's options.
+std::optional<int> ParseInt(std::string_view text, int low, int high);
 
 // Checks the number of positional arguments; returns an error text or empty.
 std::string ExpectPositional(const ParsedArgs& parsed, std::size_t at_least, std::size_t at_most);

@@ -21,15 +21,9 @@ DownloadRunner g_runner = nullptr;
 constexpr std::array<std::string_view, 4> kViaOptions{"cradle-ir", "rs-232", "irda", "rf"};
 
 bool ParseCount(const std::string& text, int low, int high, int& value) {
-  try {
-    std::size_t used = 0;
-    const int n = std::stoi(text, &used);
-    if (used != text.size() || n < low || n > high) return false;
-    value = n;
-    return true;
-  } catch (...) {
-    return false;
-  }
+  const std::optional<int> n = ParseInt(text, low, high);
+  if (n) value = *n;
+  return n.has_value();
 }
 
 // What --check found: the address ranges the program fills and its size.

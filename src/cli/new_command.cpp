@@ -1,5 +1,3 @@
-#include <charconv>
-
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
 #include "cli/settings_input.h"
@@ -19,15 +17,13 @@ int RunNewCommand(std::span<const std::string> args, CliIo& io) {
   if (!product_text || !out) return Fail(io, "new: --product N and --out FILE are required");
 
   const int products = static_cast<int>(ProductNames().size());
-  int product = -1;
-  const char* end = product_text->data() + product_text->size();
-  auto [stop, error] = std::from_chars(product_text->data(), end, product);
-  if (error != std::errc() || stop != end || product < 0 || product > products) {
+  const std::optional<int> product = ParseInt(*product_text, 0, products);
+  if (!product) {
     return Fail(
         io, "new: product '" + *product_text + "' is not one of 0.." + std::to_string(products));
   }
   auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, product);
+  SetDefaults(*doc, *product);
   return SaveSettingsOutput(*doc, *out, io) ? kExitOk : kExitUsage;
 }
 

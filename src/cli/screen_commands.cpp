@@ -206,25 +206,17 @@ std::string ExplanationJson(const Explanation& why) {
 // a screen the file does not hold.
 std::optional<std::vector<std::size_t>> KeepList(const std::string& text, std::size_t count) {
   std::vector<std::size_t> keep;
+  const int most = static_cast<int>(count);
   std::size_t at = 0;
   while (at <= text.size()) {
     const std::size_t end = std::min(text.find(',', at), text.size());
-    const std::string item = text.substr(at, end - at);
+    const std::string_view item = std::string_view(text).substr(at, end - at);
     const std::size_t dash = item.find('-');
-    try {
-      std::size_t used = 0;
-      const std::size_t first = std::stoul(item.substr(0, dash), &used);
-      if (used != std::min(dash, item.size())) return std::nullopt;
-      std::size_t last = first;
-      if (dash != std::string::npos) {
-        last = std::stoul(item.substr(dash + 1), &used);
-        if (used != item.size() - dash - 1) return std::nullopt;
-      }
-      if (first < 1 || last < first || last > count) return std::nullopt;
-      for (std::size_t n = first; n <= last; ++n) keep.push_back(n - 1);
-    } catch (...) {
-      return std::nullopt;
-    }
+    const std::optional<int> first = ParseInt(item.substr(0, dash), 1, most);
+    const std::optional<int> last =
+        dash == std::string_view::npos ? first : ParseInt(item.substr(dash + 1), 1, most);
+    if (!first || !last || *last < *first) return std::nullopt;
+    for (int n = *first; n <= *last; ++n) keep.push_back(static_cast<std::size_t>(n - 1));
     at = end + 1;
   }
   return keep;
@@ -474,13 +466,7 @@ int RunPreviewCommand(std::span<const std::string> args, CliIo& io) {
       std::min<int>(static_cast<int>(ReadNumber(doc->record, kTotalPages)), kPageCount);
   int only = 0;  // counted from 1; 0: every page
   if (const std::string* page = parsed.value("--page")) {
-    try {
-      std::size_t used = 0;
-      only = std::stoi(*page, &used);
-      if (used != page->size()) only = -1;
-    } catch (...) {
-      only = -1;
-    }
+    only = ParseInt(*page, 1, std::max(pages, 1)).value_or(0);
     if (only < 1 || only > pages) {
       return Fail(io, "preview: --page takes a page from 1 to " + std::to_string(pages));
     }

@@ -210,13 +210,9 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
     out = fallback;
     const std::string* value = parsed.value(option);
     if (value == nullptr) return true;
-    try {
-      std::size_t used = 0;
-      out = std::stoi(*value, &used);
-      return used == value->size() && out >= low && out <= high;
-    } catch (...) {
-      return false;
-    }
+    const std::optional<int> n = ParseInt(*value, low, high);
+    if (n) out = *n;
+    return n.has_value();
   };
   int port = 23;
   int emulation = 0;
