@@ -46,12 +46,12 @@ bool Keyboard::IsPrintable(std::uint8_t c) { return (c >= 0x20 && c < 0x7F) || c
 
 ScreenChange::Kind Keyboard::KeyInput(HostKey key) {
   host_.out.Trace({TraceCode::kIbmWrite});
-  const int function = KeyFunction(key);
-  if (host_.keyboard_locked && function != 44) {
+  const KeyFunction function = FunctionOfKey(key);
+  if (host_.keyboard_locked && function != KeyFunction::kReset) {
     host_.SoundAlarm();
     return ScreenChange::Kind::kNothing;
   }
-  if (function != 0) return DoFunction(function);
+  if (function != KeyFunction::kNone) return DoFunction(function);
   switch (key) {
     case HostKey::kUp:
     case HostKey::kDown:
@@ -205,27 +205,27 @@ ScreenChange::Kind Keyboard::TypeCharacter(std::uint8_t c) {
   return ScreenChange::Kind::kCell;
 }
 
-ScreenChange::Kind Keyboard::DoFunction(int function) {
-  if ((function >= 1 && function <= 24) || function == 35 || function == 36 || function == 45) {
-    inbound_.SendAidRecord(FunctionToAid(function));
+ScreenChange::Kind Keyboard::DoFunction(KeyFunction function) {
+  if (const std::uint8_t aid = FunctionToAid(function); aid != 0) {  // an attention key
+    inbound_.SendAidRecord(aid);
     return ScreenChange::Kind::kNothing;
   }
   switch (function) {
-    case 27:
+    case KeyFunction::kDelete:
       return Delete();
-    case 30:
+    case KeyFunction::kFieldPlus:
       return FieldSign(false);
-    case 31:
+    case KeyFunction::kFieldMinus:
       return FieldSign(true);
-    case 33:
+    case KeyFunction::kEndOfField:
       return EndOfField();
-    case 34:
+    case KeyFunction::kFieldAdvance:
       return NextFieldKey();
-    case 38:
+    case KeyFunction::kFirstField:
       return FirstFieldKey();
-    case 44:
+    case KeyFunction::kReset:
       return Reset();
-    case 47:
+    case KeyFunction::kBackspace:
       return BackspaceKey();
     default:
       return ScreenChange::Kind::kNothing;

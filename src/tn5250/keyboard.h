@@ -29,7 +29,7 @@ class Keyboard {
 
  private:
   ScreenChange::Kind TypeCharacter(std::uint8_t c);
-  ScreenChange::Kind DoFunction(int function);
+  ScreenChange::Kind DoFunction(KeyFunction function);
   ScreenChange::Kind MoveCursor(HostKey key);
   bool CurrentFieldComplete() const;
   bool Accepts(const FieldRecord& field, std::uint8_t c) const;

@@ -6,36 +6,52 @@ namespace {
 
 struct KeyFunctionEntry {
   HostKey key;
-  int function;
+  KeyFunction function;
 };
 
-// Keys and their function numbers; F1..F9 are computed from their codes.
+// Keys and their functions; F1..F9 are computed from their codes.
 constexpr KeyFunctionEntry kKeyFunctions[] = {
-    {HostKey::kF10, 10},    {HostKey::kF11, 11},       {HostKey::kF12, 12},
-    {HostKey::kEnter, 45},  {HostKey::kPageUp, 36},    {HostKey::kPageDown, 35},
-    {HostKey::kDelete, 27}, {HostKey::kFieldPlus, 30}, {HostKey::kFieldMinus, 31},
-    {HostKey::kTab, 34},    {HostKey::kHome, 38},      {HostKey::kEnd, 33},
-    {HostKey::kReset, 44},  {HostKey::kBackspace, 47},
+    {HostKey::kF10, CommandFunction(10)},
+    {HostKey::kF11, CommandFunction(11)},
+    {HostKey::kF12, CommandFunction(12)},
+    {HostKey::kEnter, KeyFunction::kEnter},
+    {HostKey::kPageUp, KeyFunction::kRollDown},
+    {HostKey::kPageDown, KeyFunction::kRollUp},
+    {HostKey::kDelete, KeyFunction::kDelete},
+    {HostKey::kFieldPlus, KeyFunction::kFieldPlus},
+    {HostKey::kFieldMinus, KeyFunction::kFieldMinus},
+    {HostKey::kTab, KeyFunction::kFieldAdvance},
+    {HostKey::kHome, KeyFunction::kFirstField},
+    {HostKey::kEnd, KeyFunction::kEndOfField},
+    {HostKey::kReset, KeyFunction::kReset},
+    {HostKey::kBackspace, KeyFunction::kBackspace},
 };
 
 }  // namespace
 
-int KeyFunction(HostKey key) {
+KeyFunction FunctionOfKey(HostKey key) {
   const int code = static_cast<int>(key);
-  if (code >= 128 && code <= 137) return code - 127;  // F1..F9, and 137 as F10
+  if (code >= 128 && code <= 137) return CommandFunction(code - 127);  // F1..F9, and 137 as F10
   for (const KeyFunctionEntry& e : kKeyFunctions) {
     if (e.key == key) return e.function;
   }
-  return 0;
+  return KeyFunction::kNone;
 }
 
-std::uint8_t FunctionToAid(int function) {
-  if (function >= 1 && function <= 12) return static_cast<std::uint8_t>(0x30 + function);
-  if (function >= 13 && function <= 24) return static_cast<std::uint8_t>(0xB0 + function - 12);
-  if (function == 45) return 0xF1;
-  if (function == 36) return 0xF4;
-  if (function == 35) return 0xF5;
-  return 0;
+std::uint8_t FunctionToAid(KeyFunction function) {
+  const int n = CommandKeyNumber(function);
+  if (n >= 1 && n <= 12) return static_cast<std::uint8_t>(0x30 + n);
+  if (n >= 13) return static_cast<std::uint8_t>(0xB0 + n - 12);
+  switch (function) {
+    case KeyFunction::kEnter:
+      return 0xF1;
+    case KeyFunction::kRollDown:
+      return 0xF4;
+    case KeyFunction::kRollUp:
+      return 0xF5;
+    default:
+      return 0;
+  }
 }
 
 HostKey FunctionKey(int n) {

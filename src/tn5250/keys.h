@@ -38,11 +38,34 @@ enum class HostKey : int {
   kFieldMinus = 162,
 };
 
-// Function numbers of the keyboard (`KeyFunction`); 0 means the key has no function.
-int KeyFunction(HostKey key);
+// What a key does, numbered as the keyboard numbers its functions: 1 to 24 are the command keys
+// F1..F24 (CommandFunction(n)); kNone a key with no function (a cursor move, a character).
+enum class KeyFunction : int {
+  kNone = 0,
+  kDelete = 27,
+  kFieldPlus = 30,
+  kFieldMinus = 31,
+  kEndOfField = 33,
+  kFieldAdvance = 34,  // Tab
+  kRollUp = 35,        // Page Down
+  kRollDown = 36,      // Page Up
+  kFirstField = 38,    // Home
+  kReset = 44,
+  kEnter = 45,
+  kBackspace = 47,
+};
+constexpr KeyFunction CommandFunction(int n) { return static_cast<KeyFunction>(n); }
+// The command key number 1..24 of a function, or 0 for any other function.
+constexpr int CommandKeyNumber(KeyFunction f) {
+  const int n = static_cast<int>(f);
+  return n >= 1 && n <= 24 ? n : 0;
+}
+
+// The function of a key.
+KeyFunction FunctionOfKey(HostKey key);
 
 // AID byte of an attention function (`FunctionToAid`); 0 for any other function.
-std::uint8_t FunctionToAid(int function);
+std::uint8_t FunctionToAid(KeyFunction function);
 
 // Returns the key for F1..F12 (n in 1..12).
 HostKey FunctionKey(int n);
