@@ -6,7 +6,8 @@ cd "$(dirname "$0")/.."
 deb=$(scripts/package.sh | tail -n 1)
 sudo=""
 if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
-DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "./$deb" >/dev/null
+# --reinstall: a machine that has this version already gets the files just built.
+DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --reinstall "./$deb" >/dev/null
 desktop-file-validate /usr/share/applications/org.veltrix.Veltrix.desktop
 appstreamcli validate --no-net /usr/share/metainfo/org.veltrix.Veltrix.metainfo.xml >/dev/null
 for page in veltrix veltrix-cli veltrix-demo-host veltrix-terminal-sim; do

@@ -474,8 +474,9 @@ int RunPreviewCommand(std::span<const std::string> args, CliIo& io) {
   auto print = [&](int page, const PageRecord& screen, const std::string& heading) {
     const TerminalPreview preview = PreviewPage(*doc, page, screen);
     io.out << heading << " (" << preview.size_text << ")\n";
-    const std::string border =
-        "+" + std::string(static_cast<std::size_t>(preview.chars_per_line), '-') + "+\n";
+    const std::string border = std::string("+")
+                                   .append(static_cast<std::size_t>(preview.chars_per_line), '-')
+                                   .append("+\n");
     io.out << border;
     for (const std::string& line : preview.lines) {
       std::string text;
