@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "capture/screen_file.h"
 #include "settings/document.h"
 
 namespace veltrix {
@@ -24,7 +25,7 @@ struct HostScreenSize {
 };
 // The host screen every screen file is read as: 24 x 80. Bytes of the image beyond it (the
 // presentation space's spare rows and columns) take no part in telling screens apart.
-inline constexpr HostScreenSize kHostScreen{};
+inline constexpr HostScreenSize kHostScreen{24, kHostScreenColumns};
 
 // The run length a document asks for: CharacteristicLength when it is 1 to 20; any other value (a
 // damaged file) counts as 20, and `finding` says so.

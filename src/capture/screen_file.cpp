@@ -52,8 +52,7 @@ std::vector<FieldEntry> FieldEntries(const PageRecord& page) {
 }
 
 void BlankNonDisplayFields(PageRecord& page) {
-  // Fields run on across rows of the 80-column host screen.
-  constexpr int kColumns = 80;
+  constexpr int kColumns = kHostScreenColumns;
   constexpr int kCells = static_cast<int>(kScreenImageRows) * kColumns;
   for (const FieldEntry& f : FieldEntries(page)) {
     if ((f.attribute & 0x07) != 0x07) continue;  // displayed

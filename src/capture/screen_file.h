@@ -27,6 +27,9 @@ inline constexpr std::string_view kVersionErrorMessage = "Version Error";
 
 std::array<std::uint8_t, kScreenFileHeaderSize> ScreenFileHeader();
 
+// The host screen's columns: a field's cells run on from one row to the next across them.
+inline constexpr int kHostScreenColumns = 80;
+
 // One field entry of a page record, as stored.
 struct FieldEntry {
   int number = 0;

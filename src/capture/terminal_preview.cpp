@@ -28,8 +28,9 @@ TerminalPreview PreviewPage(const Document& doc, int page, const PageRecord& scr
     if (field != fields.end()) {
       line += '[';
       for (int i = 0; i < field->length; ++i) {
-        const int cell = row * 80 + column + i;  // fields run on across the 80-column rows
-        const std::uint8_t b = ImageCell(screen, cell / 80, cell % 80);
+        const int cell = row * kHostScreenColumns + column + i;
+        const std::uint8_t b =
+            ImageCell(screen, cell / kHostScreenColumns, cell % kHostScreenColumns);
         line += static_cast<char>(b == 0 ? ' ' : b);
       }
       line += ']';

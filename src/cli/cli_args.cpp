@@ -59,4 +59,13 @@ std::optional<int> ParseInt(std::string_view text, int low, int high) {
   return value;
 }
 
+bool ReadIntOption(const ParsedArgs& parsed, std::string_view option, int low, int high,
+                   int& value) {
+  const std::string* text = parsed.value(option);
+  if (text == nullptr) return true;
+  const std::optional<int> n = ParseInt(*text, low, high);
+  if (n) value = *n;
+  return n.has_value();
+}
+
 }  // namespace veltrix::cli

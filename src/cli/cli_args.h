@@ -31,6 +31,11 @@ ParsedArgs ParseArgs(std::span<const std::string> args,
 // number reader of every command's options.
 std::optional<int> ParseInt(std::string_view text, int low, int high);
 
+// An option that takes such a number: true when it is absent (`value` keeps its default) or
+// valid (`value` takes it), false when it is given and not a number from `low` to `high`.
+bool ReadIntOption(const ParsedArgs& parsed, std::string_view option, int low, int high,
+                   int& value);
+
 // Checks the number of positional arguments; returns an error text or empty.
 std::string ExpectPositional(const ParsedArgs& parsed, std::size_t at_least, std::size_t at_most);
 

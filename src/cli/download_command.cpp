@@ -20,12 +20,6 @@ DownloadRunner g_runner = nullptr;
 
 constexpr std::array<std::string_view, 4> kViaOptions{"cradle-ir", "rs-232", "irda", "rf"};
 
-bool ParseCount(const std::string& text, int low, int high, int& value) {
-  const std::optional<int> n = ParseInt(text, low, high);
-  if (n) value = *n;
-  return n.has_value();
-}
-
 // What --check found: the address ranges the program fills and its size.
 void PrintProgram(CliIo& io, const std::string& file, const CheckedProgram& program) {
   io.out << file << ": " << program.data_records << " data records, " << program.data_bytes
@@ -99,29 +93,26 @@ int RunDownloadCommand(std::span<const std::string> args, CliIo& io) {
     request.via = static_cast<DownloadVia>(it - kViaOptions.begin());
   }
   if (const std::string* baud = parsed.value("--baud")) {
-    int rate = 0;
-    if (!ParseCount(*baud, 1, 1000000, rate) || !std::ranges::count(kDownloadRates, rate)) {
+    const std::optional<int> rate = ParseInt(*baud, 1, 1000000);
+    if (!rate || !std::ranges::count(kDownloadRates, *rate)) {
       return Fail(io, "--baud is 115200, 57600, 38400 or 9600");
     }
-    request.rate = rate;
+    request.rate = *rate;
   }
-  if (const std::string* n = parsed.value("--retries");
-      n && !ParseCount(*n, 0, 1000, request.retries)) {
+  if (!ReadIntOption(parsed, "--retries", 0, 1000, request.retries)) {
     return Fail(io, "--retries is a count from 0");
   }
-  if (const std::string* n = parsed.value("--listen-port");
-      n && !ParseCount(*n, 0, 65535, request.listen_port)) {
+  if (!ReadIntOption(parsed, "--listen-port", 0, 65535, request.listen_port)) {
     return Fail(io, "--listen-port is a TCP port (0 picks a free one)");
   }
-  if (const std::string* n = parsed.value("--terminals");
-      n && !ParseCount(*n, 1, 1000, request.terminals)) {
+  if (!ReadIntOption(parsed, "--terminals", 1, 1000, request.terminals)) {
     return Fail(io, "--terminals is a count from 1");
   }
-  if (const std::string* n = parsed.value("--wait")) {
-    int seconds = 0;
-    if (!ParseCount(*n, 1, 86400, seconds)) return Fail(io, "--wait is a number of seconds");
-    request.listen_wait_ms = std::int64_t{seconds} * 1000;
+  int wait_seconds = static_cast<int>(request.listen_wait_ms / 1000);
+  if (!ReadIntOption(parsed, "--wait", 1, 86400, wait_seconds)) {
+    return Fail(io, "--wait is a number of seconds");
   }
+  request.listen_wait_ms = std::int64_t{wait_seconds} * 1000;
   if (const std::string* address = parsed.value("--listen-address")) {
     request.listen_address = *address;
   }

@@ -38,9 +38,10 @@ constexpr const char* kRefusedText = "Refused: no download was waiting for this 
 volatile std::sig_atomic_t g_interrupted = 0;
 extern "C" void OnInterrupt(int) { g_interrupted = 1; }
 
-std::string Seconds(double seconds) {
+// "2.16" (JSON) or "2.16 s" (the report).
+std::string Seconds(double seconds, bool unit = true) {
   char text[32];
-  std::snprintf(text, sizeof text, "%.2f s", seconds);
+  std::snprintf(text, sizeof text, unit ? "%.2f s" : "%.2f", seconds);
   return text;
 }
 
@@ -211,8 +212,8 @@ int Run(const DownloadRequest& request, CliIo& io) {
     auto object = [&](const std::string& address, const std::string& result, double seconds,
                       int acknowledged) {
       io.out << "{\"address\": " << JsonString(address) << ", \"result\": " << JsonString(result)
-             << ", \"seconds\": " << Seconds(seconds).substr(0, Seconds(seconds).size() - 2)
-             << ", \"" << (request.kind == DownloadKind::kSettings ? "blocks" : "frames")
+             << ", \"seconds\": " << Seconds(seconds, false) << ", \""
+             << (request.kind == DownloadKind::kSettings ? "blocks" : "frames")
              << "\": " << acknowledged << "}\n";
     };
     for (const Terminal& t : terminals) object(t.peer, t.outcome, t.seconds, t.acknowledged);

@@ -206,22 +206,15 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
                         "[--wait SECONDS] "
                         "[--json])");
   }
-  auto number = [&](std::string_view option, int low, int high, int fallback, int& out) {
-    out = fallback;
-    const std::string* value = parsed.value(option);
-    if (value == nullptr) return true;
-    const std::optional<int> n = ParseInt(*value, low, high);
-    if (n) out = *n;
-    return n.has_value();
-  };
   int port = 23;
   int emulation = 0;
   int wait_seconds = 10;
-  if (!number("--port", 1, 65535, 23, port)) return Fail(io, "session: --port takes 1 to 65535");
-  if (!number("--emulation", 0, 6, 0, emulation)) {
+  if (!ReadIntOption(parsed, "--port", 1, 65535, port))
+    return Fail(io, "session: --port takes 1 to 65535");
+  if (!ReadIntOption(parsed, "--emulation", 0, 6, emulation)) {
     return Fail(io, "session: --emulation takes a host language from 0 to 6");
   }
-  if (!number("--wait", 1, 3600, 10, wait_seconds)) {
+  if (!ReadIntOption(parsed, "--wait", 1, 3600, wait_seconds)) {
     return Fail(io, "session: --wait takes 1 to 3600 seconds");
   }
   SessionConfig config;
