@@ -217,6 +217,14 @@ ScreenEditor::View ScreenEditor::Show() const {
       }
       v.preview += '\n';
     }
+    for (const FieldEntry& f : fields) v.marks.push_back({f.row, f.column, f.length, false});
+    const int k = CharacteristicLengthOf(doc_.record);
+    for (int j = 0; j < k; ++j) {
+      v.marks.push_back({static_cast<int>(ReadNumber(doc_.record, kCharacteristicRow, j)),
+                         static_cast<int>(ReadNumber(doc_.record, kCharacteristicColumn, j)), 1,
+                         true});
+    }
+    v.terminal = PreviewPage(doc_, current_, page);
   }
   return v;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "capture/identification.h"
+#include "capture/terminal_preview.h"
 #include "settings/document.h"
 #include "settings/screen/terminal_screen_sizes.h"
 
@@ -59,6 +60,16 @@ class ScreenEditor {
     std::array<LineView, kVisibleLines> lines;
     bool lines_back = false, lines_forward = false;
     std::string preview;  // the host screen, rows ended by line feeds
+    // Cells of the host screen to mark: the characteristic cells that tell the pages apart,
+    // and the page's input fields. Rows and columns from 0.
+    struct Mark {
+      int row = 0;
+      int column = 0;
+      int length = 1;
+      bool characteristic = false;  // else an input field
+    };
+    std::vector<Mark> marks;
+    TerminalPreview terminal;  // the page as the terminal's display shows it
   };
   View Show() const;
 

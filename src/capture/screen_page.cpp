@@ -10,7 +10,10 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "capture/identification.h"
 #include "capture/screen_file.h"
@@ -38,6 +41,29 @@ QLineEdit* ReadOnlyEdit(const char* name, int index) {
   return edit;
 }
 
+// A read-only text view in the fixed-pitch font, sized to show `columns` x `rows` whole.
+QPlainTextEdit* FixedPitchView(const char* name, int columns, int rows) {
+  auto* view = new QPlainTextEdit;
+  view->setObjectName(name);
+  view->setReadOnly(true);
+  view->setLineWrapMode(QPlainTextEdit::NoWrap);
+  view->setFont(FixedPitchFont());
+  view->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  view->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  // The text's margins, the frame and the caret, with a little room so that no scroll bar
+  // appears for what fits.
+  const QFontMetrics metrics(view->font());
+  const int margin = 2 * view->frameWidth() +
+                     2 * static_cast<int>(std::ceil(view->document()->documentMargin())) + 4;
+  view->setFixedSize(metrics.horizontalAdvance(QString(columns, QLatin1Char('M'))) + margin,
+                     metrics.lineSpacing() * rows + margin + metrics.lineSpacing() / 2);
+  return view;
+}
+
+QColor MarkColour(bool characteristic) {
+  return characteristic ? QColor(0xff, 0xc8, 0x40) : QColor(0xbf, 0xdc, 0xff);
+}
+
 }  // namespace
 
 ScreenPage::ScreenPage(Document& doc, QWidget* parent) : SettingsPage(doc, parent), editor_(doc) {
@@ -60,49 +86,54 @@ ScreenPage::ScreenPage(Document& doc, QWidget* parent) : SettingsPage(doc, paren
 }
 
 void ScreenPage::Build() {
-  // Left: loading, the page count and the preview of the host screen with its navigation.
+  // Left: the host screen, all 80 columns, with the page count and navigation below it.
   load_ = Button(tr("Load Host Session Screens..."), "load_screens");
   total_ = new QLabel;
   total_->setObjectName("total_pages");
   delete_ = Button(tr("Delete Current Page ..."), "delete_page");
   current_ = new QLabel;
   current_->setObjectName("current_page");
-  preview_ = new QPlainTextEdit;
-  preview_->setObjectName("preview");
-  preview_->setReadOnly(true);
-  preview_->setLineWrapMode(QPlainTextEdit::NoWrap);
-  preview_->setFont(FixedPitchFont());
-  preview_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  preview_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  preview_ = FixedPitchView("preview", kHostScreen.columns, kHostScreen.rows - 1);
   caret_ = new QLabel;
   caret_->setObjectName("caret_position");
   const char* kNavigationNames[] = {"first_page", "previous_page", "next_page", "last_page"};
   const char* kNavigationTexts[] = {"|<<", "<<", ">>", ">>|"};
-  auto* caret_row = new QHBoxLayout;
-  caret_row->addWidget(new QLabel(tr("(Row, Column) =")));
-  caret_row->addWidget(caret_, 1);
   auto* navigation = new QHBoxLayout;
   for (int i = 0; i < 4; ++i) {
     navigation_[i] = Button(QString::fromLatin1(kNavigationTexts[i]), kNavigationNames[i]);
     navigation_[i]->setFixedWidth(navigation_[i]->fontMetrics().horizontalAdvance("|<<|") + 14);
     navigation->addWidget(navigation_[i]);
   }
-  // Stacked, so that the lines beside keep their room in the sheet's width.
+  navigation->addSpacing(12);
+  navigation->addWidget(new QLabel(tr("(Row, Column) =")));
+  navigation->addWidget(caret_, 1);
   auto* counts = new QGridLayout;
-  counts->addWidget(load_, 0, 0, 1, 2);
-  counts->addWidget(new QLabel(tr("Total Pages :")), 1, 0);
-  counts->addWidget(total_, 1, 1);
-  counts->addWidget(delete_, 2, 0, 1, 2);
-  counts->addWidget(new QLabel(tr("Current Page :")), 3, 0);
-  counts->addWidget(current_, 3, 1);
-  counts->setColumnStretch(1, 1);
+  counts->addWidget(load_, 0, 0);
+  counts->addWidget(new QLabel(tr("Total Pages :")), 0, 1);
+  counts->addWidget(total_, 0, 2);
+  counts->addWidget(delete_, 1, 0);
+  counts->addWidget(new QLabel(tr("Current Page :")), 1, 1);
+  counts->addWidget(current_, 1, 2);
+  counts->setColumnStretch(2, 1);
+  // What the colours in the host screen mean.
+  auto* legend = new QHBoxLayout;
+  for (const bool characteristic : {true, false}) {
+    auto* swatch = new QLabel(characteristic ? tr("Characteristic cell") : tr("Input field"));
+    swatch->setObjectName(characteristic ? "legend_characteristic" : "legend_input_field");
+    swatch->setStyleSheet(
+        QStringLiteral("QLabel { background: %1; color: black; padding: 1px 4px; }")
+            .arg(MarkColour(characteristic).name()));
+    legend->addWidget(swatch);
+  }
+  legend->addStretch();
   auto* left = new QVBoxLayout;
-  left->addLayout(counts);
-  left->addWidget(preview_, 1);
-  left->addLayout(caret_row);
+  left->addWidget(preview_);
+  left->addLayout(legend);
   left->addLayout(navigation);
+  left->addLayout(counts);
+  left->addStretch();
 
-  // Right: the terminal size and the eight visible lines.
+  // Right: the terminal size, the eight visible lines and the page as the terminal shows it.
   reformat_ = new QLabel;
   reformat_->setObjectName("reformat_page");
   size_ = new QComboBox;
@@ -144,15 +175,21 @@ void ScreenPage::Build() {
   buttons->addWidget(lines_forward_);
   buttons->addStretch();
   buttons->addWidget(reset_);
+  // The widest size has 40 characters; 16 lines show without scrolling.
+  terminal_ = FixedPitchView("terminal_preview", 40, 16);
+  terminal_->setStyleSheet(
+      QStringLiteral("QPlainTextEdit { background: #20302a; color: #c8f0d0; }"));
   auto* right = new QVBoxLayout;
   right->addLayout(size_row);
   right->addLayout(lines);
   right->addLayout(buttons);
+  right->addWidget(new QLabel(tr("On the terminal :")));
+  right->addWidget(terminal_);
   right->addStretch();
 
   auto* layout = new QHBoxLayout(this);
-  layout->addLayout(left, 1);
-  layout->addLayout(right, 0);
+  layout->addLayout(left, 0);
+  layout->addLayout(right, 1);
 }
 
 void ScreenPage::ConnectControls() {
@@ -180,8 +217,10 @@ void ScreenPage::ConnectControls() {
       editor_.ChooseField(s, choice);
       ShowView();
     });
-    connect(texts_[s], &QLineEdit::textEdited, this,
-            [this, s](const QString& text) { editor_.EditText(s, text.toStdString()); });
+    connect(texts_[s], &QLineEdit::textEdited, this, [this, s](const QString& text) {
+      editor_.EditText(s, text.toStdString());
+      ShowTerminal(editor_.Show().terminal);
+    });
   }
   connect(preview_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
     const QTextCursor cursor = preview_->textCursor();
@@ -238,8 +277,12 @@ void ScreenPage::ShowView() {
   total_->setText(QString::number(v.total));
   current_->setText(QString::number(v.current));
   reformat_->setText(tr("Reformat page %1").arg(v.current));
-  preview_->setPlainText(
-      QString::fromLatin1(v.preview.data(), static_cast<qsizetype>(v.preview.size())));
+  // Without the last row's line feed, which would add an empty line to scroll to.
+  QString preview = QString::fromLatin1(v.preview.data(), static_cast<qsizetype>(v.preview.size()));
+  if (preview.endsWith(QLatin1Char('\n'))) preview.chop(1);
+  preview_->setPlainText(preview);
+  MarkCells(v.marks);
+  ShowTerminal(v.terminal);
   caret_->setText(QStringLiteral("(0, 0)"));
   navigation_[0]->setEnabled(v.first);
   navigation_[1]->setEnabled(v.previous);
@@ -271,6 +314,47 @@ void ScreenPage::ShowView() {
   }
   lines_back_->setEnabled(v.lines_back);
   lines_forward_->setEnabled(v.lines_forward);
+}
+
+}  // namespace veltrix
+
+namespace veltrix {
+
+void ScreenPage::MarkCells(const std::vector<ScreenEditor::View::Mark>& marks) {
+  // Input fields first, so that a characteristic cell inside one shows as characteristic.
+  QList<QTextEdit::ExtraSelection> selections;
+  const int rows = kHostScreen.rows - 1;
+  const int columns = kHostScreen.columns;
+  for (const bool characteristic : {false, true}) {
+    QTextCharFormat format;
+    format.setBackground(MarkColour(characteristic));
+    format.setForeground(Qt::black);
+    if (!characteristic) format.setFontUnderline(true);
+    for (const ScreenEditor::View::Mark& m : marks) {
+      if (m.characteristic != characteristic) continue;
+      // A field may run on over the row's end; each row of it is its own selection.
+      for (int cell = m.row * columns + m.column, end = cell + m.length; cell < end;) {
+        const int row = cell / columns;
+        if (cell < 0 || row >= rows) break;
+        const int run = std::min(end - cell, columns - cell % columns);
+        QTextCursor cursor(preview_->document()->findBlockByNumber(row));
+        cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, cell % columns);
+        cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor, run);
+        selections.append({cursor, format});
+        cell += run;
+      }
+    }
+  }
+  preview_->setExtraSelections(selections);
+}
+
+void ScreenPage::ShowTerminal(const TerminalPreview& terminal) {
+  QString text;
+  for (const std::string& line : terminal.lines) {
+    if (!text.isEmpty()) text += QLatin1Char('\n');
+    text += QString::fromLatin1(line.data(), static_cast<qsizetype>(line.size()));
+  }
+  terminal_->setPlainText(text);
 }
 
 }  // namespace veltrix

@@ -46,6 +46,8 @@ class ScreenPage : public SettingsPage {
   // Puts the editor's view into the controls.
   void ShowView();
   void FillSizes();
+  void MarkCells(const std::vector<ScreenEditor::View::Mark>& marks);
+  void ShowTerminal(const TerminalPreview& terminal);
 
   ScreenEditor editor_;
   FileAsker ask_file_;
@@ -60,6 +62,7 @@ class ScreenPage : public SettingsPage {
   QLabel* current_ = nullptr;
   QPlainTextEdit* preview_ = nullptr;
   QLabel* caret_ = nullptr;
+  QPlainTextEdit* terminal_ = nullptr;
   std::array<QPushButton*, 4> navigation_{};
   QLabel* reformat_ = nullptr;
   QComboBox* size_ = nullptr;

@@ -35,7 +35,7 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
   setModal(true);
 
   tabs_ = new QTabWidget(this);
-  std::array<QScrollArea*, kSheetPageCount> areas{};
+  auto& areas = areas_;
   for (int i = 0; i < kSheetPageCount; ++i) {
     // A page larger than the sheet scrolls inside it: the sheet has one size, whatever a page
     // holds, and fits the screen.
@@ -61,20 +61,37 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
   lifecycle_.Open();
 
   // The pages' size: 420 x 250 dialog units, or what the first page needs when the font makes
-  // that more, cut to what the screen leaves around the sheet's tabs, buttons and frame.
+  // that more.
   QSize page_size = PageSize(fontMetrics());
   if (pages_[0] != nullptr) page_size = page_size.expandedTo(pages_[0]->minimumSizeHint());
+  chrome_ = layout->sizeHint() - tabs_->currentWidget()->sizeHint() + QSize(16, 48);
+  FitPages(page_size);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) {
+    lifecycle_.Show(index);
+    // A page that needs more room than the others (the Screen page's 80 columns) widens the
+    // sheet once, as far as the screen allows; the sheet never shrinks back while open.
+    if (pages_[index] != nullptr) {
+      const QSize need = pages_[index]->minimumSizeHint();
+      const QSize now = areas_[0]->size();
+      if (need.width() > now.width() || need.height() > now.height()) {
+        FitPages(now.expandedTo(need));
+        adjustSize();
+      }
+    }
+  });
+}
+
+void SettingsSheetDialog::FitPages(QSize page_size) {
+  // Cut to what the screen leaves around the sheet's tabs, buttons and frame.
   if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-    const QSize chrome = layout->sizeHint() - tabs_->currentWidget()->sizeHint() + QSize(16, 48);
-    const QSize room = screen->availableGeometry().size() - chrome;
+    const QSize room = screen->availableGeometry().size() - chrome_;
     // A page cut in height scrolls down: leave room beside it for the scroll bar.
     if (page_size.height() > room.height()) {
       page_size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     }
     page_size = page_size.boundedTo(room).expandedTo(QSize(200, 120));
   }
-  for (QScrollArea* area : areas) area->setFixedSize(page_size);
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { lifecycle_.Show(index); });
+  for (QScrollArea* area : areas_) area->setFixedSize(page_size);
 }
 
 SheetPage* SettingsSheetDialog::CreatePage(int index) {

@@ -8,6 +8,7 @@
 #include "shell/settings_page_registry_qt.h"
 #include "shell/sheet_lifecycle.h"
 
+class QScrollArea;
 class QTabWidget;
 class QVBoxLayout;
 
@@ -32,14 +33,18 @@ class SettingsSheetDialog : public QDialog {
 
  private:
   SheetPage* CreatePage(int index);
+  // Gives every page the size, cut to the screen.
+  void FitPages(QSize page_size);
 
   Document& doc_;
   const SettingsPageRegistry& registry_;
   QTabWidget* tabs_ = nullptr;
+  std::array<QScrollArea*, kSheetPageCount> areas_{};
   std::array<QVBoxLayout*, kSheetPageCount> holders_{};
   std::array<SettingsPage*, kSheetPageCount> pages_{};
   SheetLifecycle lifecycle_;
   bool closed_ = false;
+  QSize chrome_;  // the sheet around a page: tabs, buttons, frame
 };
 
 }  // namespace veltrix

@@ -262,6 +262,16 @@ void HostMainWindowTest::ReformatOnTheScreenPage(const QString& path) {
     QCOMPARE(field->currentText(), QStringLiteral("1"));
     QTest::keyClicks(page->findChild<QLineEdit*>("line_text_1"), QStringLiteral("User:"));
     const std::string x = page->findChild<QLineEdit*>("line_x_1")->text().toStdString();
+    // The terminal's display shows the text and the field's content; the host screen marks
+    // the two input fields and the characteristic cells.
+    auto* terminal = page->findChild<QPlainTextEdit*>("terminal_preview");
+    QVERIFY(terminal->toPlainText().startsWith(QStringLiteral("User:[")));
+    QCOMPARE(terminal->document()->blockCount(), 8);
+    const auto marks = page->findChild<QPlainTextEdit*>("preview")->extraSelections();
+    QVERIFY(marks.size() > 2);
+    QVERIFY(std::ranges::any_of(marks, [](const QTextEdit::ExtraSelection& m) {
+      return m.format.fontUnderline() && m.cursor.selectedText().size() == 10;
+    }));
     // Page 2 (menu): line 2 shows field 1.
     QTest::mouseClick(button("next_page"), Qt::LeftButton);
     QVERIFY(page->findChild<QPlainTextEdit*>("preview")->toPlainText().contains("Main Menu"));
