@@ -10,6 +10,8 @@ packages=(
   # Faces that used to take over the fixed-pitch texts: the tests run with them installed.
   fonts-noto-mono fonts-urw-base35 fonts-droid-fallback
   xvfb xauth socat srecord
+  # TLS to the host: certificates for the tests, and a real TLS terminator in front of the demo host.
+  openssl stunnel4
   # Packaging: manual pages, the .deb and its checks.
   help2man file dpkg-dev lintian desktop-file-utils appstream
   clang-14 libclang-rt-14-dev clang-format-14

@@ -43,10 +43,13 @@ constexpr Command kCommands[] = {
      RunPreviewCommand},
     {"session",
      "HOST [--port N] [--emulation N] [--local-name NAME] [--keys KEYS] [--capture FILE.SCR "
-     "[--append|--overwrite]] [--log [--log-secrets]] [--wait SECONDS] [--json]",
+     "[--append|--overwrite]] [--log [--log-secrets]] [--wait SECONDS] [--tls [--ca FILE.pem] "
+     "[--trust SHA256:HEX]] [--json]",
      "a host session without a window: type KEYS (replay syntax, <Capture> takes the screen for "
      "FILE.SCR, written when the session ends; an existing file needs --append or --overwrite), "
-     "print the last screen; exit 3 on a time-out or when the connection fails",
+     "print the last screen; exit 3 on a time-out or when the connection fails. --tls: Telnet "
+     "over TLS (port 992 unless --port), the certificate verified with the system's CAs and "
+     "--ca's; one that does not verify exits 2 with its fingerprint, which --trust accepts",
      RunSessionCommand},
     {"download",
      "settings FILE.QVL | program FILE.SHX [--via cradle-ir|rs-232|irda|rf] [--port DEVICE]... "

@@ -10,7 +10,8 @@
 #ifdef VELTRIX_CLI_LINKS
 namespace veltrix::cli {
 void InstallDownloadRunner();  // download_runner_qt.cpp
-}
+void InstallTlsStream();       // tls_stream_qt.cpp
+}  // namespace veltrix::cli
 #endif
 
 int main(int argc, char** argv) {
@@ -18,6 +19,7 @@ int main(int argc, char** argv) {
   CliIo io{std::cout, std::cerr};
 #ifdef VELTRIX_CLI_LINKS
   InstallDownloadRunner();
+  InstallTlsStream();
 #endif
   const std::vector<std::string> args(argv + std::min(argc, 1), argv + argc);
   if (args.empty()) {

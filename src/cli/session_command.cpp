@@ -16,24 +16,28 @@
 #include "capture/screen_file.h"
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
+#include "cli/host_stream.h"
 #include "settings/atomic_file.h"
 #include "settings/file_read.h"
 #include "tn5250/replay.h"
 #include "tn5250/session_log.h"
+#include "tn5250/tls_trust.h"
 
 namespace veltrix::cli {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-class Socket {
+TlsStreamMaker tls_stream_maker = nullptr;
+
+// Plain TCP over the system's sockets.
+class Socket : public HostStream {
  public:
-  ~Socket() {
+  ~Socket() override {
     if (fd_ >= 0) ::close(fd_);
   }
-  // Connects within `timeout`; false with the system's reason.
   bool Connect(const std::string& host, int port, std::chrono::milliseconds timeout,
-               std::string& reason) {
+               std::string& reason) override {
     addrinfo hints{};
     hints.ai_family = AF_UNSPEC;
     hints.ai_socktype = SOCK_STREAM;
@@ -69,7 +73,7 @@ class Socket {
     return fd_ >= 0;
   }
 
-  bool Send(std::span<const std::uint8_t> bytes) {
+  bool Send(std::span<const std::uint8_t> bytes) override {
     std::size_t done = 0;
     while (done < bytes.size()) {
       const ssize_t n = ::send(fd_, bytes.data() + done, bytes.size() - done, MSG_NOSIGNAL);
@@ -85,10 +89,8 @@ class Socket {
     return true;
   }
 
-  // Waits up to `wait` for data; the bytes read (empty on time-out), or nothing when the host
-  // closed the connection or it failed.
   std::optional<std::vector<std::uint8_t>> Receive(std::chrono::milliseconds wait,
-                                                   std::string& reason) {
+                                                   std::string& reason) override {
     pollfd p{fd_, POLLIN, 0};
     const int ready = ::poll(&p, 1, static_cast<int>(std::max<long long>(wait.count(), 0)));
     if (ready == 0) return std::vector<std::uint8_t>{};
@@ -116,8 +118,8 @@ bool Answered(const Session& session) {
 // Receives until the host has answered and then sent nothing for 100 ms (a burst of records has
 // ended), for at most `wait`. False with `reason` when the host ended the connection;
 // `timed_out` when no answer came in time.
-bool WaitForHost(Socket& socket, ReplayRun& run, SessionLog& log, std::chrono::milliseconds wait,
-                 bool& timed_out, std::string& reason) {
+bool WaitForHost(HostStream& socket, ReplayRun& run, SessionLog& log,
+                 std::chrono::milliseconds wait, bool& timed_out, std::string& reason) {
   constexpr std::chrono::milliseconds kQuiet(100);
   const auto deadline = Clock::now() + wait;
   timed_out = false;
@@ -192,21 +194,39 @@ bool StartCaptureContent(const std::string& path, bool append, bool overwrite,
 
 }  // namespace
 
+void SetTlsStreamMaker(TlsStreamMaker maker) { tls_stream_maker = maker; }
+
 int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
-  constexpr std::string_view kValues[] = {"--port", "--emulation", "--local-name",
-                                          "--keys", "--capture",   "--wait"};
-  constexpr std::string_view kFlags[] = {"--json", "--log", "--log-secrets", "--append",
-                                         "--overwrite"};
+  constexpr std::string_view kValues[] = {"--port",    "--emulation", "--local-name", "--keys",
+                                          "--capture", "--wait",      "--ca",         "--trust"};
+  constexpr std::string_view kFlags[] = {"--json",   "--log",       "--log-secrets",
+                                         "--append", "--overwrite", "--tls"};
   const ParsedArgs parsed = ParseArgs(args, kValues, kFlags);
   if (!parsed.error.empty()) return Fail(io, "session: " + parsed.error);
   if (std::string error = ExpectPositional(parsed, 1, 1); !error.empty()) {
     return Fail(io, "session: " + error +
                         " (session HOST [--port N] [--emulation N] [--local-name NAME] [--keys "
                         "KEYS] [--capture FILE.SCR [--append|--overwrite]] [--log [--log-secrets]] "
-                        "[--wait SECONDS] "
+                        "[--wait SECONDS] [--tls [--ca FILE.pem] [--trust SHA256:HEX]] "
                         "[--json])");
   }
-  int port = 23;
+  const bool tls = parsed.has_flag("--tls");
+  TlsOptions tls_options;
+  if (const std::string* ca = parsed.value("--ca")) tls_options.ca_file = *ca;
+  if (const std::string* trust = parsed.value("--trust")) {
+    const std::optional<std::string> fingerprint = CanonicalFingerprint(*trust);
+    if (!fingerprint) {
+      return Fail(io, "session: --trust takes a SHA-256 fingerprint (SHA256: and 64 hex digits)");
+    }
+    tls_options.fingerprint = *fingerprint;
+  }
+  if (!tls && (parsed.value("--ca") || parsed.value("--trust"))) {
+    return Fail(io, "session: --ca and --trust go with --tls");
+  }
+  if (tls && tls_stream_maker == nullptr) {
+    return Fail(io, "session: this build of veltrix-cli has no TLS");
+  }
+  int port = tls ? kTelnetTlsPort : 23;
   int emulation = 0;
   int wait_seconds = 10;
   if (!ReadIntOption(parsed, "--port", 1, 65535, port))
@@ -266,14 +286,22 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   log.set_include_secrets(parsed.has_flag("--log-secrets"));
 
   const std::string& host = parsed.positional[0];
-  Socket socket;
+  std::unique_ptr<HostStream> stream =
+      tls ? tls_stream_maker(tls_options) : std::make_unique<Socket>();
+  HostStream& socket = *stream;
   std::string reason;
   if (!socket.Connect(host, port, std::chrono::seconds(wait_seconds), reason)) {
     io.err << "veltrix-cli: session: Can not establish connection to " << host << ':' << port
            << ": " << reason << '\n';
-    return kExitFailed;
+    // A certificate that is not accepted is the user's input to fix, as a wrong argument is.
+    return socket.certificate_refused() ? kExitUsage : kExitFailed;
   }
   log.LogConnect();
+  if (const std::string security = socket.Security(); !security.empty()) {
+    log.WriteLogLine("Secured: " + security);
+    io.err << "veltrix-cli: session: " << host << ':' << port << " secured with " << security
+           << '\n';
+  }
   ReplayRun run(config);
   bool send_failed = false;
   run.SetSender([&](std::span<const std::uint8_t> bytes) {

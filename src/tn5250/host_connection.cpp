@@ -4,6 +4,7 @@
 #include "settings/network/network_settings.h"
 #include "tn5250/display_text.h"
 #include "tn5250/double_byte.h"
+#include "tn5250/tls_trust.h"
 
 namespace veltrix {
 namespace {
@@ -53,7 +54,8 @@ HostConnection::HostConnection(HostLink& link, SessionLog& log, SessionMessages&
 
 HostConnection::~HostConnection() { Disconnect(); }
 
-bool HostConnection::Connect(const Document& doc, const HostOctets& octets, bool save_log) {
+bool HostConnection::Connect(const Document& doc, const HostOctets& octets, bool save_log,
+                             bool tls) {
   Disconnect();
   log_.set_save_log(save_log);
   if (!HostAddressValue(octets)) {
@@ -71,16 +73,19 @@ bool HostConnection::Connect(const Document& doc, const HostOctets& octets, bool
   session_->Connect();
   keyboard_.Reset();
   address_ = FormatHostAddress(octets);
-  port_ = settings.port;
+  port_ = ConnectPort(settings.port, tls);
+  security_.clear();
   state_ = State::kConnecting;
   link_.Open(address_, port_);
   return true;
 }
 
-void HostConnection::Opened() {
+void HostConnection::Opened(std::string_view security) {
   if (state_ != State::kConnecting) return;
   state_ = State::kConnected;
+  security_ = security;
   log_.LogConnect();
+  if (!security_.empty() && log_.is_open()) log_.WriteLogLine("Secured: " + security_);
   if (view_) view_->OnScreenChanged(ScreenChange{});
 }
 
@@ -138,6 +143,7 @@ TerminalStatus HostConnection::Status() const {
   TerminalStatus status;
   if (!connected()) return status;
   status.host = HostPortText(address_, port_);
+  if (!security_.empty()) status.host.append(" (").append(security_).append(")");
   status.keyboard = session_->KeyboardLocked() ? "Input inhibited" : "Ready";
   status.cursor = "Row " + std::to_string(session_->CursorRow() + 1) + " Col " +
                   std::to_string(session_->CursorColumn() + 1);

@@ -65,7 +65,7 @@ std::string ConnectFailedText(std::string_view address, std::uint16_t port,
 // keyboard takes input, the cursor (counted from 1) and the message-waiting indicator. Empty texts
 // when not connected.
 struct TerminalStatus {
-  std::string host;      // "10.0.0.5:23"
+  std::string host;      // "10.0.0.5:23", or "10.0.0.5:992 (TLS 1.3, cipher)"
   std::string keyboard;  // "Input inhibited" or "Ready"
   std::string cursor;    // "Row 6 Col 53"
   std::string message;   // "Message waiting" or empty
@@ -86,11 +86,14 @@ class HostConnection : private SessionListener {
   // Starts connecting after the connect dialog was confirmed: checks the address, resets the
   // engine and opens the link to `TelnetPort`. False (with the message shown) when the address
   // is refused; otherwise the link's answer comes through Opened or OpenFailed.
-  bool Connect(const Document& doc, const HostOctets& octets, bool save_log);
+  // With `tls` the port is 992 while TelnetPort is 23.
+  bool Connect(const Document& doc, const HostOctets& octets, bool save_log, bool tls = false);
   // The next connection's log shows non-display fields' data instead of "**".
   void set_log_secrets(bool on) { log_.set_include_secrets(on); }
   // The link is open: the session stands (the caller stores the address in host entry 0).
-  void Opened();
+  // `security` names the TLS version and cipher of a TLS connection: the log notes it and the
+  // status shows it beside the host.
+  void Opened(std::string_view security = {});
   // The link could not be opened: the failure with its reason goes to the log, the session ends
   // and "Can not establish connection" is shown.
   void OpenFailed(std::string_view reason);
@@ -148,6 +151,7 @@ class HostConnection : private SessionListener {
   State state_ = State::kIdle;
   std::string address_;
   std::uint16_t port_ = 0;
+  std::string security_;
   std::vector<std::function<void(const PageRecord&)>> captures_;  // waiting for a whole screen
 };
 

@@ -3,25 +3,29 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QTcpSocket>
+#include <QSslError>
+#include <QSslSocket>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "settings/document.h"
+#include "tn5250/certificate_dialog.h"
 #include "tn5250/host_connection.h"
 #include "tn5250/host_ip.h"
 #include "tn5250/session_log.h"
+#include "tn5250/tls_trust.h"
 
 class QTimer;
 class QWidget;
 
 namespace veltrix {
 
-// The host session of the program: the connect dialog, a TCP socket on the user interface
-// thread feeding the session as data arrives, and the session log in "Logs" under the working
-// directory. Received data is processed in bounded slices so that the window stays responsive
-// while a host floods it.
+// The host session of the program: the connect dialog, a TCP socket (TLS when the dialog asks
+// for it) on the user interface thread feeding the session as data arrives, and the session log
+// in "Logs" under the working directory. Received data is processed in bounded slices so that the
+// window stays responsive while a host floods it.
 class HostConnectionQt : public QObject, private HostLink, private SessionMessages {
   Q_OBJECT
 
@@ -51,6 +55,18 @@ class HostConnectionQt : public QObject, private HostLink, private SessionMessag
   using ErrorSink = std::function<void(const QString& text)>;
   void SetErrorSink(ErrorSink sink) { show_error_ = std::move(sink); }
   void SetLogDirectory(const std::filesystem::path& directory);
+  // Asks the user about a certificate that did not verify or that changed; tests replace the
+  // certificate dialog.
+  using CertificateAnswer = CertificateDialog::Answer;
+  using CertificateAsker = std::function<CertificateAnswer(
+      const std::string& host, const CertificateFacts& facts, CertificateVerdict verdict)>;
+  void SetCertificateAsker(CertificateAsker asker) { ask_certificate_ = std::move(asker); }
+  // The file of the certificates the user trusts (in the user's configuration folder unless a
+  // test sets another), and extra CA certificates to verify hosts with (a PEM file).
+  void SetTrustFile(const std::string& path) { trust_path_ = path; }
+  const std::string& trust_file() const { return trust_path_; }
+  void SetCaFile(const QString& path) { ca_file_ = path; }
+  void SetConnectTimeout(int milliseconds) { connect_timeout_ms_ = milliseconds; }
   void SetMessageParent(QWidget* parent) { message_parent_ = parent; }
 
   // Bytes taken from the socket per slice before the event loop gets its turn again.
@@ -80,7 +96,13 @@ class HostConnectionQt : public QObject, private HostLink, private SessionMessag
   // SessionMessages
   void ShowError(std::string_view text) override;
 
+  void OpenSocket();
   void OnSocketConnected();
+  void OnSslErrors(const QList<QSslError>& errors);
+  // A certificate the user must judge: the connection waits for the answer.
+  bool NeedsAnswer(const CertificateFacts& facts);
+  void AskAboutCertificate();
+  void SaveTrusted();
   void FailConnecting(const QString& reason);
   void ReadSlice();
   void ScheduleSlice();
@@ -95,7 +117,20 @@ class HostConnectionQt : public QObject, private HostLink, private SessionMessag
   SessionLog log_;
   HostConnection connection_;
   HostIpForm form_;
-  QTcpSocket* socket_ = nullptr;
+  QSslSocket* socket_ = nullptr;
+  bool tls_ = false;
+  QString ca_file_;
+  std::uint16_t dialog_port_ = 23;
+  int connect_timeout_ms_ = kConnectTimeoutMs;  // the record's TelnetPort, for the dialog
+  std::string trust_path_;
+  TrustedCertificates trusted_;
+  std::string once_fingerprint_;  // "Connect this time" for this attempt
+  struct PendingCertificate {
+    CertificateFacts facts;
+    CertificateVerdict verdict;
+  };
+  std::optional<PendingCertificate> pending_;
+  CertificateAsker ask_certificate_;
   QTimer* connect_timer_ = nullptr;
   Document* connect_doc_ = nullptr;
   int attempt_ = 0;  // a failure reported late must not end a newer attempt

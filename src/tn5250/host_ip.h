@@ -47,11 +47,15 @@ class HostIpForm {
   const HostOctets& octets() const { return octets_; }
   bool save_log() const { return save_log_; }
   bool log_secrets() const { return log_secrets_; }
+  // "Use TLS": off at first, then as the user last left it.
+  bool use_tls() const { return use_tls_; }
+  void set_use_tls(bool on) { use_tls_ = on; }
 
  private:
   HostOctets octets_{};
   bool save_log_ = false;
   bool log_secrets_ = false;
+  bool use_tls_ = false;
 };
 
 }  // namespace veltrix

@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "tn5250/tls_trust.h"
+
 namespace veltrix {
 
 void ShowErrorBox(QWidget* parent, const QString& text) {
@@ -14,7 +16,7 @@ void ShowErrorBox(QWidget* parent, const QString& text) {
 }
 
 HostIpDialog::HostIpDialog(HostIpForm& form, const std::string& active_entry, QWidget* parent,
-                           ErrorReporter report_error)
+                           ErrorReporter report_error, std::uint16_t telnet_port)
     : QDialog(parent), form_(form), report_error_(std::move(report_error)) {
   if (!report_error_) report_error_ = ShowErrorBox;
   setObjectName(QStringLiteral("HostIPDlg"));
@@ -39,6 +41,22 @@ HostIpDialog::HostIpDialog(HostIpForm& form, const std::string& active_entry, QW
   }
   row->addStretch();
   layout->addLayout(row);
+  // Telnet over TLS, with the port it goes to.
+  use_tls_ = new QCheckBox(QStringLiteral("Use TLS"), this);
+  use_tls_->setObjectName(QStringLiteral("useTls"));
+  use_tls_->setChecked(form_.use_tls());
+  auto* port = new QLabel(this);
+  port->setObjectName(QStringLiteral("port"));
+  auto show_port = [this, port, telnet_port] {
+    port->setText(QStringLiteral("Port : %1").arg(ConnectPort(telnet_port, use_tls_->isChecked())));
+  };
+  show_port();
+  connect(use_tls_, &QCheckBox::toggled, this, show_port);
+  auto* tls_row = new QHBoxLayout;
+  tls_row->addWidget(use_tls_);
+  tls_row->addStretch();
+  tls_row->addWidget(port);
+  layout->addLayout(tls_row);
   save_log_ = new QCheckBox(QStringLiteral("Save Log"), this);
   save_log_->setObjectName(QStringLiteral("saveLog301"));
   save_log_->setChecked(form_.save_log());
@@ -69,6 +87,7 @@ void HostIpDialog::accept() {
     edits_[wrong]->selectAll();
     return;
   }
+  form_.set_use_tls(use_tls_->isChecked());
   QDialog::accept();
 }
 

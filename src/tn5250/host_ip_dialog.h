@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -21,11 +22,14 @@ class HostIpDialog : public QDialog {
   // Shows an error message; the default is a message box captioned "Error".
   using ErrorReporter = std::function<void(QWidget* parent, const QString& text)>;
 
+  // `telnet_port` is the record's TelnetPort: the port shown, or 992 with "Use TLS" while it is
+  // 23.
   HostIpDialog(HostIpForm& form, const std::string& active_entry, QWidget* parent = nullptr,
-               ErrorReporter report_error = {});
+               ErrorReporter report_error = {}, std::uint16_t telnet_port = 23);
 
   QLineEdit* octet_edit(int index) const { return edits_[index]; }
   QCheckBox* save_log_box() const { return save_log_; }
+  QCheckBox* use_tls_box() const { return use_tls_; }
 
   void accept() override;
 
@@ -39,6 +43,7 @@ class HostIpDialog : public QDialog {
   std::array<QLineEdit*, 4> edits_{};
   QCheckBox* save_log_ = nullptr;
   QCheckBox* log_secrets_ = nullptr;
+  QCheckBox* use_tls_ = nullptr;
 };
 
 // Shows "text" in a modal message box captioned "Error" with the exclamation icon.

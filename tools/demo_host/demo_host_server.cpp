@@ -1,6 +1,11 @@
 #include "demo_host/demo_host_server.h"
 
+#include <QFile>
 #include <QHostAddress>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -10,10 +15,44 @@
 namespace veltrix::demo_host {
 
 DemoHostServer::DemoHostServer(QObject* parent)
-    : QObject(parent),
-      server_(new QTcpServer(this)),
-      factory_([] { return std::make_unique<DemoApplication>(); }) {
-  connect(server_, &QTcpServer::newConnection, this, &DemoHostServer::OnNewConnection);
+    : QObject(parent), factory_([] { return std::make_unique<DemoApplication>(); }) {
+  MakeServer(new QTcpServer(this));
+}
+
+void DemoHostServer::MakeServer(QTcpServer* server) {
+  delete server_;
+  server_ = server;
+  // A TLS server queues a connection once its handshake is done.
+  connect(server_, &QTcpServer::pendingConnectionAvailable, this, &DemoHostServer::OnNewConnection);
+}
+
+bool DemoHostServer::UseTls(const QString& certificate_file, const QString& key_file) {
+  const QList<QSslCertificate> chain = QSslCertificate::fromPath(certificate_file, QSsl::Pem);
+  QFile key_in(key_file);
+  QSslKey key;
+  if (key_in.open(QIODevice::ReadOnly)) {
+    const QByteArray pem = key_in.readAll();
+    key = QSslKey(pem, QSsl::Rsa, QSsl::Pem);
+    if (key.isNull()) key = QSslKey(pem, QSsl::Ec, QSsl::Pem);
+  }
+  if (chain.isEmpty() || key.isNull()) {
+    tls_error_ = chain.isEmpty() ? QStringLiteral("no PEM certificate in %1").arg(certificate_file)
+                                 : QStringLiteral("no PEM private key in %1").arg(key_file);
+    return false;
+  }
+  QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+  configuration.setProtocol(QSsl::TlsV1_2OrLater);
+  configuration.setLocalCertificateChain(chain);
+  configuration.setPrivateKey(key);
+  configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+  auto* server = new QSslServer(this);
+  server->setSslConfiguration(configuration);
+  connect(server, &QSslServer::errorOccurred, this,
+          [this](QSslSocket*, QAbstractSocket::SocketError) {
+            Log(QStringLiteral("a station's TLS handshake failed"));
+          });
+  MakeServer(server);
+  return true;
 }
 
 DemoHostServer::~DemoHostServer() { Close(); }
@@ -35,7 +74,9 @@ bool DemoHostServer::Listen(quint16 port) {
 
 quint16 DemoHostServer::port() const { return server_->serverPort(); }
 
-QString DemoHostServer::error() const { return server_->errorString(); }
+QString DemoHostServer::error() const {
+  return tls_error_.isEmpty() ? server_->errorString() : tls_error_;
+}
 
 void DemoHostServer::Close() {
   server_->close();

@@ -34,6 +34,9 @@ class DemoHostServer : public QObject {
   void SetScript(std::vector<ScriptStep> steps, bool negotiate = true);
   void SetApplicationFactory(ApplicationFactory factory, bool negotiate = true);
 
+  // Serves Telnet over TLS with this certificate and private key (PEM files), from the next
+  // Listen on. False (with error()) when the files give no certificate or key.
+  bool UseTls(const QString& certificate_file, const QString& key_file);
   // Listens on 127.0.0.1; port 0 picks a free one. False (with error()) when it cannot.
   bool Listen(quint16 port = 0);
   quint16 port() const;
@@ -73,7 +76,10 @@ class DemoHostServer : public QObject {
   void Log(const QString& line);
   void Drop(QTcpSocket* socket);
 
-  QTcpServer* server_;
+  void MakeServer(QTcpServer* server);
+
+  QTcpServer* server_ = nullptr;
+  QString tls_error_;
   ApplicationFactory factory_;
   bool negotiate_ = true;
   int idle_limit_ms_ = 15 * 60 * 1000;
