@@ -14,7 +14,7 @@
 
 #include "cli/download_request.h"
 #include "download/download_link_qt.h"
-#include "shell/summary_json.h"
+#include "resources/json_writer.h"
 
 namespace veltrix::cli {
 namespace {
@@ -211,10 +211,17 @@ int Run(const DownloadRequest& request, CliIo& io) {
   if (request.json) {
     auto object = [&](const std::string& address, const std::string& result, double seconds,
                       int acknowledged) {
-      io.out << "{\"address\": " << JsonString(address) << ", \"result\": " << JsonString(result)
-             << ", \"seconds\": " << Seconds(seconds, false) << ", \""
-             << (request.kind == DownloadKind::kSettings ? "blocks" : "frames")
-             << "\": " << acknowledged << "}\n";
+      io.out << JsonWriter()
+                    .Object()
+                    .Field("address", address)
+                    .Field("result", result)
+                    .Key("seconds")
+                    .Literal(Seconds(seconds, false))
+                    .Field(request.kind == DownloadKind::kSettings ? "blocks" : "frames",
+                           acknowledged)
+                    .End()
+                    .text()
+             << '\n';
     };
     for (const Terminal& t : terminals) object(t.peer, t.outcome, t.seconds, t.acknowledged);
     for (const std::string& address : refused) object(address, kRefusedText, 0, 0);

@@ -10,10 +10,10 @@
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
 #include "cli/settings_input.h"
+#include "resources/json_writer.h"
 #include "settings/atomic_file.h"
 #include "settings/field.h"
 #include "settings/screen/screen_pages.h"
-#include "shell/summary_json.h"
 #include "tn5250/display_text.h"
 
 namespace veltrix::cli {
@@ -74,7 +74,7 @@ std::optional<LoadedScreens> LoadScreens(const std::string& path, CliIo& io, con
   }
   if (error == kVersionErrorMessage) {
     // The program's own message on standard output; an unreadable input exits 2 as any other.
-    io.out << (json ? "{\"error\": " + JsonString(error) + "}" : error) << '\n';
+    io.out << (json ? JsonWriter().Object().Field("error", error).End().text() : error) << '\n';
   }
   exit_code = Fail(io, std::string(command) + ": " + error);
   return std::nullopt;
@@ -87,14 +87,15 @@ std::string RunText(const CellRun& run) {
   return std::string(kShapes[run.strategy]).append(" from ").append(CellText(run.start));
 }
 
-// A run's fields of a JSON object, the object left open.
-std::string RunJson(const CellRun& run) {
-  return std::string("{\"strategy\": ")
-      .append(std::to_string(run.strategy))
-      .append(", \"row\": ")
-      .append(std::to_string(run.start.row + 1))
-      .append(", \"column\": ")
-      .append(std::to_string(run.start.column + 1));
+// A run's fields, in the object open.
+void RunFields(const CellRun& run, JsonWriter& json) {
+  json.Field("strategy", run.strategy)
+      .Field("row", run.start.row + 1)
+      .Field("column", run.start.column + 1);
+}
+
+void CellJson(const ScreenCell& cell, JsonWriter& json) {
+  json.Array().Value(cell.row + 1).Value(cell.column + 1).End();
 }
 
 void PrintExplanationText(const Explanation& why, std::ostream& out) {
@@ -144,62 +145,51 @@ void PrintExplanationText(const Explanation& why, std::ostream& out) {
   }
 }
 
-std::string ExplanationJson(const Explanation& why) {
-  std::string out = "{\"told_apart\": [";
-  for (std::size_t i = 0; i < why.told_apart.size(); ++i) {
-    const PairDistinction& d = why.told_apart[i];
-    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a + 1) +
-           ", \"b\": " + std::to_string(d.b + 1) + ", \"row\": " + std::to_string(d.cell.row + 1) +
-           ", \"column\": " + std::to_string(d.cell.column + 1) + ", \"first\": \"" +
-           Hex({&d.first, 1}) + "\", \"second\": \"" + Hex({&d.second, 1}) + "\"}";
+void ExplanationJson(const Explanation& why, JsonWriter& json) {
+  json.Object().Key("told_apart").Array();
+  for (const PairDistinction& d : why.told_apart) {
+    json.Object()
+        .Field("a", d.a + 1)
+        .Field("b", d.b + 1)
+        .Field("row", d.cell.row + 1)
+        .Field("column", d.cell.column + 1)
+        .Field("first", Hex({&d.first, 1}))
+        .Field("second", Hex({&d.second, 1}))
+        .End();
   }
-  out += "], \"inseparable\": [";
-  for (std::size_t i = 0; i < why.inseparable.size(); ++i) {
-    const PairDifference& d = why.inseparable[i];
-    out += (i ? ", " : "") + std::string("{\"a\": ") + std::to_string(d.a + 1) +
-           ", \"b\": " + std::to_string(d.b + 1) + ", \"cells\": [";
-    for (std::size_t j = 0; j < d.cells.size(); ++j) {
-      out += (j ? ", [" : "[") + std::to_string(d.cells[j].row + 1) + ", " +
-             std::to_string(d.cells[j].column + 1) + "]";
-    }
-    out += "]}";
+  json.End().Key("inseparable").Array();
+  for (const PairDifference& d : why.inseparable) {
+    json.Object().Field("a", d.a + 1).Field("b", d.b + 1).Key("cells").Array();
+    for (const ScreenCell& cell : d.cells) CellJson(cell, json);
+    json.End().End();
   }
-  out += "], \"runs\": [";
-  for (std::size_t i = 0; i < why.runs.size(); ++i) {
-    const RunConflicts& r = why.runs[i];
-    out.append(i ? ", " : "").append(RunJson(r.run)).append(", \"pairs\": [");
-    for (std::size_t j = 0; j < r.pairs.size(); ++j) {
-      out.append(j ? ", [" : "[")
-          .append(std::to_string(r.pairs[j].first + 1))
-          .append(", ")
-          .append(std::to_string(r.pairs[j].second + 1))
-          .append("]");
-    }
-    out += "]}";
+  json.End().Key("runs").Array();
+  for (const RunConflicts& r : why.runs) {
+    json.Object();
+    RunFields(r.run, json);
+    json.Key("pairs").Array();
+    for (const auto& [a, b] : r.pairs) json.Array().Value(a + 1).Value(b + 1).End();
+    json.End().End();
   }
-  out += "], \"drop\": [";
-  for (std::size_t i = 0; i < why.drop.size(); ++i) {
-    out.append(i ? ", " : "").append(std::to_string(why.drop[i] + 1));
+  json.End().Key("drop").Array();
+  for (const int screen : why.drop) json.Value(screen + 1);
+  json.End();
+  if (!why.drop.empty()) {
+    json.Key("drop_run").Object();
+    RunFields(why.drop_run, json);
+    json.End();
   }
-  out += "]";
-  if (!why.drop.empty()) out.append(", \"drop_run\": ").append(RunJson(why.drop_run)).append("}");
-  out += ", \"fragile\": [";
-  for (std::size_t i = 0; i < why.fragile.size(); ++i) {
-    const FragileCell& f = why.fragile[i];
-    out.append(i ? ", " : "")
-        .append("{\"row\": ")
-        .append(std::to_string(f.cell.row + 1))
-        .append(", \"column\": ")
-        .append(std::to_string(f.cell.column + 1))
-        .append(", \"input_field\": ")
-        .append(f.in_input_field ? "true" : "false")
-        .append(", \"message_line\": ")
-        .append(f.on_message_line ? "true" : "false")
-        .append(", \"blank_in_a_page\": ")
-        .append(f.blank_in_a_page ? "true" : "false")
-        .append("}");
+  json.Key("fragile").Array();
+  for (const FragileCell& f : why.fragile) {
+    json.Object()
+        .Field("row", f.cell.row + 1)
+        .Field("column", f.cell.column + 1)
+        .Field("input_field", f.in_input_field)
+        .Field("message_line", f.on_message_line)
+        .Field("blank_in_a_page", f.blank_in_a_page)
+        .End();
   }
-  return out + "]}";
+  json.End().End();
 }
 
 // The screens "1,3-5" names, counted from 1; nothing when the list is not of that form or names
@@ -283,39 +273,44 @@ int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
     return Fail(io, "screens: --keep and --append go with --out NEW.SCR");
   }
   const HostScreenSize size = kHostScreen;
-  if (json) io.out << "{\"screens\": [";
+  JsonWriter out;
+  out.Object().Key("screens").Array();
   for (std::size_t s = 0; s < loaded->screens.size(); ++s) {
     const PageRecord& page = loaded->screens[s];
-    if (json) {
-      io.out << (s ? ", " : "") << "{\"rows\": [";
-      for (int r = 0; r < size.rows; ++r)
-        io.out << (r ? ", " : "") << JsonString(RowBytes(page, r, size.columns));
-      io.out << "], \"fields\": [";
-    } else {
-      io.out << "screen " << s + 1 << '\n';
-      for (int r = 0; r < size.rows; ++r) io.out << RowText(page, r, size.columns) << '\n';
-    }
     const std::vector<FieldEntry> fields = FieldEntries(page);
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-      const FieldEntry& f = fields[i];
-      const std::uint8_t ffw[] = {f.format1, f.format2};
-      if (json) {
+    if (json) {
+      out.Object().Key("rows").Array();
+      for (int r = 0; r < size.rows; ++r) out.Bytes(RowBytes(page, r, size.columns));
+      out.End().Key("fields").Array();
+      for (const FieldEntry& f : fields) {
+        const std::uint8_t ffw[] = {f.format1, f.format2};
         const std::uint8_t fcw[] = {f.control1, f.control2};
-        io.out << (i ? ", " : "") << "{\"number\": " << f.number
-               << ", \"resequence\": " << f.resequence << ", \"row\": " << f.row + 1
-               << ", \"column\": " << f.column + 1 << ", \"length\": " << f.length
-               << ", \"ffw\": \"" << Hex(ffw) << "\", \"fcw\": \"" << Hex(fcw)
-               << "\", \"attribute\": \"" << Hex({&f.attribute, 1}) << "\", \"next\": " << f.next
-               << ", \"previous\": " << f.previous << "}";
-      } else {
-        io.out << "field number=" << f.number << " row=" << f.row + 1 << " column=" << f.column + 1
-               << " length=" << f.length << " ffw=" << Hex(ffw)
-               << " attribute=" << Hex({&f.attribute, 1}) << '\n';
+        out.Object()
+            .Field("number", f.number)
+            .Field("resequence", f.resequence)
+            .Field("row", f.row + 1)
+            .Field("column", f.column + 1)
+            .Field("length", f.length)
+            .Field("ffw", Hex(ffw))
+            .Field("fcw", Hex(fcw))
+            .Field("attribute", Hex({&f.attribute, 1}))
+            .Field("next", f.next)
+            .Field("previous", f.previous)
+            .End();
       }
+      out.End().End();
+      continue;
     }
-    if (json) io.out << "]}";
+    io.out << "screen " << s + 1 << '\n';
+    for (int r = 0; r < size.rows; ++r) io.out << RowText(page, r, size.columns) << '\n';
+    for (const FieldEntry& f : fields) {
+      const std::uint8_t ffw[] = {f.format1, f.format2};
+      io.out << "field number=" << f.number << " row=" << f.row + 1 << " column=" << f.column + 1
+             << " length=" << f.length << " ffw=" << Hex(ffw)
+             << " attribute=" << Hex({&f.attribute, 1}) << '\n';
+    }
   }
-  if (json) io.out << "]}\n";
+  if (json) io.out << out.End().End().text() << '\n';
   return kExitOk;
 }
 
@@ -348,9 +343,10 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
       explain ? ExplainIdentification(loaded->screens, k, size, id) : Explanation{};
   if (!id.ok) {
     if (json) {
-      io.out << "{\"error\": " << JsonString(kIdentifyFailedMessage);
-      if (explain) io.out << ", \"explain\": " << ExplanationJson(why);
-      io.out << "}\n";
+      JsonWriter out;
+      out.Object().Field("error", kIdentifyFailedMessage);
+      if (explain) ExplanationJson(why, out.Key("explain"));
+      io.out << out.End().text() << '\n';
     } else {
       io.out << kIdentifyFailedMessage << '\n';
       if (explain) PrintExplanationText(why, io.out);
@@ -358,29 +354,21 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
     return kExitDiffers;
   }
   if (json) {
-    io.out << "{\"pages\": [";
-    for (std::size_t i = 0; i < id.pages.size(); ++i) io.out << (i ? ", " : "") << id.pages[i] + 1;
-    io.out << "], \"duplicates\": [";
-    bool first = true;
+    JsonWriter out;
+    out.Object().Key("pages").Array();
+    for (const int page : id.pages) out.Value(page + 1);
+    out.End().Key("duplicates").Array();
     for (std::size_t b = 0; b < id.duplicate_of.size(); ++b) {
       if (id.duplicate_of[b] < 0) continue;
-      io.out << (first ? "" : ", ") << "{\"screen\": " << b + 1
-             << ", \"of\": " << id.duplicate_of[b] + 1 << "}";
-      first = false;
+      out.Object().Field("screen", b + 1).Field("of", id.duplicate_of[b] + 1).End();
     }
-    io.out << "], \"strategy\": " << id.run.strategy << ", \"cells\": [";
-    for (std::size_t j = 0; j < id.cells.size(); ++j) {
-      io.out << (j ? ", " : "") << "[" << id.cells[j].row + 1 << ", " << id.cells[j].column + 1
-             << "]";
-    }
-    io.out << "], \"strings\": [";
-    for (std::size_t i = 0; i < id.pages.size(); ++i) {
-      io.out << (i ? ", " : "") << "\"" << Hex(id.strings[static_cast<std::size_t>(id.pages[i])])
-             << "\"";
-    }
-    io.out << "]";
-    if (explain) io.out << ", \"explain\": " << ExplanationJson(why);
-    io.out << "}\n";
+    out.End().Field("strategy", id.run.strategy).Key("cells").Array();
+    for (const ScreenCell& cell : id.cells) CellJson(cell, out);
+    out.End().Key("strings").Array();
+    for (const int page : id.pages) out.Value(Hex(id.strings[static_cast<std::size_t>(page)]));
+    out.End();
+    if (explain) ExplanationJson(why, out.Key("explain"));
+    io.out << out.End().text() << '\n';
   } else {
     io.out << loaded->screens.size() << " screens, " << id.pages.size() << " pages; "
            << kShapes[id.run.strategy] << " from " << CellText(id.run.start) << '\n';
@@ -419,21 +407,24 @@ int RunCheckCommand(std::span<const std::string> args, CliIo& io) {
   if (!loaded) return exit_code;
   const std::vector<ScreenCheck> checks = CheckScreens(*doc, loaded->screens);
   bool all_ok = true;
-  if (json) io.out << "{\"screens\": [";
+  JsonWriter out;
+  out.Object().Key("screens").Array();
   for (std::size_t s = 0; s < checks.size(); ++s) {
     const ScreenCheck& c = checks[s];
     all_ok = all_ok && c.ok();
     // Screens, pages, lines, rows and columns are counted from 1, as the window shows them.
     if (json) {
-      io.out << (s ? ", " : "") << "{\"screen\": " << s + 1 << ", \"pages\": [";
-      for (std::size_t i = 0; i < c.pages.size(); ++i) io.out << (i ? ", " : "") << c.pages[i] + 1;
-      io.out << "], \"missing\": [";
-      for (std::size_t i = 0; i < c.missing.size(); ++i) {
-        const MissingField& m = c.missing[i];
-        io.out << (i ? ", " : "") << "{\"line\": " << m.line + 1 << ", \"row\": " << m.row + 1
-               << ", \"column\": " << m.column + 1 << "}";
+      out.Object().Field("screen", s + 1).Key("pages").Array();
+      for (const int page : c.pages) out.Value(page + 1);
+      out.End().Key("missing").Array();
+      for (const MissingField& m : c.missing) {
+        out.Object()
+            .Field("line", m.line + 1)
+            .Field("row", m.row + 1)
+            .Field("column", m.column + 1)
+            .End();
       }
-      io.out << "], \"ok\": " << (c.ok() ? "true" : "false") << "}";
+      out.End().Field("ok", c.ok()).End();
       continue;
     }
     io.out << "screen " << s + 1 << ": ";
@@ -449,7 +440,7 @@ int RunCheckCommand(std::span<const std::string> args, CliIo& io) {
              << " column " << m.column + 1 << ", which this screen does not have\n";
     }
   }
-  if (json) io.out << "], \"ok\": " << (all_ok ? "true" : "false") << "}\n";
+  if (json) io.out << out.End().Field("ok", all_ok).End().text() << '\n';
   return all_ok ? kExitOk : kExitDiffers;
 }
 

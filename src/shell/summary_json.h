@@ -2,7 +2,6 @@
 #define VELTRIX_SHELL_SUMMARY_JSON_H_
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "settings/summary_node.h"
@@ -13,9 +12,6 @@ namespace veltrix {
 // The output is plain ASCII: control characters and bytes from 128 up (the terminal's single-byte
 // characters) are written as \u00XX escapes, so it is valid JSON whatever the record holds.
 std::string RenderSummaryJson(const std::vector<SummaryNode>& nodes);
-
-// `text` as a JSON string literal, quotes included.
-std::string JsonString(std::string_view text);
 
 }  // namespace veltrix
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "resources/json_writer.h"
 #include "tn5250/display_text.h"
 #include "tn5250/double_byte.h"
 
@@ -52,27 +53,6 @@ std::string Hex2(unsigned v) {
 }
 
 std::string Hex4(unsigned hi, unsigned lo) { return Hex2(hi) + Hex2(lo); }
-
-void AppendJsonString(std::string& out, std::string_view text) {
-  out += '"';
-  for (unsigned char c : text) {
-    if (c == '"' || c == '\\') {
-      out += '\\';
-      out += static_cast<char>(c);
-    } else if (c == '\r') {
-      out += "\\r";
-    } else if (c == '\n') {
-      out += "\\n";
-    } else if (c < 0x20) {
-      char buf[8];
-      std::snprintf(buf, sizeof buf, "\\u%04X", c);
-      out += buf;
-    } else {
-      out += static_cast<char>(c);
-    }
-  }
-  out += '"';
-}
 
 // "SbaParameterError at 12": the code's name and the record byte where the engine noticed it.
 std::string TraceLine(const TraceEvent& event) {
@@ -217,54 +197,51 @@ std::string ReplayRun::Text() const {
 std::string ReplayRun::Json() const {
   const PresentationSpace& ps = session_.Screen();
   const int language = session_.Config().emulation_type;
-  std::string out = "{\"rows\":" + std::to_string(ps.Rows()) +
-                    ",\"columns\":" + std::to_string(ps.Columns()) +
-                    ",\"cursor\":{\"row\":" + std::to_string(ps.CursorRow()) +
-                    ",\"column\":" + std::to_string(ps.CursorColumn()) + "},\"screen\":[";
-  for (int row = 0; row < ps.Rows(); ++row) {
-    if (row > 0) out += ',';
-    AppendJsonString(out, ScreenRowText(ps, language, row));
-  }
-  const auto plane_rows = [&](bool attributes) {
-    std::string rows = "[";
+  JsonWriter json;
+  json.Object().Field("rows", ps.Rows()).Field("columns", ps.Columns());
+  json.Key("cursor").Object().Field("row", ps.CursorRow()).Field("column", ps.CursorColumn()).End();
+  json.Key("screen").Array();
+  for (int row = 0; row < ps.Rows(); ++row) json.Value(ScreenRowText(ps, language, row));
+  json.End();
+  for (const bool attributes : {false, true}) {
+    json.Key(attributes ? "attributes" : "cells").Array();
     for (int row = 0; row < ps.Rows(); ++row) {
-      if (row > 0) rows += ',';
-      rows += '"';
+      std::string hex;
       for (int column = 0; column < ps.Columns(); ++column) {
-        rows += Hex2(attributes ? ps.Attribute(row, column) : ps.Character(row, column));
+        hex += Hex2(attributes ? ps.Attribute(row, column) : ps.Character(row, column));
       }
-      rows += '"';
+      json.Value(hex);
     }
-    return rows + "]";
-  };
-  out += "],\"cells\":" + plane_rows(false) + ",\"attributes\":" + plane_rows(true);
-  out += ",\"fields\":[";
-  bool first = true;
+    json.End();
+  }
+  json.Key("fields").Array();
   for (const FieldRecord& f : session_.Fields().Records()) {
-    if (!first) out += ',';
-    first = false;
-    out += "{\"number\":" + std::to_string(f.number) +
-           ",\"resequence\":" + std::to_string(f.resequence) + ",\"row\":" + std::to_string(f.row) +
-           ",\"column\":" + std::to_string(f.column) + ",\"length\":" + std::to_string(f.length) +
-           ",\"ffw\":\"" + Hex4(f.format1, f.format2) + "\",\"fcw\":\"" +
-           Hex4(f.control1, f.control2) + "\",\"attribute\":\"" + Hex2(f.attribute) + "\"}";
+    json.Object()
+        .Field("number", f.number)
+        .Field("resequence", f.resequence)
+        .Field("row", f.row)
+        .Field("column", f.column)
+        .Field("length", f.length)
+        .Field("ffw", Hex4(f.format1, f.format2))
+        .Field("fcw", Hex4(f.control1, f.control2))
+        .Field("attribute", Hex2(f.attribute))
+        .End();
   }
-  out += "],\"keyboard_locked\":";
-  out += session_.KeyboardLocked() ? "true" : "false";
-  out += ",\"read_mode\":" + std::to_string(static_cast<int>(session_.CurrentReadMode()));
-  out += ",\"sent\":\"";
-  for (std::uint8_t b : sent_) out += Hex2(b);
-  out += "\",\"trace\":[";
-  for (std::size_t i = 0; i < traces_.size(); ++i) {
-    if (i > 0) out += ',';
-    out += "{\"code\":";
-    AppendJsonString(out, TraceName(traces_[i].code));
-    out += ",\"offset\":" + std::to_string(traces_[i].offset) + ",\"text\":";
-    AppendJsonString(out, TraceText(traces_[i].code));
-    out += '}';
+  json.End();
+  json.Field("keyboard_locked", session_.KeyboardLocked())
+      .Field("read_mode", static_cast<int>(session_.CurrentReadMode()));
+  std::string sent;
+  for (std::uint8_t b : sent_) sent += Hex2(b);
+  json.Field("sent", sent).Key("trace").Array();
+  for (const TraceEvent& t : traces_) {
+    json.Object()
+        .Field("code", TraceName(t.code))
+        .Field("offset", t.offset)
+        .Field("text", TraceText(t.code))
+        .End();
   }
-  out += "]}\n";
-  return out;
+  json.End().End();
+  return json.text() + "\n";
 }
 
 }  // namespace veltrix

@@ -499,7 +499,7 @@ void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
   QVERIFY(log().contains(secret_hex));
   out = run({"identify", "four.SCR", "--json"}, code);
   QCOMPARE(code, 0);
-  QVERIFY2(out.startsWith("{\"pages\": [1, 2, 3, 4]"), qPrintable(out));
+  QVERIFY2(out.startsWith("{\"pages\":[1,2,3,4]"), qPrintable(out));
 
   // An error answer (keyboard locked, message on the error line) counts as an answer: the error
   // screen is captured, and <Reset> frees the keyboard.

@@ -196,7 +196,7 @@ void DownloadTest::fleetOfTwoHundredOverTcp() {
   }
   QCOMPARE(completed, 200);
   QCOMPARE(addresses.size(), 201);
-  QVERIFY(run.out.contains("\"result\": \"Refused: no download was waiting for this terminal\""));
+  QVERIFY(run.out.contains("\"result\":\"Refused: no download was waiting for this terminal\""));
   QFile sent(settings_);
   QVERIFY(sent.open(QIODevice::ReadOnly));
   const QByteArray record = sent.read(kRecordSize);
