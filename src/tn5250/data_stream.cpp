@@ -167,13 +167,11 @@ void DataStreamInterpreter::HeaderByte(std::uint8_t b) {
   }
 }
 
-bool DataStreamInterpreter::ResolveLength(int length, int info) {
-  const int n = -length;
-  const int m = info < 0 ? -info : info;
-  if (item_count_ < n + m) return false;
-  int v = 0;
-  for (int i = 0; i < m; ++i) v = (v << 8) | item_[n + i];
-  expected_ = v + n + (info < 0 ? m : 0);
+bool DataStreamInterpreter::ResolveLength(const LengthField& field) {
+  if (item_count_ < field.offset + field.bytes) return false;
+  int value = 0;
+  for (int i = 0; i < field.bytes; ++i) value = (value << 8) | item_[field.offset + i];
+  expected_ = field.offset + value + (field.counts_itself ? 0 : field.bytes);
   return true;
 }
 
@@ -213,7 +211,7 @@ void DataStreamInterpreter::CommandByte(std::uint8_t b) {
   }
   if (expected_ < 0) {
     const StreamItem* entry = FindCommand(item_[0]);
-    if (entry == nullptr || !ResolveLength(entry->length, entry->info)) return;
+    if (entry == nullptr || !ResolveLength(entry->field)) return;
   }
   if (item_count_ >= expected_) ExecuteCommand();
 }
@@ -248,7 +246,7 @@ void DataStreamInterpreter::OrderByte(std::uint8_t b) {
       ResolveStartOfField();
     } else {
       const StreamItem* entry = FindOrder(item_[0]);
-      if (entry != nullptr) ResolveLength(entry->length, entry->info);
+      if (entry != nullptr) ResolveLength(entry->field);
     }
     if (expected_ < 0) return;
   }
@@ -407,12 +405,12 @@ void DataStreamInterpreter::DoControlCharacters(std::uint8_t cc1, std::uint8_t c
       }
     }
   }
-  host_.move_cursor = (cc2 & 0x40) == 0;
+  host_.move_cursor = (cc2 & kCc2NoCursorMove) == 0;
   if (cc2 & 0x08) {
     Trace(TraceCode::kResetAid);
     host_.SetKeyboardLocked(false);
   }
-  if (cc2 & 0x04) host_.SoundAlarm();
+  if (cc2 & kCc2Alarm) host_.SoundAlarm();
   // The message-waiting indicator: 0x01 turns it on, 0x02 off. The terminal shows it beside the
   // screen, so a change counts as a screen change.
   const bool waiting = (cc2 & 0x02) == 0 && ((cc2 & 0x01) != 0 || host_.message_waiting);

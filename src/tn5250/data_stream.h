@@ -7,14 +7,13 @@
 
 #include "tn5250/host_context.h"
 #include "tn5250/inbound_records.h"
+#include "tn5250/stream_items.h"
 
 namespace veltrix {
 
 // A record never exceeds the 16-bit length in its header, so an item buffer of that size takes
 // any command or order whole; nothing the host sends is cut or can overflow it.
 inline constexpr int kItemCapacity = 65535;
-inline constexpr int kRecordHeaderLength = 10;
-inline constexpr std::uint8_t kEscape = 0x04;
 
 // The 5250 data stream interpreter (`ProcessHostByte`): cuts the stream into records by their
 // length, the records into commands and Write to Display into orders and characters, and
@@ -60,7 +59,7 @@ class DataStreamInterpreter {
   void DataByte(std::uint8_t b);
   void Store(std::uint8_t b);
   std::span<const std::uint8_t> Item() const;
-  bool ResolveLength(int length, int info);
+  bool ResolveLength(const LengthField& field);
   void ResolveStartOfField();
   void ExecuteCommand();
   void ExecuteOrder();

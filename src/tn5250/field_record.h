@@ -8,7 +8,8 @@ namespace veltrix {
 
 inline constexpr int kFieldRecordSize = 24;
 
-// Field format word, byte 1.
+// Field format word, byte 1: bits 7-6 01 mark a format word.
+inline constexpr std::uint8_t kFfwBase = 0x40;
 inline constexpr std::uint8_t kFfwBypass = 0x20;
 inline constexpr std::uint8_t kFfwModified = 0x08;
 inline constexpr std::uint8_t kFfwShiftMask = 0x07;

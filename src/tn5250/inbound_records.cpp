@@ -10,8 +10,9 @@ namespace veltrix {
 
 namespace {
 
-constexpr std::array<std::uint8_t, 10> kHeader = {0x00, 0x00, 0x12, 0xA0, 0x00,
-                                                  0x00, 0x04, 0x00, 0x00, 0x03};
+constexpr std::array<std::uint8_t, kRecordHeaderLength> kHeader = {
+    0x00, 0x00, kRecordType1, kRecordType2, 0x00, 0x00, kVariableHeaderLength,
+    0x00, 0x00, kOpcodePutGet};
 constexpr std::uint8_t kMinus = '-';
 constexpr std::uint8_t kBlank = 0x20;
 constexpr std::uint8_t kShiftOut = 0x0E;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tn5250/host_context.h"
+#include "tn5250/stream_codes.h"
 
 namespace veltrix {
 
@@ -17,11 +18,6 @@ struct FieldDataOptions {
   bool nul_as_blank = false;
   bool sign = false;  // a negative signed numeric field sends its last digit with zone 0xD
 };
-
-inline constexpr std::uint8_t kAidEnter = 0xF1;
-inline constexpr std::uint8_t kAidRollDown = 0xF4;
-inline constexpr std::uint8_t kAidRollUp = 0xF5;
-inline constexpr std::uint8_t kAidStructuredField = 0x88;
 
 // Builds the records the terminal sends to the host and hands them to the output, which adds
 // IAC EOR. The record buffer is kept between records.

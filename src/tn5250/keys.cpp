@@ -1,5 +1,7 @@
 #include "tn5250/keys.h"
 
+#include "tn5250/stream_codes.h"
+
 namespace veltrix {
 
 namespace {
@@ -44,11 +46,11 @@ std::uint8_t FunctionToAid(KeyFunction function) {
   if (n >= 13) return static_cast<std::uint8_t>(0xB0 + n - 12);
   switch (function) {
     case KeyFunction::kEnter:
-      return 0xF1;
+      return kAidEnter;
     case KeyFunction::kRollDown:
-      return 0xF4;
+      return kAidRollDown;
     case KeyFunction::kRollUp:
-      return 0xF5;
+      return kAidRollUp;
     default:
       return 0;
   }

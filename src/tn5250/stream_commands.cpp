@@ -107,7 +107,8 @@ void WriteErrorCodeToWindow(DataStreamInterpreter& s, Item item) {
 }
 
 void WriteStructuredField(DataStreamInterpreter& s, Item item) {
-  static constexpr std::array<std::uint8_t, 6> kQuery = {0xF3, 0x00, 0x05, 0xD9, 0x70, 0x00};
+  static constexpr std::array<std::uint8_t, 6> kQuery = {
+      kCmdWriteStructuredField, 0x00, 0x05, 0xD9, 0x70, 0x00};
   if (item.size() >= kQuery.size() && std::equal(kQuery.begin(), kQuery.end(), item.begin())) {
     s.inbound().SendQueryReply();
   }
@@ -115,31 +116,34 @@ void WriteStructuredField(DataStreamInterpreter& s, Item item) {
 
 // In the terminal's order; null handlers take the item and drop it.
 constexpr std::array<StreamItem, 25> kCommands = {{
-    {0x40, ClearUnit, 1, 0},
-    {0x20, ClearUnitAlternate, 2, 0},
-    {0x50, ClearFormatTable, 1, 0},
-    {0x11, WriteToDisplay, 3, 0},
-    {0x21, WriteErrorCode, kToNextEscape, 0},
-    {0x22, WriteErrorCodeToWindow, kToNextEscape, 0},
-    {0x42, ReadInputFields, 3, 0},
-    {0x52, ReadMdtFields, 3, 0},
-    {0x82, ReadMdtAlternate, 3, 0},
-    {0x72, ReadImmediate, 1, 0},
-    {0x83, ReadImmediateAlternate, 1, 0},
-    {0x62, ReadScreen, 1, 0},
-    {0x64, nullptr, 1, 0},
-    {0x66, nullptr, 1, 0},
-    {0x68, nullptr, 1, 0},
-    {0x6A, nullptr, 1, 0},
-    {0x6C, nullptr, 1, 0},
-    {0x02, ReadScreen, 1, 0},          // Save Screen is answered as Read Screen
-    {0x03, nullptr, 6, 0},             // Save Partial Screen
-    {0x12, nullptr, kToRecordEnd, 0},  // Restore Screen
-    {0x13, nullptr, -2, 2},            // Restore Partial Screen
-    {0x23, nullptr, 4, 0},             // Roll
-    {0xF3, WriteStructuredField, kToRecordEnd, 0},
-    {0xF4, nullptr, -1, 2},
-    {0x16, nullptr, 3, 0},
+    {kCmdClearUnit, ClearUnit, 1},
+    {kCmdClearUnitAlternate, ClearUnitAlternate, 2},
+    {kCmdClearFormatTable, ClearFormatTable, 1},
+    {kCmdWriteToDisplay, WriteToDisplay, 3},
+    {kCmdWriteErrorCode, WriteErrorCode, kToNextEscape},
+    {kCmdWriteErrorCodeToWindow, WriteErrorCodeToWindow, kToNextEscape},
+    {kCmdReadInputFields, ReadInputFields, 3},
+    {kCmdReadMdtFields, ReadMdtFields, 3},
+    {kCmdReadMdtAlternate, ReadMdtAlternate, 3},
+    {kCmdReadImmediate, ReadImmediate, 1},
+    {kCmdReadImmediateAlternate, ReadImmediateAlternate, 1},
+    {kCmdReadScreen, ReadScreen, 1},
+    {0x64, nullptr, 1},
+    {0x66, nullptr, 1},
+    {0x68, nullptr, 1},
+    {0x6A, nullptr, 1},
+    {0x6C, nullptr, 1},
+    {kCmdSaveScreen, ReadScreen, 1},             // Save Screen is answered as Read Screen
+    {kCmdSavePartialScreen, nullptr, 6},         // Save Partial Screen
+    {kCmdRestoreScreen, nullptr, kToRecordEnd},  // Restore Screen
+    {kCmdRestorePartialScreen,
+     nullptr,
+     kLengthField,
+     {.offset = 2, .bytes = 2}},  // Restore Partial Screen
+    {kCmdRoll, nullptr, 4},       // Roll
+    {kCmdWriteStructuredField, WriteStructuredField, kToRecordEnd},
+    {kCmdWriteSingleStructuredField, nullptr, kLengthField, {.offset = 1, .bytes = 2}},
+    {0x16, nullptr, 3},
 }};
 
 template <std::size_t N>

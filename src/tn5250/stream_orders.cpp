@@ -169,16 +169,23 @@ void StartOfField(DataStreamInterpreter& s, Item item) {
 }
 
 constexpr std::array<StreamItem, 10> kOrders = {{
-    {0x11, SetBufferAddress, 3, 0},
-    {0x13, InsertCursor, 3, 0},
-    {0x14, MoveCursor, 3, 0},
-    {0x02, RepeatToAddress, 4, 0},
-    {0x03, EraseToAddress, -3, 1},
-    {0x01, StartOfHeader, -1, -1},
-    {0x10, TransparentData, -1, 2},
-    {0x12, WriteExtendedAttribute, 3, 0},
-    {0x1D, StartOfField, -1, 0},  // its own length rule
-    {0x15, nullptr, -1, 2},       // Write to Display Structured Field
+    {kOrderSetBufferAddress, SetBufferAddress, 3},
+    {kOrderInsertCursor, InsertCursor, 3},
+    {kOrderMoveCursor, MoveCursor, 3},
+    {kOrderRepeatToAddress, RepeatToAddress, 4},
+    {kOrderEraseToAddress, EraseToAddress, kLengthField, {.offset = 3, .bytes = 1}},
+    {kOrderStartOfHeader,
+     StartOfHeader,
+     kLengthField,
+     {.offset = 1, .bytes = 1, .counts_itself = false}},
+    {kOrderTransparentData, TransparentData, kLengthField, {.offset = 1, .bytes = 2}},
+    {kOrderWriteExtendedAttribute, WriteExtendedAttribute, 3},
+    {kOrderStartOfField, StartOfField,
+     kLengthField},  // its own length rule: the format words present
+    {kOrderWriteStructuredField,
+     nullptr,
+     kLengthField,
+     {.offset = 1, .bytes = 2}},  // Write to Display Structured Field
 }};
 
 constexpr std::array<std::int8_t, 256> MakeOrderIndex() {

@@ -21,6 +21,8 @@
 #include "tn5250/session.h"
 
 using namespace veltrix::demo_host;
+using veltrix::kAidEnter;
+using veltrix::kAidF3;
 
 namespace {
 

@@ -35,8 +35,8 @@ HostOutput Error(const std::string& message, FieldPosition field) {
 std::string AidName(std::uint8_t aid) {
   char name[16];
   if (aid == kAidEnter) return "Enter";
-  if (aid == kAidPageUp) return "Page Up";
-  if (aid == kAidPageDown) return "Page Down";
+  if (aid == kAidRollDown) return "Page Up";
+  if (aid == kAidRollUp) return "Page Down";
   if (aid >= 0x31 && aid <= 0x3C) {
     std::snprintf(name, sizeof name, "F%d", aid - 0x30);
   } else {
@@ -136,14 +136,14 @@ HostOutput DemoApplication::OnMenu(const InboundRecord& in) {
 
 HostOutput DemoApplication::OnList(const InboundRecord& in) {
   if (in.aid == kAidF3 || in.aid == kAidF12) return Show(Screen::kMenu);
-  if (in.aid == kAidPageDown) {
+  if (in.aid == kAidRollUp) {
     if (page_ + 1 >= ListPageCount()) {
       return Error("You are at the bottom of the list.", {kListFirstRow, kListOptionColumn, 1});
     }
     ++page_;
     return Show(Screen::kList);
   }
-  if (in.aid == kAidPageUp) {
+  if (in.aid == kAidRollDown) {
     if (page_ == 0) {
       return Error("You are at the top of the list.", {kListFirstRow, kListOptionColumn, 1});
     }

@@ -13,12 +13,12 @@ OutboundRecord NewScreen(std::string_view title) {
   OutboundRecord r;
   r.ClearUnit().WriteToDisplay(0x00, kCc2UnlockKeyboard);
   const int column = (kColumns - static_cast<int>(title.size())) / 2 + 1;
-  r.TextAt(1, column, title, kAttrHigh);
+  r.TextAt(1, column, title, kAttributeHigh);
   return r;
 }
 
 void MessageLine(OutboundRecord& r, std::string_view message) {
-  if (!message.empty()) r.TextAt(kRows, 2, message, kAttrHigh);
+  if (!message.empty()) r.TextAt(kRows, 2, message, kAttributeHigh);
 }
 
 std::vector<std::uint8_t> Finish(OutboundRecord& r, FieldPosition cursor) {
@@ -72,12 +72,12 @@ std::vector<std::uint8_t> SignOnScreen(std::string_view device_name, std::string
   r.TextAt(4, 48, "Display . . . . . :   ");
   r.Text(device_name.empty() ? std::string_view("DEMO0001") : device_name.substr(0, 10));
   r.TextAt(6, 17, "User  . . . . . . . . . . . . . .");
-  Field(r, kUserField, kFfwBase, kFfwMonocase, kAttrUnderline);
+  Field(r, kUserField, kFfwBase, kFfwMonocase, kAttributeUnderline);
   r.TextAt(7, 17, "Password  . . . . . . . . . . . .");
-  Field(r, kPasswordField, kFfwBase, 0x00, kAttrNonDisplay);
-  r.TextAt(10, 17, "Any user and password are accepted.", kAttrBlue);
+  Field(r, kPasswordField, kFfwBase, 0x00, kAttributeNonDisplay);
+  r.TextAt(10, 17, "Any user and password are accepted.", kAttributeBlue);
   if (!welcome.empty()) {
-    r.TextAt(12, 17, "", kAttrNormal);
+    r.TextAt(12, 17, "", kAttributeNormal);
     r.Raw(welcome);
   }
   r.TextAt(23, 2, "F3=Exit");
@@ -97,7 +97,7 @@ std::vector<std::uint8_t> MenuScreen(std::string_view user, std::string_view mes
   r.TextAt(8, 6, "90. Sign off");
   r.TextAt(20, 2, "Selection or command");
   r.TextAt(21, 2, "===>");
-  Field(r, kMenuOptionField, kFfwBase | kFfwDigitsOnly, 0x00, kAttrUnderline);
+  Field(r, kMenuOptionField, kFfwBase | kShiftDigits, 0x00, kAttributeUnderline);
   r.TextAt(23, 2, "F3=Exit   F12=Cancel");
   MessageLine(r, message);
   return Finish(r, kMenuOptionField);
@@ -106,14 +106,14 @@ std::vector<std::uint8_t> MenuScreen(std::string_view user, std::string_view mes
 std::vector<std::uint8_t> ItemListScreen(int page, std::string_view message) {
   OutboundRecord r = NewScreen("Work with Items");
   r.TextAt(3, 2, "Type options, press Enter.");
-  r.TextAt(4, 4, "5=Display", kAttrBlue);
-  r.TextAt(6, 2, "Opt  Item      Description            Quantity", kAttrHigh);
+  r.TextAt(4, 4, "5=Display", kAttributeBlue);
+  r.TextAt(6, 2, "Opt  Item      Description            Quantity", kAttributeHigh);
   const auto& items = DemoItems();
   for (int line = 0; line < kListLines; ++line) {
     const std::size_t index = static_cast<std::size_t>(page) * kListLines + line;
     if (index >= items.size()) break;
     const int row = kListFirstRow + line;
-    Field(r, {row, kListOptionColumn, 1}, kFfwBase, 0x00, kAttrUnderline);
+    Field(r, {row, kListOptionColumn, 1}, kFfwBase, 0x00, kAttributeUnderline);
     char text[64];
     std::snprintf(text, sizeof text, "%-8s  %-22s %5d", items[index].name.c_str(),
                   items[index].description.c_str(), items[index].quantity);
@@ -130,9 +130,9 @@ std::vector<std::uint8_t> QuantityScreen(std::string_view item, std::string_view
   OutboundRecord r = NewScreen("Enter a Quantity");
   r.TextAt(3, 2, "Type the item and a quantity from 1 to 9999, press Enter.");
   r.TextAt(5, 4, "Item  . . . . . . . . . . . .");
-  Field(r, kItemField, kFfwBase, kFfwMonocase, kAttrUnderline, item);
+  Field(r, kItemField, kFfwBase, kFfwMonocase, kAttributeUnderline, item);
   r.TextAt(6, 4, "Quantity  . . . . . . . . . .");
-  Field(r, kQuantityField, kFfwBase, 0x00, kAttrUnderline, quantity);
+  Field(r, kQuantityField, kFfwBase, 0x00, kAttributeUnderline, quantity);
   r.TextAt(23, 2, "F3=Exit   F5=Read fields   F12=Cancel");
   MessageLine(r, message);
   return Finish(r, kItemField);

@@ -13,7 +13,7 @@ namespace {
 // Checks the 10-byte header; the error names what is wrong and where.
 bool CheckHeader(std::span<const std::uint8_t> record, InboundRecord& out) {
   char message[96];
-  if (record.size() < static_cast<std::size_t>(kRecordHeaderSize)) {
+  if (record.size() < static_cast<std::size_t>(kRecordHeaderLength)) {
     std::snprintf(message, sizeof message, "record of %zu bytes is shorter than its header",
                   record.size());
     out.error = message;
@@ -64,11 +64,11 @@ bool HasValidHeader(std::span<const std::uint8_t> record) {
 InboundRecord ParseAidRecord(std::span<const std::uint8_t> record) {
   InboundRecord out;
   if (!CheckHeader(record, out)) return out;
-  if (record.size() == static_cast<std::size_t>(kRecordHeaderSize)) {
+  if (record.size() == static_cast<std::size_t>(kRecordHeaderLength)) {
     out.ok = true;  // no read command was in force: the header alone
     return out;
   }
-  if (record.size() < std::size_t{kRecordHeaderSize} + 3) {
+  if (record.size() < std::size_t{kRecordHeaderLength} + 3) {
     out.error = "record ends inside the cursor address and AID at offset 10";
     return out;
   }
@@ -85,7 +85,7 @@ InboundRecord ParseAidRecord(std::span<const std::uint8_t> record) {
 InboundRecord ParseImmediateRecord(std::span<const std::uint8_t> record) {
   InboundRecord out;
   if (!CheckHeader(record, out)) return out;
-  out.data.assign(record.begin() + kRecordHeaderSize, record.end());
+  out.data.assign(record.begin() + kRecordHeaderLength, record.end());
   SplitFields(out);
   out.ok = true;
   return out;

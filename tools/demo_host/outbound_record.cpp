@@ -57,7 +57,7 @@ OutboundRecord& OutboundRecord::RepeatToAddress(int row, int column, char ascii)
 
 OutboundRecord& OutboundRecord::StartField(std::uint8_t ffw1, std::uint8_t ffw2,
                                            std::uint8_t attribute, int length) {
-  body_.push_back(kOrderStartField);
+  body_.push_back(kOrderStartOfField);
   body_.push_back(ffw1);
   body_.push_back(ffw2);
   body_.push_back(attribute);
@@ -93,7 +93,7 @@ OutboundRecord& OutboundRecord::InputField(int row, int column, int length, std:
   if (!initial.empty()) Text(initial.substr(0, static_cast<std::size_t>(length)));
   if (column + length <= kColumns) {
     SetBufferAddress(row, column + length);
-    Attribute(kAttrNormal);
+    Attribute(kAttributeNormal);
   }
   return *this;
 }
@@ -102,9 +102,9 @@ OutboundRecord& OutboundRecord::WriteErrorCode(std::string_view message, int cur
                                                int cursor_column) {
   Command(kCmdWriteErrorCode);
   if (cursor_row > 0) InsertCursor(cursor_row, cursor_column);
-  Attribute(kAttrHigh);
+  Attribute(kAttributeHigh);
   Text(message);
-  Attribute(kAttrNormal);
+  Attribute(kAttributeNormal);
   return *this;
 }
 
@@ -139,14 +139,14 @@ OutboundRecord& OutboundRecord::Raw(std::span<const std::uint8_t> bytes) {
 }
 
 std::vector<std::uint8_t> OutboundRecord::Finish(std::uint8_t opcode) const {
-  const std::size_t length = kRecordHeaderSize + body_.size();
+  const std::size_t length = kRecordHeaderLength + body_.size();
   const std::uint8_t header[] = {static_cast<std::uint8_t>((length >> 8) & 0xFF),
                                  static_cast<std::uint8_t>(length & 0xFF),
                                  kRecordType1,
                                  kRecordType2,
                                  0x00,
                                  0x00,
-                                 0x04,
+                                 kVariableHeaderLength,
                                  0x00,
                                  0x00,
                                  opcode};

@@ -26,7 +26,7 @@ class OutboundRecord {
   OutboundRecord& Text(std::string_view ascii);
   // SBA to (row, column) then the text.
   OutboundRecord& TextAt(int row, int column, std::string_view ascii,
-                         std::uint8_t attribute = kAttrNormal);
+                         std::uint8_t attribute = kAttributeNormal);
   // An input field whose first cell is (row, column), with its attribute cell just before it
   // and a normal attribute just after it; `initial` fills its first cells.
   OutboundRecord& InputField(int row, int column, int length, std::uint8_t ffw1, std::uint8_t ffw2,
