@@ -22,7 +22,7 @@ class DataStreamInterpreter {
  public:
   DataStreamInterpreter(HostContext& host, InboundRecords& inbound);
 
-  // `ResetHostSession` for the interpreter's part (the caller resets the screen).
+  // A new session, for the interpreter's part (the caller resets the screen).
   void Reset();
   void ProcessHostBytes(std::span<const std::uint8_t> bytes);
   void ProcessHostByte(std::uint8_t b);

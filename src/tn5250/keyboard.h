@@ -10,7 +10,7 @@
 
 namespace veltrix {
 
-// The terminal's keyboard rules (`HostKeyInput` and below): typing into the current field
+// The terminal's keyboard rules behind Session::KeyInput: typing into the current field
 // with its shift type, cursor moves with the completeness check, field exit and right adjust,
 // the sign keys, Delete, Backspace, Reset and the attention keys.
 class Keyboard {

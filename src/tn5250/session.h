@@ -40,7 +40,7 @@ class Session {
   // when the host changed the screen.
   void Receive(std::span<const std::uint8_t> bytes);
 
-  // A key of the engine's key enum (`HostKeyInput`). What it changed on the screen is reported
+  // A key of the engine's key enum. What it changed on the screen is reported
   // to the listener, as for received bytes.
   void KeyInput(HostKey key);
   // A printable character, given in the display code of the host language (ISO-8859-1 for the

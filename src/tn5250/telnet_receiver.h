@@ -22,7 +22,7 @@ class TelnetPeer {
   virtual void SendRaw(std::span<const std::uint8_t> bytes) = 0;
 };
 
-// The receiving side of Telnet (`TelnetReceiveByte`): strips commands, answers the host's
+// The receiving side of Telnet: strips commands, answers the host's
 // option negotiation and hands every data byte on. It never starts a negotiation itself.
 class TelnetReceiver {
  public:

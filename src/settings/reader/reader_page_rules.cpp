@@ -75,7 +75,9 @@ constexpr std::array<PageCheckBox, 27> kTwoDCheckBoxes{{
 }};
 
 // Check boxes only "2D Reader" has: "Code 11", "Postal Codes" and "PDF417" to "QR Code".
-bool OnlyForTwoDReader(int id) { return id == 313 || id == 318 || id >= 322; }
+bool OnlyForTwoDReader(int id) {
+  return id == kCode11CheckBox || id == kPostalCodesCheckBox || id >= kPdf417CheckBox;
+}
 
 bool& Checked(ReaderPageState& state, int id) { return state.checked[id - kFirstCheckBoxId]; }
 bool Checked(const ReaderPageState& state, int id) { return state.checked[id - kFirstCheckBoxId]; }
@@ -137,8 +139,8 @@ ReaderPageState FillReaderPageState(const Document& doc) {
 }
 
 bool PageCheckBoxEnabled(const ReaderPageState& state, int id) {
-  if (state.reader == kLaserCcdReader) return id < 327;
-  if (id == 306 && !Checked(state, 305)) return false;
+  if (state.reader == kLaserCcdReader) return id != kQrCodeCheckBox;
+  if (id == kBooklandEanCheckBox && !Checked(state, kEan13CheckBox)) return false;
   return state.reader == kTwoDReader || !OnlyForTwoDReader(id);
 }
 

@@ -56,6 +56,13 @@ struct PageCheckBox {
 
 inline constexpr int kFirstCheckBoxId = 301;
 inline constexpr int kPageCheckBoxCount = 27;
+// The check boxes the page's rules name, by their two-dimensional captions.
+inline constexpr int kEan13CheckBox = 305;
+inline constexpr int kBooklandEanCheckBox = 306;  // enabled only while "EAN13" is checked
+inline constexpr int kCode11CheckBox = 313;
+inline constexpr int kPostalCodesCheckBox = 318;
+inline constexpr int kPdf417CheckBox = 322;  // "PDF417" and the boxes after it: 2D only
+inline constexpr int kQrCodeCheckBox = 327;  // the linear set has no 27th box
 
 // The check boxes of the linear set (301-326) or of the two-dimensional set (301-327).
 std::span<const PageCheckBox> ReaderPageCheckBoxes(bool two_d);
