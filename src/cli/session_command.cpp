@@ -13,6 +13,7 @@
 #include <optional>
 #include <ostream>
 
+#include "capture/screen_capture.h"
 #include "capture/screen_file.h"
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
@@ -326,7 +327,7 @@ int RunSessionCommand(std::span<const std::string> args, CliIo& io) {
   for (std::size_t p = 0; p < pieces.size(); ++p) {
     if (p > 0) {
       auto page = std::make_unique<PageRecord>();
-      run.session().CopyScreenRecord(*page);
+      CopyScreenRecord(run.session(), *page);
       BlankNonDisplayFields(*page);
       capture.insert(capture.end(), page->begin(), page->end());
       ++captured;

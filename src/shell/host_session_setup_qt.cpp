@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "capture/screen_capture.h"
 #include "capture/screen_file.h"
 #include "shell/command_table.h"
 #include "shell/main_window.h"
@@ -40,7 +41,7 @@ HostSessionParts InstallHostSession(MainWindow& window) {
 
   HostConnectionQt* connection = parts.connection;
   // The screen file being captured to, shared by the Telnet commands.
-  auto capture = std::make_shared<CaptureFile>();
+  auto capture = std::make_shared<ScreenCapture>();
   SessionHandlers handlers;
   handlers.connect = [w, connection, capture] {
     capture->Stop();  // a new connection starts without capturing
@@ -67,16 +68,8 @@ HostSessionParts InstallHostSession(MainWindow& window) {
     return true;
   };
   handlers.capture = [w, connection, capture] {
-    // The copy waits for the end of a record the host is still sending: one whole screen.
-    connection->connection().CaptureScreen([w, capture](const PageRecord& page) {
-      if (!capture->capturing() || capture->Append(page)) return;
-      // A full disk must not lose screens unnoticed: say so and stop capturing.
-      const std::string file = capture->path().string();
-      capture->Stop();
-      w->prompt().ShowMessage(
-          "Error",
-          "Writing the screen file " + file + " failed; it is incomplete. Capture stopped.",
-          PromptIcon::kExclamation);
+    capture->Capture(connection->connection(), [w](const std::string& message) {
+      w->prompt().ShowMessage("Error", message, PromptIcon::kExclamation);
       QTimer::singleShot(0, w, [w] { w->ExecuteCommand(kCmdStopCapture); });
     });
   };

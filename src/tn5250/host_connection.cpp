@@ -113,7 +113,7 @@ void HostConnection::Received(std::span<const std::uint8_t> bytes) {
   if (!captures_.empty()) DeliverCaptures();
 }
 
-void HostConnection::CaptureScreen(std::function<void(const PageRecord&)> done) {
+void HostConnection::CaptureScreen(std::function<void(const Session&)> done) {
   if (!connected()) return;
   captures_.push_back(std::move(done));
   DeliverCaptures();
@@ -121,11 +121,9 @@ void HostConnection::CaptureScreen(std::function<void(const PageRecord&)> done) 
 
 void HostConnection::DeliverCaptures() {
   if (!session_->BetweenRecords()) return;
-  auto page = std::make_unique<PageRecord>();
-  session_->CopyScreenRecord(*page);
-  std::vector<std::function<void(const PageRecord&)>> waiting;
+  std::vector<std::function<void(const Session&)>> waiting;
   waiting.swap(captures_);
-  for (auto& done : waiting) done(*page);
+  for (auto& done : waiting) done(*session_);
 }
 
 void HostConnection::HostClosed() {

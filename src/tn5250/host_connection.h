@@ -108,9 +108,9 @@ class HostConnection : private SessionListener {
   // A receive error: logs the empty receive; the caller then disconnects.
   void ReceiveFailed();
 
-  // Capture: `done` gets the screen as a page record once it is one whole picture (now, or after
-  // the rest of a record the host is still sending). Only while connected.
-  void CaptureScreen(std::function<void(const PageRecord&)> done);
+  // Capture: `done` gets the session once its screen is one whole picture (now, or after the
+  // rest of a record the host is still sending). Only while connected.
+  void CaptureScreen(std::function<void(const Session&)> done);
 
   // The keyboard, only while connected.
   // What a key changed on the screen goes to the view's OnScreenChanged. False when the key went
@@ -152,7 +152,7 @@ class HostConnection : private SessionListener {
   std::string address_;
   std::uint16_t port_ = 0;
   std::string security_;
-  std::vector<std::function<void(const PageRecord&)>> captures_;  // waiting for a whole screen
+  std::vector<std::function<void(const Session&)>> captures_;  // waiting for a whole screen
 };
 
 }  // namespace veltrix

@@ -26,21 +26,6 @@ const FieldTable& Session::Fields() const { return engine_->host.fields; }
 bool Session::KeyboardLocked() const { return engine_->host.keyboard_locked; }
 bool Session::BetweenRecords() const { return engine_->interpreter.BetweenRecords(); }
 
-void Session::CopyScreenRecord(PageRecord& page) const {
-  static_assert(kPlaneSize == kScreenImageRows * kScreenImageRowBytes);
-  static_assert(kFieldRecordSize == kFieldEntrySize);
-  page.fill(0);
-  const auto plane = Screen().CharacterPlane();
-  std::copy(plane.begin(), plane.end(), page.begin() + kScreenImageOffset);
-  std::size_t at = kFieldEntriesOffset;
-  for (const FieldRecord& f : Fields().Records()) {
-    if (at + kFieldEntrySize > kPageRecordSize) break;  // the first 255 fields
-    const auto bytes = f.Serialize();
-    std::copy(bytes.begin(), bytes.end(), page.begin() + static_cast<std::ptrdiff_t>(at));
-    at += kFieldEntrySize;
-  }
-}
-
 std::span<const std::uint8_t> Session::SendSecret() const { return engine_->send_secret(); }
 
 bool Session::MessageWaiting() const { return engine_->host.message_waiting; }

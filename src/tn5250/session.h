@@ -6,7 +6,6 @@
 #include <span>
 #include <string>
 
-#include "settings/document.h"
 #include "tn5250/field_table.h"
 #include "tn5250/keys.h"
 #include "tn5250/presentation_space.h"
@@ -65,8 +64,6 @@ class Session {
   bool KeyboardLocked() const;
   // True when the screen is one whole picture: no record is half carried out.
   bool BetweenRecords() const;
-  // The screen as a page record: the character plane and up to 255 field records in table order.
-  void CopyScreenRecord(PageRecord& page) const;
   bool MessageWaiting() const;
   ReadMode CurrentReadMode() const;
   bool EchoFlag() const;
