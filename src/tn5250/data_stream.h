@@ -37,7 +37,7 @@ class DataStreamInterpreter {
   // Cursor placement at the end of a record.
   void PlaceCursor();
   // Notes `code` at the first record byte of the command or order being carried out.
-  void Trace(TraceCode code) { host_.out.Trace({code, item_offset_}); }
+  void Trace(TraceCode code) { host_.Trace({code, item_offset_}); }
 
   // True between two records: no part of a record is waiting for the rest of it.
   bool BetweenRecords() const { return state_ == State::kHeader && item_count_ == 0; }

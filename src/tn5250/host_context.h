@@ -8,46 +8,44 @@
 #include "tn5250/field_table.h"
 #include "tn5250/presentation_space.h"
 #include "tn5250/session_config.h"
+#include "tn5250/session_listener.h"
 #include "tn5250/trace_event.h"
 
 namespace veltrix {
 
-// Where the engine's parts put what leaves the session.
-class EngineOutput {
+// Where the engine's records leave the session, which frames them for Telnet. Everything else
+// the engine reports goes to its SessionListener.
+class RecordOutput {
  public:
-  virtual ~EngineOutput() = default;
-  // Telnet answers, sent as they stand.
-  virtual void SendRaw(std::span<const std::uint8_t> bytes) = 0;
+  virtual ~RecordOutput() = default;
   // A 5250 record without framing; the output adds IAC EOR. `secret` marks, byte for byte, the
   // data of non-display fields (passwords) that the session log must not show; empty: none.
   virtual void SendRecord(std::span<const std::uint8_t> record,
                           std::span<const std::uint8_t> secret = {}) = 0;
-  virtual void Trace(const TraceEvent& event) = 0;
-  virtual void Bell() = 0;
-  virtual void KeyboardLockChanged(bool locked) = 0;
 };
 
 // The state that the interpreter, the keyboard and the inbound records share: the
 // presentation space, the field format table and the session flags.
 struct HostContext {
-  explicit HostContext(EngineOutput& output) : out(output) {}
+  HostContext(RecordOutput& records, SessionListener& listener) : out(records), events(listener) {}
 
   void SetKeyboardLocked(bool locked) {
     if (keyboard_locked == locked) return;
     keyboard_locked = locked;
-    out.KeyboardLockChanged(locked);
+    events.OnKeyboardLockChanged(locked);
   }
-  // `SoundAlarm`.
   void SoundAlarm() {
-    out.Trace({TraceCode::kCallAlarm});
-    out.Bell();
+    Trace({TraceCode::kCallAlarm});
+    events.OnAlarm();
   }
+  void Trace(const TraceEvent& event) { events.OnTrace(event); }
   void MarkRepaint() {
     repaint = true;
     changed = true;
   }
 
-  EngineOutput& out;
+  RecordOutput& out;
+  SessionListener& events;
   int emulation_type = 0;
   PresentationSpace ps;
   FieldTable fields;

@@ -45,7 +45,7 @@ Keyboard::Keyboard(HostContext& host, InboundRecords& inbound) : host_(host), in
 bool Keyboard::IsPrintable(std::uint8_t c) { return (c >= 0x20 && c < 0x7F) || c >= 0xA0; }
 
 ScreenChange::Kind Keyboard::KeyInput(HostKey key) {
-  host_.out.Trace({TraceCode::kIbmWrite});
+  host_.Trace({TraceCode::kIbmWrite});
   const KeyFunction function = FunctionOfKey(key);
   if (host_.keyboard_locked && function != KeyFunction::kReset) {
     host_.SoundAlarm();
@@ -65,7 +65,7 @@ ScreenChange::Kind Keyboard::KeyInput(HostKey key) {
 
 ScreenChange::Kind Keyboard::CharacterInput(std::uint8_t c) {
   if (!IsPrintable(c)) return ScreenChange::Kind::kNothing;
-  host_.out.Trace({TraceCode::kIbmWrite});
+  host_.Trace({TraceCode::kIbmWrite});
   if (host_.keyboard_locked) {
     host_.SoundAlarm();
     return ScreenChange::Kind::kNothing;
@@ -74,7 +74,7 @@ ScreenChange::Kind Keyboard::CharacterInput(std::uint8_t c) {
 }
 
 ScreenChange::Kind Keyboard::DoubleByteInput(std::uint8_t first, std::uint8_t second) {
-  host_.out.Trace({TraceCode::kIbmWrite});
+  host_.Trace({TraceCode::kIbmWrite});
   PresentationSpace& ps = host_.ps;
   const FieldRecord field = host_.fields.Current();
   const int index = FieldIndex(field);
@@ -282,7 +282,7 @@ bool Keyboard::CurrentFieldComplete() const {
 }
 
 void Keyboard::EraseCharacter() {
-  host_.out.Trace({TraceCode::kEraseChar});
+  host_.Trace({TraceCode::kEraseChar});
   PresentationSpace& ps = host_.ps;
   const FieldRecord& field = host_.fields.Current();
   const int index = FieldIndex(field);
@@ -307,7 +307,7 @@ ScreenChange::Kind Keyboard::Delete() {
 }
 
 void Keyboard::Backspace() {
-  host_.out.Trace({TraceCode::kBackspace});
+  host_.Trace({TraceCode::kBackspace});
   PresentationSpace& ps = host_.ps;
   FieldTable& fields = host_.fields;
   if (FieldIndex(fields.Current()) == 0) {

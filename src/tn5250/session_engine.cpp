@@ -4,10 +4,19 @@
 
 namespace veltrix {
 
+namespace {
+
+SessionListener& Ignored() {
+  static SessionListener ignored;
+  return ignored;
+}
+
+}  // namespace
+
 SessionEngine::SessionEngine(SessionConfig cfg, SessionListener* l)
     : config(std::move(cfg)),
-      listener(l),
-      host(*this),
+      listener(l != nullptr ? l : &Ignored()),
+      host(*this, *listener),
       inbound(host),
       interpreter(host, inbound),
       telnet(config, *this),
@@ -16,9 +25,7 @@ SessionEngine::SessionEngine(SessionConfig cfg, SessionListener* l)
   Connect();
 }
 
-void SessionEngine::SendRaw(std::span<const std::uint8_t> bytes) {
-  if (listener != nullptr) listener->OnSend(bytes);
-}
+void SessionEngine::SendRaw(std::span<const std::uint8_t> bytes) { listener->OnSend(bytes); }
 
 // A 0xFF inside a record is doubled, so that the host's Telnet layer does not take it for a
 // command; the record's length field still counts it once.
@@ -43,18 +50,6 @@ void SessionEngine::SendRecord(std::span<const std::uint8_t> record,
   send_secret_ = {};
 }
 
-void SessionEngine::Trace(const TraceEvent& event) {
-  if (listener != nullptr) listener->OnTrace(event);
-}
-
-void SessionEngine::Bell() {
-  if (listener != nullptr) listener->OnAlarm();
-}
-
-void SessionEngine::KeyboardLockChanged(bool locked) {
-  if (listener != nullptr) listener->OnKeyboardLockChanged(locked);
-}
-
 void SessionEngine::HostData(std::span<const std::uint8_t> bytes) {
   interpreter.ProcessHostBytes(bytes);
 }
@@ -74,14 +69,14 @@ void SessionEngine::Receive(std::span<const std::uint8_t> bytes) {
   telnet.Receive(bytes);
   if (host.changed) {
     host.changed = false;
-    if (listener != nullptr) listener->OnScreenChanged({ScreenChange::Kind::kWhole, 0, 0});
+    listener->OnScreenChanged({ScreenChange::Kind::kWhole, 0, 0});
   }
 }
 
 void SessionEngine::Report(ScreenChange::Kind repaint, CellAddress before) {
   // The host-side flag is for received chunks; a key reports what the keyboard says it changed.
   host.changed = false;
-  if (listener == nullptr || repaint == ScreenChange::Kind::kNothing) return;
+  if (repaint == ScreenChange::Kind::kNothing) return;
   listener->OnScreenChanged({repaint, before.row, before.column});
 }
 

@@ -15,7 +15,7 @@ namespace veltrix {
 
 // Everything one session holds: the Telnet receiver, the interpreter, the keyboard and the
 // shared host context, wired to the listener.
-class SessionEngine : public EngineOutput, public TelnetPeer {
+class SessionEngine : public RecordOutput, public TelnetPeer {
  public:
   SessionEngine(SessionConfig config, SessionListener* listener);
 
@@ -24,9 +24,6 @@ class SessionEngine : public EngineOutput, public TelnetPeer {
                   std::span<const std::uint8_t> secret = {}) override;
   // During OnSend: which of the bytes being sent are secret (1), or empty when none are.
   std::span<const std::uint8_t> send_secret() const { return send_secret_; }
-  void Trace(const TraceEvent& event) override;
-  void Bell() override;
-  void KeyboardLockChanged(bool locked) override;
   void HostData(std::span<const std::uint8_t> bytes) override;
 
   void Connect();
@@ -37,7 +34,7 @@ class SessionEngine : public EngineOutput, public TelnetPeer {
   void PointAt(int row, int column);
 
   SessionConfig config;
-  SessionListener* listener;
+  SessionListener* listener;  // never null: a listener that ignores everything stands in
   HostContext host;
   InboundRecords inbound;
   DataStreamInterpreter interpreter;
