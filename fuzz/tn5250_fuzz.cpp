@@ -1,9 +1,14 @@
 // Feeds arbitrary host bytes and key presses to a TN5250 session. The first byte picks the host
-// language; the rest is cut into host chunks and key presses by marker bytes, so the fuzzer
-// explores both the Telnet/5250 parser and the keyboard on whatever screen the host built.
+// language and a split point; the rest is cut into host chunks and key presses by marker bytes,
+// so the fuzzer explores both the Telnet/5250 parser and the keyboard on whatever screen the host
+// built. The same input is played a second time with the host data split once more at the
+// chosen point: the engine must end with the same screen, fields, cursor and sent bytes, as a
+// host's records arrive cut anywhere by TCP.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "tn5250/display_text.h"
 #include "tn5250/session.h"
@@ -28,22 +33,31 @@ constexpr std::uint8_t kConnect = 0xF0;
 constexpr std::uint8_t kPoint = 0xF1;       // two more bytes: row, column
 constexpr std::uint8_t kDoubleByte = 0xF2;  // two more bytes: the PC code
 
-}  // namespace
+// Keeps what the session sends.
+class Sent : public veltrix::SessionListener {
+ public:
+  void OnSend(std::span<const std::uint8_t> bytes) override {
+    bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
+  }
+  std::vector<std::uint8_t> bytes_;
+};
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  if (size == 0) return 0;
-  veltrix::SessionConfig config;
-  config.emulation_type = data[0] % 7;
-  config.local_name = "FUZZ";
-  veltrix::Session session(config);
-  std::span<const std::uint8_t> rest(data + 1, size - 1);
+// Plays the input; host data at offset `split` of `rest` starts a new receive.
+void Play(veltrix::Session& session, std::span<const std::uint8_t> rest, std::size_t split) {
+  auto receive = [&](std::size_t from, std::size_t to) {
+    if (split > from && split < to) {
+      session.Receive(rest.subspan(from, split - from));
+      from = split;
+    }
+    session.Receive(rest.subspan(from, to - from));
+  };
   // 0xFE 0xFE K: press key K (a key of the list, Connect, a click or a double-byte character
   // with their two bytes, or a printable character); anything else is host data up to the
   // next marker.
   std::size_t start = 0;
   for (std::size_t i = 0; i + 2 < rest.size(); ++i) {
     if (rest[i] != 0xFE || rest[i + 1] != 0xFE) continue;
-    session.Receive(rest.subspan(start, i - start));
+    receive(start, i);
     const std::uint8_t k = rest[i + 2];
     const bool has_two = i + 4 < rest.size();
     if (k < kKeyCount) {
@@ -62,7 +76,45 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     i += 2;
     start = i + 1;
   }
-  if (start < rest.size()) session.Receive(rest.subspan(start));
+  if (start < rest.size()) receive(start, rest.size());
+}
+
+bool SameState(const veltrix::Session& a, const veltrix::Session& b) {
+  const auto& pa = a.Screen();
+  const auto& pb = b.Screen();
+  if (pa.CursorRow() != pb.CursorRow() || pa.CursorColumn() != pb.CursorColumn() ||
+      a.KeyboardLocked() != b.KeyboardLocked()) {
+    return false;
+  }
+  for (int r = 0; r < pa.Rows(); ++r) {
+    for (int c = 0; c < pa.Columns(); ++c) {
+      if (pa.Character(r, c) != pb.Character(r, c) || pa.Attribute(r, c) != pb.Attribute(r, c))
+        return false;
+    }
+  }
+  const auto& fa = a.Fields().Records();
+  const auto& fb = b.Fields().Records();
+  return std::ranges::equal(
+      fa, fb, [](const auto& x, const auto& y) { return x.Serialize() == y.Serialize(); });
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  veltrix::SessionConfig config;
+  config.emulation_type = data[0] % 7;
+  config.local_name = "FUZZ";
+  const std::span<const std::uint8_t> rest(data + 1, size - 1);
+  Sent sent;
+  veltrix::Session session(config, &sent);
+  Play(session, rest, 0);
+  // The second play splits the host data at a point the first byte picks.
+  Sent split_sent;
+  veltrix::Session split_session(config, &split_sent);
+  Play(split_session, rest, rest.size() * (data[0] / 7u) / 37u);
+  if (!SameState(session, split_session) || sent.bytes_ != split_sent.bytes_) __builtin_trap();
+
   // Reading the whole screen touches every cell the engine may have written.
   unsigned sum = 0;
   const auto& ps = session.Screen();

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Builds the core with clang, AddressSanitizer and UndefinedBehaviorSanitizer into build-sanitize/,
-# runs the core tests there, then runs every fuzz target for FUZZ_SECONDS (60 unless set) on its
-# seed corpus (fuzz/corpus/NAME, plus inputs made here). Fails when any of them fails.
+# Builds everything with clang, AddressSanitizer and UndefinedBehaviorSanitizer into
+# build-sanitize/, runs every test there (the Qt widget tests offscreen), then runs every fuzz
+# target for FUZZ_SECONDS (60 unless set) on its seed corpus (fuzz/corpus/NAME, plus inputs made
+# here). Fails when any of them fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${FUZZ_SECONDS:-60}
 CXX=clang++-14 cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-  -DVELTRIX_FUZZ=ON -DVELTRIX_BUILD_UI=OFF -DVELTRIX_BUILD_BENCH=OFF \
+  -DVELTRIX_FUZZ=ON -DVELTRIX_BUILD_UI=ON -DVELTRIX_BUILD_BENCH=OFF \
   -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
 cmake --build build-sanitize
 
@@ -14,7 +15,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 # Only the summary, or every test that did not pass with its output.
 if ctest --test-dir build-sanitize --output-on-failure -j2 >"$work/ctest.log" 2>&1; then
-  echo "sanitized core tests: $(grep -m1 'tests passed' "$work/ctest.log")"
+  echo "sanitized tests: $(grep -m1 'tests passed' "$work/ctest.log")"
 else
   grep -v -E '^ *Start |Passed +[0-9.]+ sec' "$work/ctest.log"
   exit 1
@@ -31,7 +32,7 @@ for trace in ../shared/peer-data/tn5250-traces/*.bin; do
 done
 
 # A screen file of a dozen screens is 125,108 bytes.
-declare -A max_len=([srecord]=65536 [settings_file]=600000 [tn5250]=70000 [demo_host]=70000 [replay_keys]=1024 [set_assignment]=4096 [screen_file]=140000)
+declare -A max_len=([download_engine]=8192 [srecord]=65536 [settings_file]=600000 [tn5250]=70000 [demo_host]=70000 [replay_keys]=1024 [set_assignment]=4096 [screen_file]=140000)
 pids=()
 for target in build-sanitize/*_fuzz; do
   name=$(basename "$target" _fuzz)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Every check CI makes: the format check, the build with all tests (GoogleTest for the core, Qt
-# Test offscreen for widgets), then the core tests under ASan and UBSan and each fuzz target for a
+# Test offscreen for widgets), then every test again under ASan and UBSan and each fuzz target for a
 # minute (scripts/sanitize-and-fuzz.sh), and last the Debian package: built, checked with lintian,
 # installed and run (scripts/check-package.sh).
 set -euo pipefail

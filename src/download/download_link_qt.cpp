@@ -25,6 +25,12 @@ TerminalListenerQt::TerminalListenerQt(QObject* parent)
   connect(server_, &QTcpServer::newConnection, this, &TerminalListenerQt::HandOut);
 }
 
+TerminalListenerQt::~TerminalListenerQt() {
+  for (DownloadSessionQt* session : findChildren<DownloadSessionQt*>(Qt::FindDirectChildrenOnly)) {
+    delete session;
+  }
+}
+
 bool TerminalListenerQt::Listen(const QHostAddress& address, quint16 port, ListenError* error,
                                 int backlog) {
   if (server_->isListening()) return true;

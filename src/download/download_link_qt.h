@@ -31,6 +31,8 @@ class TerminalListenerQt : public QObject {
 
  public:
   explicit TerminalListenerQt(QObject* parent = nullptr);
+  // Downloads parented to the listener go first, while they can still tell it they stop waiting.
+  ~TerminalListenerQt() override;
   // False with the error the download reports. `backlog` is how many connections the system
   // holds for us (1 for one terminal; a fleet's size).
   bool Listen(const QHostAddress& address, quint16 port, ListenError* error, int backlog = 1);

@@ -93,10 +93,11 @@ CertificateDialog::CertificateDialog(const std::string& host, const CertificateF
                                QDialogButtonBox::AcceptRole);
   cancel_ = buttons->addButton(QDialogButtonBox::Cancel);
   cancel_->setDefault(true);
-  for (auto [button, answer] :
-       {std::pair{once_, Answer::kConnectOnce}, std::pair{always_, Answer::kAlwaysTrust},
-        std::pair{cancel_, Answer::kCancel}}) {
-    connect(button, &QPushButton::clicked, this, [this, answer] {
+  const std::pair<QPushButton*, Answer> answers[] = {
+      {once_, Answer::kConnectOnce}, {always_, Answer::kAlwaysTrust}, {cancel_, Answer::kCancel}};
+  for (const auto& entry : answers) {
+    const Answer answer = entry.second;
+    connect(entry.first, &QPushButton::clicked, this, [this, answer] {
       answer_ = answer;
       if (answer == Answer::kCancel) {
         reject();

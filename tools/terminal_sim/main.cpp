@@ -187,8 +187,9 @@ int main(int argc, char** argv) {
   // Kept for the whole run: the handlers below use them long after the set-up.
   QElapsedTimer trying;
   QTimer retry;  // the PC may not be listening yet
+  QTcpSocket* socket = nullptr;
   if (options.serial.isEmpty()) {
-    auto* socket = new QTcpSocket;
+    socket = new QTcpSocket;
     link.reset(socket);
     trying.start();
     retry.setSingleShot(true);

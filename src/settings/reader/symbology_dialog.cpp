@@ -83,7 +83,11 @@ LinearOptionsDialog::LinearOptionsDialog(Document& doc, const LinearOptionDialog
     radios_.push_back(group);
     groups->addWidget(box, 0, Qt::AlignTop);
   }
-  if (!radios_.empty()) layout->addLayout(groups);
+  if (radios_.empty()) {
+    delete groups;  // a dialog without radio groups
+  } else {
+    layout->addLayout(groups);
+  }
 
   auto* checks = new QVBoxLayout;
   for (std::size_t i = 0; i < table.checks.size(); ++i) {
