@@ -23,6 +23,7 @@ constexpr StringEntry kStrings[] = {
     {1030, "Saves the active document"},
     {1040, "Saves the active document with a new name"},
     {1090, "Quites the application"},
+    {1095, "Brings back the settings a product change replaced"},
     {1110, "Configure the terminal settings"},
     {1210, "Download the current settings to the terminal"},
     {1220, "Download the current program to the terminal"},

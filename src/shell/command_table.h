@@ -15,6 +15,7 @@ enum CommandId : int {
   kCmdSave = 1030,
   kCmdSaveAs = 1040,
   kCmdExit = 1090,
+  kCmdUndo = 1095,
   kCmdConfigure = 1110,
   kCmdDownloadSettings = 1210,
   kCmdDownloadProgram = 1220,
@@ -39,12 +40,13 @@ struct CommandDef {
   bool needs_product;          // refused with "Please select product !!" while none is chosen
 };
 
-inline constexpr std::array<CommandDef, 14> kCommands{{
+inline constexpr std::array<CommandDef, 15> kCommands{{
     {kCmdNew, "&New\tCtrl+N", true},
     {kCmdOpen, "&Open...\tCtrl+O", false},
     {kCmdSave, "&Save\tCtrl+S", true},
     {kCmdSaveAs, "Save &As...", true},
     {kCmdExit, "&Exit\tAlt+F4", false},
+    {kCmdUndo, "&Undo\tCtrl+Z", false},
     {kCmdConfigure, "&Configure...\tCtrl+C", true},
     {kCmdDownloadSettings, "&Download settings...\tCtrl+D", true},
     {kCmdDownloadProgram, "Download &Program...\tCtrl+P", false},
@@ -66,14 +68,16 @@ struct MenuDef {
 
 inline constexpr int kFileMenuItems[] = {kCmdNew,    kCmdOpen,   kCmdSave,
                                          kCmdSaveAs, kSeparator, kCmdExit};
+inline constexpr int kEditMenuItems[] = {kCmdUndo};
 inline constexpr int kUtilitiesMenuItems[] = {kCmdConfigure, kCmdDownloadSettings,
                                               kCmdDownloadProgram};
 inline constexpr int kTelnetMenuItems[] = {kCmdConnect,      kCmdDisconnect, kSeparator,
                                            kCmdStartCapture, kCmdCapture,    kCmdStopCapture};
 inline constexpr int kHelpMenuItems[] = {kCmdAbout};
 
-inline constexpr std::array<MenuDef, 4> kMenus{{
+inline constexpr std::array<MenuDef, 5> kMenus{{
     {"&File", kFileMenuItems},
+    {"&Edit", kEditMenuItems},
     {"&Utilities", kUtilitiesMenuItems},
     {"&Telnet", kTelnetMenuItems},
     {"&Help", kHelpMenuItems},

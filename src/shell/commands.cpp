@@ -43,7 +43,28 @@ DocumentCommands::DocumentCommands(Document& doc, UserPrompt& prompt, FileChoose
       prompt_(prompt),
       chooser_(chooser),
       open_settings_sheet_(std::move(open_settings_sheet)),
-      io_(std::move(io)) {}
+      io_(std::move(io)) {
+  TakeBaseline();
+}
+
+void DocumentCommands::TakeBaseline() {
+  baseline_record_ = std::make_unique<SettingsRecord>(doc_.record);
+  baseline_pages_ = std::make_unique<std::array<PageRecord, kPageCount>>(doc_.pages);
+}
+
+bool DocumentCommands::HasUnsavedChanges() const {
+  return doc_.modified || doc_.record != *baseline_record_ || doc_.pages != *baseline_pages_;
+}
+
+bool DocumentCommands::Undo() {
+  if (!undo_) return false;
+  std::swap(doc_, *undo_->doc);
+  file_is_foreign_ = undo_->file_is_foreign;
+  baseline_record_ = std::move(undo_->baseline_record);
+  baseline_pages_ = std::move(undo_->baseline_pages);
+  undo_.reset();
+  return true;
+}
 
 bool DocumentCommands::CheckProduct(int command_id) {
   if (!NeedsProduct(command_id) || doc_.product() != 0) return true;
@@ -52,7 +73,7 @@ bool DocumentCommands::CheckProduct(int command_id) {
 }
 
 bool DocumentCommands::OfferToSave() {
-  if (!doc_.modified) return true;
+  if (!HasUnsavedChanges()) return true;
   switch (prompt_.AskYesNoCancel(Title(), kSaveTheProgram)) {
     case PromptAnswer::kYes:
       // A save that fails or is cancelled stops the command: the changes stay in the window.
@@ -71,6 +92,8 @@ void DocumentCommands::New() {
   file_is_foreign_ = false;
   doc_.modified = false;
   SetDefaults(doc_, doc_.product());
+  TakeBaseline();
+  undo_.reset();
   open_settings_sheet_();
 }
 
@@ -80,6 +103,8 @@ bool DocumentCommands::Open(const std::string* path) {
   file_is_foreign_ = false;
   doc_.modified = false;
   if (!OpenSettingsFile(path)) return false;
+  TakeBaseline();
+  undo_.reset();
   open_settings_sheet_();
   return true;
 }
@@ -87,21 +112,30 @@ bool DocumentCommands::Open(const std::string* path) {
 bool DocumentCommands::Save() {
   if (!SaveSettingsFile()) return false;
   doc_.modified = false;
+  TakeBaseline();
   return true;
 }
 
 bool DocumentCommands::SaveAs() {
   if (!SaveSettingsFileAs()) return false;
   doc_.modified = false;
+  TakeBaseline();
   return true;
 }
 
 bool DocumentCommands::ChangeProduct(int index) {
   if (index == doc_.product() || index < 0 || index > kProductCount) return false;
+  // The Part replaces the document without asking; Undo can bring it back.
+  undo_ = std::make_unique<Undoable>();
+  undo_->doc = std::make_unique<Document>(doc_);
+  undo_->file_is_foreign = file_is_foreign_;
+  undo_->baseline_record = std::move(baseline_record_);
+  undo_->baseline_pages = std::move(baseline_pages_);
   doc_.file_name.clear();
   file_is_foreign_ = false;
   doc_.modified = false;
   SetDefaults(doc_, index);
+  TakeBaseline();
   return true;
 }
 

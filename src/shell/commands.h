@@ -2,6 +2,7 @@
 #define VELTRIX_SHELL_COMMANDS_H_
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,6 +19,10 @@ inline constexpr std::string_view kSaveTheProgram = "Save the program ?";
 inline constexpr std::string_view kSettingsFilterText = "Settings (*.QVL)";
 inline constexpr std::string_view kSettingsFilterPattern = "*.QVL";
 inline constexpr std::string_view kSettingsExtension = "QVL";
+inline constexpr std::string_view kProductChangedStatus =
+    "The product change replaced the settings; Edit > Undo (Ctrl+Z) brings them back.";
+inline constexpr std::string_view kUndoneStatus =
+    "The settings before the product change are back.";
 
 // Reading and writing a settings file at a path; the real functions by default, fakes in tests.
 struct SettingsFileIo {
@@ -47,11 +52,22 @@ class DocumentCommands {
   bool Open(const std::string* path = nullptr);
   bool Save();
   bool SaveAs();
-  void Configure() { open_settings_sheet_(); }
+  // The sheet; once it has changed the document, Undo no longer applies.
+  void Configure() {
+    open_settings_sheet_();
+    if (HasUnsavedChanges()) undo_.reset();
+  }
   // The product box chose `index`: true when the document was replaced by its defaults.
   bool ChangeProduct(int index);
   // Closing: true when the window may close (asks "Save the program ?" while modified).
   bool QueryClose();
+  // Edit > Undo: the document a product change replaced comes back, until the next change.
+  bool CanUndo() const { return undo_ != nullptr; }
+  bool Undo();
+  // The document holds changes that are not in a file: the modified flag is set, or its bytes
+  // differ from what was last opened, saved or created. The title's "*" and the question
+  // "Save the program ?" follow it.
+  bool HasUnsavedChanges() const;
 
   // The file operations: each returns true when the file was read or written. A file that
   // cannot be read or written is reported with the "Error" caption.
@@ -68,6 +84,8 @@ class DocumentCommands {
   // While modified, asks "Save the program ?"; Yes saves. False on Cancel and when the save
   // fails or its file dialog is cancelled, so unsaved changes are never dropped.
   bool OfferToSave();
+  // What was last opened, saved or created is what the document holds now.
+  void TakeBaseline();
 
   Document& doc_;
   UserPrompt& prompt_;
@@ -76,6 +94,17 @@ class DocumentCommands {
   SettingsFileIo io_;
   // The open file was not a whole, accepted settings file: Save asks before replacing it.
   bool file_is_foreign_ = false;
+  // The bytes of the file as last opened, saved or created: the record and the pages.
+  std::unique_ptr<SettingsRecord> baseline_record_;
+  std::unique_ptr<std::array<PageRecord, kPageCount>> baseline_pages_;
+  // Before the last product change, for Undo.
+  struct Undoable {
+    std::unique_ptr<Document> doc;
+    bool file_is_foreign = false;
+    std::unique_ptr<SettingsRecord> baseline_record;
+    std::unique_ptr<std::array<PageRecord, kPageCount>> baseline_pages;
+  };
+  std::unique_ptr<Undoable> undo_;
 };
 
 }  // namespace veltrix

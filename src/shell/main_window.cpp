@@ -248,7 +248,10 @@ void MainWindow::OpenFile(const QString& path) {
 void MainWindow::SelectProductInBox() { product_box_->setCurrentIndex(doc_->product()); }
 
 void MainWindow::OnProductChosen(int index) {
-  if (commands_->ChangeProduct(index)) RebuildSummary();
+  if (commands_->ChangeProduct(index)) {
+    RebuildSummary();
+    ShowCommandStatus(QtText(kProductChangedStatus));
+  }
   SelectProductInBox();
   UpdateTitle();
 }
@@ -278,6 +281,13 @@ void MainWindow::ExecuteCommand(int command_id) {
     case kCmdExit:
       close();
       break;
+    case kCmdUndo:
+      if (commands_->Undo()) {
+        SelectProductInBox();
+        RebuildSummary();
+        ShowCommandStatus(QtText(kUndoneStatus));
+      }
+      break;
     case kCmdConfigure:
       commands_->Configure();
       break;
@@ -299,7 +309,11 @@ void MainWindow::UpdateTitle() {
   const QString program = QtText(StringResource(kWindowTitleId));
   const QString file = QFileInfo(QString::fromStdString(doc_->file_name)).fileName();
   setWindowTitle(file.isEmpty() ? program + "[*]" : file + "[*] - " + program);
-  setWindowModified(doc_->modified);
+  setWindowModified(commands_ != nullptr ? commands_->HasUnsavedChanges() : doc_->modified);
+  // Undo lasts until the next change, which every command ends with a title update.
+  if (const auto undo = actions_.find(kCmdUndo); undo != actions_.end()) {
+    undo->second->setEnabled(commands_ != nullptr && commands_->CanUndo());
+  }
 }
 
 void MainWindow::ShowCommandStatus(const QString& text) {

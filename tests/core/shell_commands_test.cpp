@@ -54,10 +54,13 @@ struct FakeFiles {
 class DocumentCommandsTest : public ::testing::Test {
  protected:
   DocumentCommandsTest()
-      : doc_(std::make_unique<Document>()),
+      : doc_(NewDocument()),
         commands_(
-            *doc_, prompt_, chooser_, [this] { ++sheets_; }, files_.Io()) {
-    SetDefaults(*doc_, 0);
+            *doc_, prompt_, chooser_, [this] { ++sheets_; }, files_.Io()) {}
+  static std::unique_ptr<Document> NewDocument() {
+    auto doc = std::make_unique<Document>();
+    SetDefaults(*doc, 0);
+    return doc;
   }
 
   void ChooseProduct(int index) { ASSERT_TRUE(commands_.ChangeProduct(index)); }
@@ -112,14 +115,52 @@ TEST_F(DocumentCommandsTest, ProductChangeReplacesTheDocumentWithoutAsking) {
 
 TEST_F(DocumentCommandsTest, NewWhileUnmodifiedResetsAndOpensTheSheet) {
   ChooseProduct(2);
-  doc_->record[kSomeByte] = 0xEE;
   doc_->file_name = "x.QVL";
   commands_.New();
   EXPECT_TRUE(prompt_.shown.empty());
-  EXPECT_NE(doc_->record[kSomeByte], 0xEE);
   EXPECT_EQ(doc_->product(), 2);
   EXPECT_TRUE(doc_->file_name.empty());
   EXPECT_EQ(sheets_, 1);
+}
+
+// Configure-OK-Configure-Cancel leaves changed bytes with the flag cleared: closing still asks,
+// as the title's "*" shows; bytes put back as they were ask nothing.
+TEST_F(DocumentCommandsTest, ChangedBytesAskEvenWithTheFlagCleared) {
+  ChooseProduct(2);
+  doc_->record[kSomeByte] ^= 0xFF;
+  EXPECT_TRUE(commands_.HasUnsavedChanges());
+  prompt_.answers.push_back(PromptAnswer::kCancel);
+  EXPECT_FALSE(commands_.QueryClose());
+  EXPECT_EQ(Texts(), std::vector<std::string>{std::string(kSaveTheProgram)});
+  doc_->record[kSomeByte] ^= 0xFF;
+  EXPECT_FALSE(commands_.HasUnsavedChanges());
+  EXPECT_TRUE(commands_.QueryClose());
+}
+
+// A product change replaces the document without asking; Undo brings it back (file name,
+// bytes, unsaved state) until the next change.
+TEST_F(DocumentCommandsTest, UndoBringsBackWhatAProductChangeReplaced) {
+  ChooseProduct(1);
+  doc_->record[kSomeByte] = 0xEE;
+  doc_->file_name = "a.QVL";
+  ChooseProduct(2);
+  ASSERT_TRUE(commands_.CanUndo());
+  EXPECT_FALSE(commands_.HasUnsavedChanges());
+  EXPECT_TRUE(commands_.Undo());
+  EXPECT_EQ(doc_->product(), 1);
+  EXPECT_EQ(doc_->record[kSomeByte], 0xEE);
+  EXPECT_EQ(doc_->file_name, "a.QVL");
+  EXPECT_TRUE(commands_.HasUnsavedChanges());
+  EXPECT_FALSE(commands_.Undo());
+  // A change in the sheet after a product change ends the Undo.
+  ChooseProduct(2);
+  sheets_ = 0;
+  commands_.Configure();
+  EXPECT_TRUE(commands_.CanUndo());  // the sheet changed nothing
+  doc_->record[kSomeByte] ^= 0x01;
+  commands_.Configure();
+  EXPECT_FALSE(commands_.CanUndo());
+  EXPECT_TRUE(prompt_.shown.empty());
 }
 
 struct AskCase {

@@ -170,6 +170,32 @@ class MainWindowTest : public QObject {
     QCOMPARE(prompt_->shown.back().text, std::string("Save the program ?"));
   }
 
+  // Changed bytes mark the title even with the flag cleared; a product change replaces the
+  // document, says Ctrl+Z brings it back, and Ctrl+Z does, once.
+  void productChangeCanBeUndone() {
+    window_->show();
+    emit window_->product_box()->activated(1);
+    Document& doc = window_->document();
+    doc.record[kSettingsFileSize % kRecordSize] ^= 0x01;
+    doc.modified = false;
+    OnNextSheet(false);
+    window_->ExecuteCommand(kCmdConfigure);  // Configure-Cancel: the flag stays cleared
+    QVERIFY(window_->isWindowModified());
+    window_->product_box()->setCurrentIndex(2);
+    emit window_->product_box()->activated(2);
+    QCOMPARE(doc.product(), 2);
+    QVERIFY(!window_->isWindowModified());
+    QVERIFY(window_->statusBar()->currentMessage().contains(QStringLiteral("Ctrl+Z")));
+    QVERIFY(window_->action(kCmdUndo)->isEnabled());
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    QTest::keyClick(window_->summary_view(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(doc.product(), 1);
+    QCOMPARE(window_->product_box()->currentIndex(), 1);
+    QVERIFY(window_->isWindowModified());
+    QVERIFY(!window_->action(kCmdUndo)->isEnabled());
+  }
+
   void saveAsThenOpenRoundTrip() {
     QTemporaryDir folder;
     emit window_->product_box()->activated(2);
