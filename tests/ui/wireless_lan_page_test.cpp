@@ -140,6 +140,40 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
     }
   }
 
+  // Text typed into the active entry stays there, whatever other entries hold: no completion
+  // from them, and neither Enter nor leaving the box makes another entry active.
+  void hostTextStaysInTheActiveEntry_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("a prefix of entry 1") << "192.168.1.1";
+    QTest::newRow("entry 1 in other case") << "HOST.EXAMPLE";
+    QTest::newRow("entry 1 itself") << "host.example";
+  }
+  void hostTextStaysInTheActiveEntry() {
+    QFETCH(QString, typed);
+    WriteText(doc_->record, kHostIpOrName, "192.168.1.10", 0);
+    WriteText(doc_->record, kHostIpOrName, "host.example", 1);
+    page_->SetActive(*doc_);
+    auto* hosts = Find<QComboBox>("host");
+    hosts->setCurrentIndex(2);
+    page_->show();
+    page_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page_.get()));
+    hosts->lineEdit()->setFocus();
+    hosts->lineEdit()->clear();
+    QTest::keyClicks(hosts->lineEdit(), typed);
+    QTest::keyClick(hosts->lineEdit(), Qt::Key_Return);
+    Find<QLineEdit>("telnet_port")->setFocus();  // leaving the box
+    QCoreApplication::processEvents();
+    QCOMPARE(ReadNumber(doc_->record, kActiveHostIpOrName), 2u);
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kHostIpOrName, 2)), typed);
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kHostIpOrName, 0)),
+             QString("192.168.1.10"));
+    QCOMPARE(QString::fromStdString(ReadText(doc_->record, kHostIpOrName, 1)),
+             QString("host.example"));
+    QCOMPARE(hosts->currentIndex(), 2);
+    QCOMPARE(hosts->currentText(), typed);
+  }
+
   // The grid editor in each mode, for a look (kept in the build folder).
   void gridEditorPictures() {
     const std::vector<std::uint8_t> start = {0x1B, 0x4F, 0x50};

@@ -82,6 +82,9 @@ QWidget* WirelessLanPage::BuildLogin() {
   hosts_->setObjectName("host");
   hosts_->setEditable(true);
   hosts_->setInsertPolicy(QComboBox::NoInsert);
+  // Typing edits the active entry only: no completion from the other entries, which would
+  // also make the one completed to active when the box is left.
+  hosts_->setCompleter(nullptr);
   hosts_->lineEdit()->setMaxLength(static_cast<int>(kHostIpOrName.width) - 1);
   AddFormRow(grid, 0, tr("Host IP or Name :"), hosts_, 3);
   AddFormRow(grid, 1, tr("Telnet Port :"), Edit("telnet_port", 5));
