@@ -80,6 +80,8 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
     for (int i = 0; i < 16; ++i) doc_->record[kWepKey.offset + i] = std::uint8_t(i + 1);
     page_->SetActive(*doc_);
     QCOMPARE(Find<QLineEdit>("wep_key_1")->text(), QString("01 02 03 04 05 "));
+    // Showing the key stores it as shown: bytes 5 to 15 zero.
+    for (int i = 5; i < 16; ++i) QCOMPARE(doc_->record[kWepKey.offset + i], std::uint8_t(0));
     Find<QComboBox>("wep_key_length")->setCurrentIndex(1);
     QCOMPARE(Find<QLineEdit>("wep_key_1")->text(),
              QString("01 02 03 04 05 00 00 00 00 00 00 00 00 "));

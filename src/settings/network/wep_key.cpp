@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "settings/field.h"
 #include "settings/key_names_text.h"
@@ -28,6 +29,13 @@ void StoreWepKey(Document& doc, int index, std::span<const std::uint8_t> key) {
   const std::size_t n = std::min(key.size(), static_cast<std::size_t>(WepKeyBytes(doc)));
   std::copy_n(key.begin(), n, scratch.begin());
   std::copy(scratch.begin(), scratch.end(), stored.begin());
+}
+
+void StoreShownWepKey(Document& doc, int index) {
+  const auto key = FieldBytes(std::span<const std::uint8_t>(doc.record), kWepKey, index);
+  if (key.empty()) return;
+  const std::vector<std::uint8_t> shown(key.begin(), key.begin() + WepKeyBytes(doc));
+  StoreWepKey(doc, index, shown);
 }
 
 void ChangeWepKeyLength(Document& doc, int length_choice) {

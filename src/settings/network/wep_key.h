@@ -24,6 +24,8 @@ std::string StoredWepKeyText(const Document& doc, int index);
 
 // Stores a key entered for `index`: its first L bytes (L = WepKeyBytes), zero-filled to 16.
 void StoreWepKey(Document& doc, int index, std::span<const std::uint8_t> key);
+// Showing key `index` stores it as shown: its first L bytes, then zeros to the 16th byte.
+void StoreShownWepKey(Document& doc, int index);
 
 // A new key length choice (0 or 1): stored; every key keeps only its first bytes up to the
 // shorter of the former and the new length, the rest zero.

@@ -218,6 +218,7 @@ void WirelessLanPage::LoadControls() {
 void WirelessLanPage::ShowKeys() {
   const bool enabled = NetworkControlStatesOf(doc()).wep_controls;
   for (int k = 0; k < kWepKeyCount; ++k) {
+    StoreShownWepKey(doc(), k);  // the record holds the key as the edit shows it
     keys_[k]->setText(QtText(StoredWepKeyText(doc(), k)));
     keys_[k]->setEnabled(enabled);
   }
