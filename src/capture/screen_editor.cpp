@@ -204,6 +204,7 @@ ScreenEditor::View ScreenEditor::Show() const {
       }
     }
   }
+  v.text_limit = std::max(CurrentSize().chars_per_line - 1, 0);
   const bool pages_of_lines = line_count != 8 && line_count != 4;
   v.lines_back = pages_of_lines && first_line_ > 0;
   v.lines_forward = pages_of_lines && first_line_ < line_count - kVisibleLines;

@@ -59,6 +59,7 @@ class ScreenEditor {
     std::vector<std::string> field_choices;  // "nil" and the page's field numbers
     std::array<LineView, kVisibleLines> lines;
     bool lines_back = false, lines_forward = false;
+    int text_limit = 0;   // characters a line's text stores (its width less the last column)
     std::string preview;  // the host screen, rows ended by line feeds
     // Cells of the host screen to mark: the characteristic cells that tell the pages apart,
     // and the page's input fields. Rows and columns from 0.
@@ -81,6 +82,8 @@ class ScreenEditor {
   void Last() { GoTo(PageCount() - 1); }
   void LinesBack();
   void LinesForward();
+  // After a font change: the page's first lines again.
+  void FirstLines() { first_line_ = 0; }
   void ChooseSize(int index);
   // Slot s of the eight visible lines: choice 0 is "nil", k the k-th field entry.
   void ChooseField(int slot, int choice);

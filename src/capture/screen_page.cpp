@@ -21,6 +21,7 @@
 #include "resources/text_qt.h"
 #include "settings/emulation/emulation_settings.h"
 #include "settings/field.h"
+#include "settings/rewriting_edit_qt.h"
 
 namespace veltrix {
 namespace {
@@ -218,7 +219,8 @@ void ScreenPage::ConnectControls() {
       ShowView();
     });
     connect(texts_[s], &QLineEdit::textEdited, this, [this, s](const QString& text) {
-      editor_.EditText(s, text.toStdString());
+      // Stored in the terminal's single-byte code, as every page stores text.
+      editor_.EditText(s, ToRecordText(text));
       ShowTerminal(editor_.Show().terminal);
     });
   }
@@ -239,6 +241,7 @@ void ScreenPage::Initialise(Document&) {
 void ScreenPage::SetActive(Document& doc) {
   if (static_cast<int>(ReadNumber(doc.record, kFontSize)) != sizes_font_) {
     FillSizes();
+    editor_.FirstLines();  // the new size may have fewer lines than were scrolled past
     ShowView();
   }
 }
@@ -305,8 +308,8 @@ void ScreenPage::ShowView() {
     fields_[s]->setCurrentIndex(line.field_choice);
     xs_[s]->setText(QString::fromStdString(line.x));
     ys_[s]->setText(QString::fromStdString(line.y));
-    texts_[s]->setText(
-        QString::fromLatin1(line.text.data(), static_cast<qsizetype>(line.text.size())));
+    texts_[s]->setMaxLength(v.text_limit);
+    texts_[s]->setText(FromRecordText(line.text));
     texts_[s]->setCursorPosition(0);
     for (QWidget* w : std::initializer_list<QWidget*>{numbers_[s], fields_[s], texts_[s]}) {
       w->setEnabled(line.enabled);

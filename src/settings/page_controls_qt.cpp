@@ -10,6 +10,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSpinBox>
+#include <QVariant>
+#include <algorithm>
 
 #include "resources/text_qt.h"
 #include "settings/rewriting_edit_qt.h"
@@ -29,22 +32,87 @@ QComboBox* MakeCombo(const QString& name, std::span<const std::string_view> entr
   return combo;
 }
 
+namespace {
+
+// Properties of a number edit: the typing limit, the stored value it shows, and whether the
+// user has edited it since.
+constexpr char kTypingLimit[] = "veltrix_typing_limit";
+constexpr char kStoredValue[] = "veltrix_stored_value";
+constexpr char kEdited[] = "veltrix_edited";
+
+// Digits only, as typed; the value follows the box's range.
+class RuleSpinBox : public QSpinBox {
+ public:
+  explicit RuleSpinBox(int if_empty) : if_empty_(if_empty) {}
+
+ protected:
+  QValidator::State validate(QString& text, int& /*pos*/) const override {
+    if (text.isEmpty()) return QValidator::Intermediate;
+    if (text.size() > 9) return QValidator::Invalid;
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); })
+               ? QValidator::Acceptable
+               : QValidator::Invalid;
+  }
+  int valueFromText(const QString& text) const override {
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    return ok ? std::clamp(value, minimum(), maximum()) : if_empty_;
+  }
+  void fixup(QString& text) const override { text = QString::number(valueFromText(text)); }
+
+ private:
+  int if_empty_;
+};
+
+}  // namespace
+
 QLineEdit* MakeNumberEdit(const QString& name, int characters) {
   auto* edit = new QLineEdit;
   edit->setObjectName(name);
-  edit->setMaxLength(characters);
+  SetTypingLimit(edit, characters);
   edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QString(characters + 2, '0')) + 12);
   return edit;
+}
+
+void SetTypingLimit(QLineEdit* edit, int characters) {
+  edit->setProperty(kTypingLimit, characters);
+  edit->setMaxLength(characters);
+}
+
+void ShowNumber(QLineEdit* edit, std::int64_t value) {
+  const QString text = QString::number(value);
+  const int limit = edit->property(kTypingLimit).isValid() ? edit->property(kTypingLimit).toInt()
+                                                           : edit->maxLength();
+  edit->setMaxLength(std::max(limit, static_cast<int>(text.size())));
+  edit->setProperty(kStoredValue, QVariant::fromValue(value));
+  edit->setProperty(kEdited, false);
+  edit->setText(text);
 }
 
 void BindNumberBox(QLineEdit* edit, const NumberBoxRule& rule, std::function<bool()> active) {
   BindRewritingEdit(
       edit, [rule](const std::string& text) { return CorrectNumberText(text, rule).rewrite; },
       std::move(active));
+  QObject::connect(edit, &QLineEdit::textEdited, edit, [edit] {
+    edit->setProperty(kEdited, true);
+    // Back to the typing limit once what is left fits it.
+    const QVariant limit = edit->property(kTypingLimit);
+    if (limit.isValid() && edit->text().size() <= limit.toInt()) edit->setMaxLength(limit.toInt());
+  });
 }
 
 int NumberBoxValue(const QLineEdit* edit, const NumberBoxRule& rule) {
+  const QVariant stored = edit->property(kStoredValue);
+  if (stored.isValid() && !edit->property(kEdited).toBool()) return stored.toInt();
   return static_cast<int>(CorrectNumberText(ToRecordText(edit->text()), rule).value);
+}
+
+QSpinBox* MakeRuleSpin(const QString& name, int value, int min, int max, int if_empty) {
+  auto* spin = new RuleSpinBox(if_empty);
+  spin->setObjectName(name);
+  spin->setRange(min, max);
+  spin->setValue(value);
+  return spin;
 }
 
 QButtonGroup* MakeRadios(QWidget* owner, const QString& name,

@@ -15,6 +15,7 @@ class QComboBox;
 class QDialog;
 class QGridLayout;
 class QLineEdit;
+class QSpinBox;
 class QWidget;
 
 namespace veltrix {
@@ -24,12 +25,23 @@ namespace veltrix {
 
 QCheckBox* MakeCheck(const QString& name, const QString& caption);
 QComboBox* MakeCombo(const QString& name, std::span<const std::string_view> entries);
-// A number edit about `characters` digits wide that takes at most `characters`.
+// A number edit about `characters` digits wide that takes at most `characters` as typed.
 QLineEdit* MakeNumberEdit(const QString& name, int characters);
+// A new typing limit for a number edit (the Barcode page's box 201 takes 3 or 1 digits).
+void SetTypingLimit(QLineEdit* edit, int characters);
+// Shows a stored value in full, also one longer than the box takes when typed (a file's 120 in
+// a two-digit box), and keeps it: NumberBoxValue gives it back unchanged, whatever the box's
+// rule, until the user edits the box.
+void ShowNumber(QLineEdit* edit, std::int64_t value);
 // A number edit corrected under `rule` on every change the user makes (`active` is false while
-// the owner fills its controls), and the value its text stands for.
+// the owner fills its controls), and the value it stands for: the shown stored value until the
+// user edits it, then the typed text under the rule.
 void BindNumberBox(QLineEdit* edit, const NumberBoxRule& rule, std::function<bool()> active);
 int NumberBoxValue(const QLineEdit* edit, const NumberBoxRule& rule);
+// A spin box of `min`..`max` that takes any digits as typed: a number above `max` counts as
+// `max`, below `min` as `min`, an empty box as `if_empty`; the box shows that value once the
+// typing ends (its value() after interpretText()).
+QSpinBox* MakeRuleSpin(const QString& name, int value, int min, int max, int if_empty);
 // Radio buttons with ids 0, 1, ... named "<name>_<id>", added to `layout`.
 QButtonGroup* MakeRadios(QWidget* owner, const QString& name,
                          std::span<const std::string_view> captions, QBoxLayout* layout);

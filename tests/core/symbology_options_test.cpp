@@ -42,7 +42,9 @@ INSTANTIATE_TEST_SUITE_P(
                       PackCase{"MaxMinBothZero", {true, 0, 0}, 0x81, 1},
                       PackCase{"FixedKeepsOrder", {false, 10, 20}, 10, 20},
                       PackCase{"FixedKeepsZero", {false, 0, 7}, 0, 7},
-                      PackCase{"LimitedTo127", {false, 300, 127}, 127, 127}),
+                      PackCase{"FirstLimitedTo127", {false, 300, 127}, 127, 127},
+                      PackCase{"MaxMinAboveTheMaximumSwaps", {true, 120, 200}, 0x80 | 127, 120},
+                      PackCase{"StoredFixedLength2Above127Kept", {false, 10, 200}, 10, 200}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(LengthPair, UnpacksAndLabels) {

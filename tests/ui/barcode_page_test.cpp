@@ -18,6 +18,7 @@
 #include "settings/document.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/grid/grid_dialog.h"
+#include "settings/reader/advanced_barcode_dialog.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
@@ -235,6 +236,51 @@ class BarcodePageTest : public QObject {
 
   // Values no control can show (from a loaded file): a list selects, and OK stores, the nearest
   // entry; the disabled two-dimensional box keeps its value through OK.
+  // Values a box cannot take as typed (from a file or veltrix-cli set) show in full and survive
+  // OK; "99" typed into "Maximum Length :" counts as 50 and shows so.
+  void valuesNoBoxTakesSurviveOk() {
+    const auto& two_d = *std::ranges::find_if(
+        TwoDOptionDialogs(), [](const TwoDOptionDialog& t) { return t.length_option != nullptr; });
+    WriteWorking(*doc_, *two_d.length_option, kTwoLengths);
+    WriteWorking(*doc_, *two_d.length1, 120);
+    WriteWorking(*doc_, *two_d.length2, 100);
+    TwoDDialog(two_d);
+    QCOMPARE(FindControl<QLineEdit>(dialog_.get(), "length_1")->text(), QString("120"));
+    Close(dialog_.get(), true);
+    QCOMPARE(ReadWorking(*doc_, *two_d.length1), 120u);
+    QCOMPARE(ReadWorking(*doc_, *two_d.length2), 100u);
+
+    const auto& linear = *std::ranges::find_if(
+        LinearOptionDialogs(), [](const LinearOptionDialog& t) { return t.length != nullptr; });
+    WorkingBytes(*doc_, *linear.length)[0] = 10;  // fixed lengths 10 and 200
+    WorkingBytes(*doc_, *linear.length)[1] = 200;
+    {
+      LinearOptionsDialog dialog(*doc_, linear);
+      QCOMPARE(FindControl<QLineEdit>(&dialog, "length_2")->text(), QString("200"));
+      Close(&dialog, true);
+    }
+    QCOMPARE(WorkingBytes(*doc_, *linear.length)[1], std::uint8_t(200));
+
+    doc_->record[kProductOffset] = 3;
+    WriteNumber(doc_->record, kRfidMaxLen, 65500);
+    {
+      RfidDialog dialog(*doc_);
+      Close(&dialog, true);
+    }
+    QCOMPARE(ReadNumber(doc_->record, kRfidMaxLen), 65500u);
+
+    AdvancedBarcodeDialog advanced(*doc_);
+    auto* maximum = FindControl<QSpinBox>(&advanced, "maximum_length");
+    FindControl<QCheckBox>(&advanced, "read_partial_code")->setChecked(true);
+    auto* typed = maximum->findChild<QLineEdit*>();
+    typed->selectAll();
+    QTest::keyClicks(typed, "99");
+    QCOMPARE(typed->text(), QString("99"));  // no keystroke dropped
+    Close(&advanced, true);
+    QCOMPARE(maximum->value(), 50);
+    QCOMPARE(ReadWorking(*doc_, kMaximumLength), 50u);
+  }
+
   void oddStoredValues() {
     WriteWorking(*doc_, kScanMode, 12);
     Open(1);

@@ -16,6 +16,7 @@
 
 #include "capture/screen_page.h"
 #include "demo_host/demo_host_server.h"
+#include "settings/emulation/emulation_settings.h"
 #include "settings/field_registry.h"
 #include "settings/screen/screen_pages.h"
 #include "shell/command_table.h"
@@ -272,6 +273,26 @@ void HostMainWindowTest::ReformatOnTheScreenPage(const QString& path) {
     QVERIFY(std::ranges::any_of(marks, [](const QTextEdit::ExtraSelection& m) {
       return m.format.fontUnderline() && m.cursor.selectedText().size() == 10;
     }));
+    // A line text is stored in the terminal's single-byte code and takes what it stores.
+    auto* text2 = page->findChild<QLineEdit*>("line_text_2");
+    QTest::keyClicks(text2, QStringLiteral("Qt"));
+    QTest::sendKeyEvent(QTest::Click, text2, Qt::Key_Eacute, QChar(0xE9), Qt::NoModifier);
+    QCOMPARE(ReadText(doc.record, kTerminalScreen, 0, 1), std::string("Qt\xE9"));
+    QCOMPARE(text2->maxLength(), 19);
+    // Lines scrolled on a 16-line size; a font change shows the first lines again.
+    auto* size = page->findChild<QComboBox*>("terminal_size");
+    size->setCurrentIndex(1);
+    emit size->activated(1);
+    QTest::mouseClick(button("lines_forward"), Qt::LeftButton);
+    QCOMPARE(label("line_number_1"), QStringLiteral("9"));
+    const std::uint32_t font = ReadNumber(doc.record, kFontSize);
+    WriteNumber(doc.record, kFontSize, font == 0 ? 1 : 0);
+    page->SetActive(doc);
+    QCOMPARE(label("line_number_1"), QStringLiteral("1"));
+    WriteNumber(doc.record, kFontSize, font);
+    page->SetActive(doc);
+    size->setCurrentIndex(0);
+    emit size->activated(0);
     // Page 2 (menu): line 2 shows field 1.
     QTest::mouseClick(button("next_page"), Qt::LeftButton);
     QVERIFY(page->findChild<QPlainTextEdit*>("preview")->toPlainText().contains("Main Menu"));

@@ -42,14 +42,20 @@ std::optional<std::int64_t> ParseDecimal(std::string_view text) {
   return negative ? -value : value;
 }
 
-NumericEdit TelnetPortEdit(std::string_view text) {
+// A number kept in its low bits, as the record stores it: the edit shows the stored value when
+// that is not the number typed (70000 becomes 4464).
+NumericEdit LowBits(std::string_view text, std::uint32_t mask) {
   const std::optional<std::int64_t> number = ParseDecimal(text);
   if (!number || *number < 0) {
     if (text.empty()) return {0, std::nullopt};
     return {0, "0"};
   }
-  return {static_cast<std::uint32_t>(*number) & 0xFFFFu, std::nullopt};
+  const std::uint32_t value = static_cast<std::uint32_t>(*number) & mask;
+  if (value != *number || HasLeadingZero(text)) return {value, std::to_string(value)};
+  return {value, std::nullopt};
 }
+
+NumericEdit TelnetPortEdit(std::string_view text) { return LowBits(text, 0xFFFFu); }
 
 NumericEdit KeepAliveEdit(std::string_view text) { return Clamped(text, 0, 255); }
 
@@ -62,10 +68,6 @@ NumericEdit ViewOriginEdit(std::string_view text, std::uint32_t bound) {
   return {value, std::nullopt};
 }
 
-NumericEdit MessageTimeOutEdit(std::string_view text) {
-  const std::optional<std::int64_t> number = ParseDecimal(text);
-  const std::uint32_t value = number && *number > 0 ? static_cast<std::uint32_t>(*number) : 0;
-  return {value & 0xFFu, std::nullopt};
-}
+NumericEdit MessageTimeOutEdit(std::string_view text) { return LowBits(text, 0xFFu); }
 
 }  // namespace veltrix

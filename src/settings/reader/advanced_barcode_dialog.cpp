@@ -33,14 +33,6 @@ QLineEdit* GridEdit(const char* name) {
   return edit;
 }
 
-QSpinBox* LengthSpin(const char* name, int value) {
-  auto* spin = new QSpinBox;
-  spin->setObjectName(name);
-  spin->setRange(1, 50);
-  spin->setValue(value);
-  return spin;
-}
-
 // A key code list up to its first zero, as the grid editor returns it zero-filled.
 std::vector<std::uint8_t> UpToZero(std::span<const std::uint8_t> bytes) {
   return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
@@ -87,8 +79,9 @@ AdvancedBarcodeDialog::AdvancedBarcodeDialog(Document& doc, QWidget* parent)
   leading_->setMaxLength(static_cast<int>(kMaxLeadingCode));
   leading_->setMinimumWidth(leading_->fontMetrics().horizontalAdvance(QString(12, 'W')));
   read_partial_ = MakeCheck("read_partial_code", tr("Read Partial Code"));
-  start_ = LengthSpin("start_position", state_.start_position);
-  maximum_ = LengthSpin("maximum_length", state_.maximum_length);
+  // Box 204: not a number gives 1; box 205: above 50 counts as 50, not a number gives 50.
+  start_ = MakeRuleSpin("start_position", state_.start_position, 1, 50, 1);
+  maximum_ = MakeRuleSpin("maximum_length", state_.maximum_length, 1, 50, 50);
   input_grid->addWidget(check_leading_, 0, 0);
   input_grid->addWidget(leading_, 0, 1);
   input_grid->addWidget(read_partial_, 1, 0, 1, 2);
@@ -131,8 +124,8 @@ AdvancedBarcodeDialog::AdvancedBarcodeDialog(Document& doc, QWidget* parent)
   AttachKeyCodes(suffix_, state_.suffix_code);
   AttachBeeper(data_beeper_, state_.data_beeper_sequence);
   AttachBeeper(alarm_beeper_, state_.alarm_beeper_sequence);
-  box214_->setText(QString::number(state_.data_box214));
-  vibrator_->setText(QString::number(state_.vibrator_time));
+  ShowNumber(box214_, state_.data_box214);
+  ShowNumber(vibrator_, state_.vibrator_time);
   BindNumberBox(box214_, kVibratorBox, active);
   BindNumberBox(vibrator_, kVibratorBox, active);
 
@@ -162,6 +155,8 @@ void AdvancedBarcodeDialog::Collect() {
   state_.check_leading_code = check_leading_->isChecked();
   state_.leading_code = ToRecordText(leading_->text());
   state_.read_partial_code = read_partial_->isChecked();
+  start_->interpretText();  // what is typed counts, as the box shows it
+  maximum_->interpretText();
   state_.start_position = start_->value();
   state_.maximum_length = maximum_->value();
   state_.add_prefix_code = add_prefix_->isChecked();

@@ -183,9 +183,9 @@ void BarcodePage::Fill() {
     Refill(first_list_, kScanModeNames, state.first_list);
     Refill(second_list_, kReadRedundancyNames, state.second_list);
   }
-  number_->setMaxLength(two_d ? 1 : 3);
-  number_->setText(QString::number(state.number));
-  aim_->setText(QString::number(state.aim_duration));
+  SetTypingLimit(number_, two_d ? 1 : 3);
+  ShowNumber(number_, state.number);
+  ShowNumber(aim_, state.aim_duration);
   for (QWidget* control :
        std::initializer_list<QWidget*>{setting_labels_[0], setting_labels_[1], setting_labels_[2],
                                        setting_labels_[3], first_list_, second_list_, number_}) {
@@ -226,9 +226,9 @@ ReaderPageState BarcodePage::Controls() const {
   if (first_list_->isEnabled()) {
     state.first_list = first_list_->currentIndex();
     state.second_list = second_list_->currentIndex();
-    state.number = number_->text().toInt();  // corrected as it was typed
+    state.number = NumberBoxValue(number_, kTimeOutBox);  // corrected as it was typed
   }
-  if (aim_->isEnabled()) state.aim_duration = aim_->text().toInt();
+  if (aim_->isEnabled()) state.aim_duration = NumberBoxValue(aim_, kAimDurationBox);
   for (int i = 0; i < kPageCheckBoxCount; ++i) state.checked[i] = checks_[i]->isChecked();
   return state;
 }

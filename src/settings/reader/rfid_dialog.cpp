@@ -71,9 +71,9 @@ RfidDialog::RfidDialog(Document& doc, QWidget* parent)
   read_uid_->setChecked(state_.read_uid);
   read_data_->setChecked(state_.read_data);
   use_delimiter_->setChecked(state_.use_delimiter);
-  start_->setText(QString::number(state_.start));
-  max_len_->setText(QString::number(state_.max_len));
-  delay_->setText(QString::number(state_.delay));
+  ShowNumber(start_, state_.start);
+  ShowNumber(max_len_, state_.max_len);
+  ShowNumber(delay_, state_.delay);
   const auto active = [this] { return !loading_; };
   BindNumberBox(start_, kRfidLengthBox, active);
   BindNumberBox(max_len_, kRfidLengthBox, active);

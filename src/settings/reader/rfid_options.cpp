@@ -1,14 +1,9 @@
 #include "settings/reader/rfid_options.h"
 
-#include "settings/reader/number_box.h"
 #include "settings/reader/reader_record_fields.h"
 
 namespace veltrix {
 namespace {
-
-std::uint32_t Corrected(int value, const NumberBoxRule& rule) {
-  return static_cast<std::uint32_t>(CorrectNumberText(std::to_string(value), rule).value);
-}
 
 int Read(const Document& doc, const FieldDef& f) {
   return static_cast<int>(ReadNumber(doc.record, f));
@@ -37,9 +32,10 @@ void ApplyRfidOptions(Document& doc, const RfidState& state) {
   WriteNumber(doc.record, kRfidWorkingMode, state.working_mode != 0 ? 1 : 0);
   WriteNumber(doc.record, kRfidReadingMode, state.reading_mode != 0 ? 1 : 0);
   WriteNumber(doc.record, kRfidControl, state.control != 0 ? 1 : 0);
-  WriteNumber(doc.record, kRfidStart, Corrected(state.start, kRfidLengthBox));
-  WriteNumber(doc.record, kRfidMaxLen, Corrected(state.max_len, kRfidLengthBox));
-  WriteNumber(doc.record, kRfidDelayBeforeReread, Corrected(state.delay, kRfidDelayBox));
+  // The boxes corrected what was typed; a value the user did not edit stays as it was.
+  WriteNumber(doc.record, kRfidStart, static_cast<std::uint32_t>(state.start));
+  WriteNumber(doc.record, kRfidMaxLen, static_cast<std::uint32_t>(state.max_len));
+  WriteNumber(doc.record, kRfidDelayBeforeReread, static_cast<std::uint32_t>(state.delay));
 }
 
 RfidEnabling RfidControlsEnabled(const RfidState& state) {

@@ -27,8 +27,8 @@ struct RfidState {
 
 RfidState OpenRfidOptions(const Document& doc);
 
-// OK: stores every control into the record (the 16-bit values high byte first). Numbers outside
-// what the boxes accept are stored as the boxes would have corrected them.
+// OK: stores every control into the record (the 16-bit values high byte first), the numbers as
+// the dialog gives them: corrected as typed, or as stored when the user left the box alone.
 void ApplyRfidOptions(Document& doc, const RfidState& state);
 
 struct RfidEnabling {

@@ -38,8 +38,8 @@ void AddLengthBoxes(QGridLayout* grid, int row, int characters, const NumberBoxR
                     QLabel* (&labels)[2], QLineEdit* (&edits)[2]) {
   for (int k = 0; k < 2; ++k) {
     edits[k] = MakeNumberEdit(QStringLiteral("length_%1").arg(k + 1), characters);
-    edits[k]->setText(QString::number(values[k]));
     BindNumberBox(edits[k], rule, active);
+    ShowNumber(edits[k], values[k]);
     labels[k] = new QLabel;
     labels[k]->setObjectName(QStringLiteral("length_%1_label").arg(k + 1));
     labels[k]->setBuddy(edits[k]);
@@ -189,8 +189,8 @@ void TwoDOptionsDialog::ShowOption(bool chosen) {
   const LengthBoxes boxes = BoxesAfterChoosingOption(
       option,
       {NumberBoxValue(lengths_[0], kTwoDLengthBox), NumberBoxValue(lengths_[1], kTwoDLengthBox)});
-  lengths_[0]->setText(QString::number(boxes.first));
-  lengths_[1]->setText(QString::number(boxes.second));
+  ShowNumber(lengths_[0], boxes.first);
+  ShowNumber(lengths_[1], boxes.second);
 }
 
 void TwoDOptionsDialog::accept() {
