@@ -67,6 +67,7 @@ TEST(AdvancedSettings, OkLimitsTheStartToTheMaximum) {
   }
 }
 
+// A zero between key codes is a code the user picked: it and the codes after it are kept.
 TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
   auto doc = testing::DefaultDocument(1);
   std::fill_n(doc->record.begin() + kLeadingCode.offset, 10, 0xEE);
@@ -75,7 +76,7 @@ TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
   state.leading_code = "ABCDEFGHIJKL";
   state.add_prefix_code = true;
   state.prefix_code = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-  state.suffix_code = {13, 0, 65};
+  state.suffix_code = {0x41, 0, 0x42};
   state.scan_control = 1;
   ApplyAdvancedSettings(*doc, state);
 
@@ -84,13 +85,13 @@ TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
   const std::vector<std::uint8_t> prefix(doc->record.begin() + 3714, doc->record.begin() + 3724);
   EXPECT_EQ((std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8, 9, 0}), prefix);
   const std::vector<std::uint8_t> suffix(doc->record.begin() + 3725, doc->record.begin() + 3735);
-  EXPECT_EQ((std::vector<std::uint8_t>{13, 0, 0, 0, 0, 0, 0, 0, 0, 0}), suffix);
+  EXPECT_EQ((std::vector<std::uint8_t>{0x41, 0, 0x42, 0, 0, 0, 0, 0, 0, 0}), suffix);
   EXPECT_EQ(1, doc->record[kScanControl.offset]);
 
   const AdvancedState reopened = OpenAdvancedSettings(*doc);
   EXPECT_EQ("ABCDEFGHI", reopened.leading_code);
   EXPECT_EQ((std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8, 9}), reopened.prefix_code);
-  EXPECT_EQ((std::vector<std::uint8_t>{13}), reopened.suffix_code);
+  EXPECT_EQ((std::vector<std::uint8_t>{0x41, 0, 0x42}), reopened.suffix_code);
 }
 
 TEST(AdvancedSettings, Box214AndVibratorAreStoredOnlyForProduct3) {

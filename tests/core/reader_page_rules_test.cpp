@@ -116,7 +116,15 @@ TEST(ReaderPageState, EnablingFollowsTheReader) {
   EXPECT_TRUE(PageCheckBoxEnabled(state, 313));
   EXPECT_TRUE(PageCheckBoxEnabled(state, 326));
 
+  // The linear set's 306 follows 305 only once 305 was toggled with a ReaderType other than 0.
+  PageCheckBoxToggled(state, 305, 0x00);
+  EXPECT_TRUE(PageCheckBoxEnabled(state, 306));
+  PageCheckBoxToggled(state, 305, 0x08);
+  EXPECT_FALSE(PageCheckBoxEnabled(state, 306));
+
+  state = ReaderPageState{};
   state.reader = kTwoDReader;
+  state.bookland_follows_ean13 = true;  // as the two-dimensional set opens
   state.checked[305 - 301] = false;
   EXPECT_FALSE(PageCheckBoxEnabled(state, 306));  // Bookland EAN needs EAN13
   state.checked[305 - 301] = true;

@@ -220,9 +220,8 @@ class GridEditOpener : public QObject {
     const bool ok = dialog.exec() == QDialog::Accepted;
     edit_->setStyleSheet(style);
     if (ok) {
-      const std::vector<std::uint8_t> result = dialog.editor().Result();
       edit_->setText(QtText(dialog.editor().text()));
-      if (target_.store) target_.store(result);
+      if (target_.store) target_.store(dialog.editor().bytes());
     } else {
       edit_->setText(QtText(dialog.editor().start_text()));
     }

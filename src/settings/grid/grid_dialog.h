@@ -53,7 +53,8 @@ class GridDialog : public QDialog {
 };
 
 // What a click-sensitive edit edits: the mode, the limit and starting bytes when it is clicked,
-// and where the chosen bytes (zero-filled to the limit) go on OK.
+// and where the chosen bytes go on OK: exactly those the edit then shows, zeros included (the
+// owner fills what is left of its field).
 struct GridEditTarget {
   GridMode mode = GridMode::kHex;
   std::function<int()> limit;

@@ -33,18 +33,14 @@ QLineEdit* GridEdit(const char* name) {
   return edit;
 }
 
-// A key code list up to its first zero, as the grid editor returns it zero-filled.
-std::vector<std::uint8_t> UpToZero(std::span<const std::uint8_t> bytes) {
-  return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
-}
-
 // The prefix or suffix key codes, through the grid editor's key names (at most nine).
 void AttachKeyCodes(QLineEdit* edit, std::vector<std::uint8_t>& codes) {
   edit->setText(QtText(GridDisplayText(GridMode::kKeyNames, codes)));
-  AttachGridEditor(edit,
-                   {GridMode::kKeyNames, [] { return static_cast<int>(kMaxKeyCodes); },
-                    [&codes] { return codes; },
-                    [&codes](std::span<const std::uint8_t> bytes) { codes = UpToZero(bytes); }});
+  AttachGridEditor(edit, {GridMode::kKeyNames, [] { return static_cast<int>(kMaxKeyCodes); },
+                          [&codes] { return codes; },
+                          [&codes](std::span<const std::uint8_t> bytes) {
+                            codes.assign(bytes.begin(), bytes.end());
+                          }});
 }
 
 // A beeper sequence, shown as hexadecimal pairs of its used length (ten bytes at most).

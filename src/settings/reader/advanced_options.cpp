@@ -18,18 +18,20 @@ int Read(const Document& doc, const FieldDef& f) {
   return static_cast<int>(ReadNumber(doc.record, f));
 }
 
+// The codes up to the last that is not zero: zeros after it are the field's fill, a zero
+// between codes is a code the user picked.
 std::vector<std::uint8_t> ReadKeyCodes(const Document& doc, const FieldDef& f) {
   auto bytes = Bytes(doc, f).first(kMaxKeyCodes);
-  return {bytes.begin(), std::find(bytes.begin(), bytes.end(), 0)};
+  std::size_t n = bytes.size();
+  while (n > 0 && bytes[n - 1] == 0) --n;
+  return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(n)};
 }
 
-// Codes up to the first zero and at most nine of them, zero-filled to the field's width.
+// At most nine codes, every one as picked, zero-filled to the field's width.
 void WriteKeyCodes(Document& doc, const FieldDef& f, const std::vector<std::uint8_t>& codes) {
   auto bytes = Bytes(doc, f);
   std::ranges::fill(bytes, 0);
-  const auto end = std::find(codes.begin(), codes.end(), 0);
-  const auto n = std::min<std::size_t>(end - codes.begin(), kMaxKeyCodes);
-  std::copy_n(codes.begin(), n, bytes.begin());
+  std::copy_n(codes.begin(), std::min<std::size_t>(codes.size(), kMaxKeyCodes), bytes.begin());
 }
 
 template <std::size_t N>

@@ -150,8 +150,10 @@ QWidget* BarcodePage::BuildSymbologies() {
     const int column = 2 * (i / kSymbologyRows);
     grid->addWidget(checks_[i], row, column);
     grid->addWidget(more_[i], row, column + 1);
-    connect(checks_[i], &QCheckBox::toggled, this, [this] {
-      if (!loading_) ShowEnabling();
+    connect(checks_[i], &QCheckBox::toggled, this, [this, i] {
+      if (loading_) return;
+      PageCheckBoxToggled(filled_, kFirstCheckBoxId + i, doc().record[kReaderType.offset]);
+      ShowEnabling();
     });
     connect(more_[i], &QPushButton::clicked, this, [this, i] { OpenMore(i); });
   }

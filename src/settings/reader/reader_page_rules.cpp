@@ -122,6 +122,7 @@ ReaderPageState FillReaderPageState(const Document& doc) {
   state.aim_duration = static_cast<int>(ReadWorking(doc, kAimDuration));
   const auto read = [&doc](const FieldDef& f) { return static_cast<int>(ReadWorking(doc, f)); };
   if (UsesTwoDSet(reader_type)) {
+    state.bookland_follows_ean13 = true;
     state.first_list = read(kTwoDList401);
     state.second_list = read(kTwoDList402);
     state.number = read(kTwoDBox201);
@@ -138,9 +139,16 @@ ReaderPageState FillReaderPageState(const Document& doc) {
   return state;
 }
 
+void PageCheckBoxToggled(ReaderPageState& state, int id, std::uint8_t reader_type) {
+  if (id == kEan13CheckBox && reader_type != 0) state.bookland_follows_ean13 = true;
+}
+
 bool PageCheckBoxEnabled(const ReaderPageState& state, int id) {
+  if (id == kBooklandEanCheckBox && state.bookland_follows_ean13 &&
+      !Checked(state, kEan13CheckBox)) {
+    return false;
+  }
   if (state.reader == kLaserCcdReader) return id != kQrCodeCheckBox;
-  if (id == kBooklandEanCheckBox && !Checked(state, kEan13CheckBox)) return false;
   return state.reader == kTwoDReader || !OnlyForTwoDReader(id);
 }
 

@@ -76,12 +76,17 @@ struct ReaderPageState {
   int number = 0;        // time out, or the one-digit two-dimensional box
   int aim_duration = 0;  // "AIM Duration :"
   std::array<bool, kPageCheckBoxCount> checked{};  // index = id - 301
+  // "Bookland EAN" (306) is enabled only while "EAN13" (305) is checked: from the opening of the
+  // two-dimensional set, and once 305 was toggled while ReaderType was not 0.
+  bool bookland_follows_ean13 = false;
 
   bool operator==(const ReaderPageState&) const = default;
 };
 
 // The controls as the record (reader type) and the working blocks set them.
 ReaderPageState FillReaderPageState(const Document& doc);
+// The user toggled check box `id` while the record's ReaderType byte is `reader_type`.
+void PageCheckBoxToggled(ReaderPageState& state, int id, std::uint8_t reader_type);
 
 // Which check boxes and "more..." buttons the reader in `state` enables: "Code 11", "Postal Codes"
 // and "PDF417" to "QR Code" only for "2D Reader"; "Bookland EAN" only while "EAN13" is checked.
