@@ -248,7 +248,7 @@ TEST(KeyMappingArea, RowsButtonsAndEnablingFollowTheProduct) {
   EXPECT_EQ((std::vector<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 36, 37}), enabled);
 }
 
-TEST(KeyMappingArea, DialogChoiceStoresEntryKeyCodeAndTable) {
+TEST(KeyMappingArea, DialogChoiceStoresEntryAndKeyCode) {
   auto doc = testing::DefaultDocument(2);
   const KeyCodeBytes code = KeyCodeTableEntry(*doc, 0, 13);
   EXPECT_EQ(Code5("1B 5B 56"), std::vector<std::uint8_t>(code.begin(), code.end()));
@@ -257,10 +257,17 @@ TEST(KeyMappingArea, DialogChoiceStoresEntryKeyCodeAndTable) {
   EXPECT_EQ(Code5("1B 5B 56"), StoredKeyCode(*doc, 5));
   EXPECT_EQ("PF13", MappingLabel(*doc, 5));
 
+  // A code of the key's own stays the key's: the table keeps its entry, so a later release of
+  // another key mapped to the same host key gets the table's code, not this one.
+  const KeyCodeBytes table = KeyCodeTableEntry(*doc, 0, 7);
   const KeyCodeBytes custom = {0x1B, 0x41, 0, 0, 0};
-  ApplyKeyMappingChoice(*doc, 24, 1, 7, custom);
-  EXPECT_EQ("Shift + PF7", MappingLabel(*doc, 24));
-  EXPECT_EQ(custom, KeyCodeTableEntry(*doc, 1, 7));
+  ApplyKeyMappingChoice(*doc, 24, 0, 7, custom);
+  EXPECT_EQ("PF7", MappingLabel(*doc, 24));
+  EXPECT_EQ(std::vector<std::uint8_t>(custom.begin(), custom.end()), StoredKeyCode(*doc, 24));
+  EXPECT_EQ(table, KeyCodeTableEntry(*doc, 0, 7));
+  ClaimFunctionKey(*doc, 7, kRoleNameKey);
+  ReleaseFunctionKey(*doc, 7);
+  EXPECT_EQ(std::vector<std::uint8_t>(table.begin(), table.end()), StoredKeyCode(*doc, 7));
   EXPECT_EQ(KeyCodeBytes{}, KeyCodeTableEntry(*doc, 2, 30));
 }
 

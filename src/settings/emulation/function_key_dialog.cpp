@@ -27,7 +27,8 @@ FunctionKeyDialog::FunctionKeyDialog(Document& doc, int key_number, QWidget* par
   group_ = new QComboBox;
   group_->setObjectName("group");
   for (std::string_view name : KeyGroupNames()) group_->addItem(QtText(name));
-  group_->setCurrentIndex(IsRole(mapping.group) ? 0 : mapping.group);
+  group_value_ = IsRole(mapping.group) ? 0 : mapping.group;
+  group_->setCurrentIndex(group_value_ < group_->count() ? group_value_ : -1);
   // The terminal only knows plain keys here: the group is shown, not chosen.
   group_->setEnabled(false);
   host_key_ = new QComboBox;
@@ -66,7 +67,7 @@ FunctionKeyDialog::FunctionKeyDialog(Document& doc, int key_number, QWidget* par
 }
 
 void FunctionKeyDialog::ListsChanged() {
-  code_ = KeyCodeTableEntry(doc_, group_->currentIndex(), host_key_->currentIndex());
+  code_ = KeyCodeTableEntry(doc_, group_value_, host_key_->currentIndex());
   ShowKeyCode();
 }
 
@@ -75,8 +76,7 @@ void FunctionKeyDialog::ShowKeyCode() {
 }
 
 void FunctionKeyDialog::accept() {
-  ApplyKeyMappingChoice(doc_, key_number_, group_->currentIndex(), host_key_->currentIndex(),
-                        code_);
+  ApplyKeyMappingChoice(doc_, key_number_, group_value_, host_key_->currentIndex(), code_);
   QDialog::accept();
 }
 

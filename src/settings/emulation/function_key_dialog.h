@@ -28,6 +28,8 @@ class FunctionKeyDialog : public QDialog {
   Document& doc_;
   int key_number_;
   KeyCodeBytes code_{};
+  // The key's group as stored: the list (shown, not chosen) holds only 0-2, a file may hold more.
+  int group_value_ = 0;
   QComboBox* group_;
   QComboBox* host_key_;
   QLineEdit* key_code_;

@@ -86,9 +86,6 @@ void ApplyKeyMappingChoice(Document& doc, int key_number, int group, int host_ke
   WriteNumber(doc.record, kKeyMappingSpare, 0, key_number);
   auto stored = FieldBytes(std::span<std::uint8_t>(doc.record), kKeyCode, key_number);
   std::copy(code.begin(), code.end(), stored.begin());
-  const int index = KeyCodeTableIndex(group, host_key);
-  if (index >= 0)
-    std::copy(code.begin(), code.end(), doc.key_codes.begin() + index * kKeyCodeWidth);
 }
 
 }  // namespace veltrix

@@ -42,8 +42,9 @@ KeyCodeBytes KeyCodeTableEntry(const Document& doc, int group, int host_key);
 // Index of that entry in doc.key_codes in entries, or -1 when the combination has none.
 int KeyCodeTableIndex(int group, int host_key);
 
-// OK in the "Function Key Mapping" dialog: entry n becomes (group, host key, 0), key code n and
-// the table entry of the combination both become `code`.
+// OK in the "Function Key Mapping" dialog: entry n becomes (group, host key, 0) and key code n
+// becomes `code`. The key code table keeps its entry: a code set for this key alone must not
+// reach the other keys that a later claim or release fills from the table.
 void ApplyKeyMappingChoice(Document& doc, int key_number, int group, int host_key,
                            const KeyCodeBytes& code);
 
