@@ -77,9 +77,8 @@ HostSessionParts InstallHostSession(MainWindow& window) {
   window.SetSessionHandlers(std::move(handlers));
   QObject::connect(connection, &HostConnectionQt::disconnectRequested, w,
                    [w] { w->ExecuteCommand(kCmdDisconnect); });
-  QObject::connect(connection, &HostConnectionQt::connectionOpened, w, [w, connection, status] {
-    const HostConnection& c = connection->connection();
-    w->ConnectionOpened(QString::fromStdString(ConnectedText(c.address(), c.port())));
+  QObject::connect(connection, &HostConnectionQt::connectionOpened, w, [w, status] {
+    w->ConnectionOpened(QString::fromStdString(ConnectedText()));
     status->Refresh();
   });
   QObject::connect(connection, &HostConnectionQt::connectionFailed, w,

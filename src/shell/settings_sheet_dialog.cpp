@@ -56,6 +56,8 @@ SettingsSheetDialog::SettingsSheetDialog(Document& doc, const SettingsPageRegist
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(tabs_);
   layout->addWidget(buttons);
+  // The sheet has the size its pages give it: it cannot be resized or maximised.
+  layout->setSizeConstraint(QLayout::SetFixedSize);
 
   tabs_->setCurrentIndex(0);
   lifecycle_.Open();

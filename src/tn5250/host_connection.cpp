@@ -36,8 +36,9 @@ std::string ConnectingText(std::string_view address, std::uint16_t port) {
   return "Connecting to " + HostPortText(address, port) + "...";
 }
 
-std::string ConnectedText(std::string_view address, std::uint16_t port) {
-  return "Connected to " + HostPortText(address, port);
+std::string ConnectedText() {
+  // The host and port stand beside it, in the terminal's status.
+  return "Connected";
 }
 
 std::string ConnectFailedText(std::string_view address, std::uint16_t port,

@@ -56,7 +56,7 @@ void StoreConnectedAddress(Document& doc, std::string_view address);
 // The status-bar texts of connecting ("10.0.0.5:23").
 std::string HostPortText(std::string_view address, std::uint16_t port);
 std::string ConnectingText(std::string_view address, std::uint16_t port);
-std::string ConnectedText(std::string_view address, std::uint16_t port);
+std::string ConnectedText();
 // What the user needs to fix a failed connection: where to and the system's reason.
 std::string ConnectFailedText(std::string_view address, std::uint16_t port,
                               std::string_view reason);

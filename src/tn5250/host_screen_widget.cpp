@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 #include "resources/fixed_font_qt.h"
 #include "tn5250/host_keys_qt.h"
@@ -236,9 +238,14 @@ void HostScreenWidget::paintEvent(QPaintEvent* event) {
         painter.drawText(QPointF(gx + (span - advance) / 2.0, y + ascent_ + 1), text);
       }
       if (run.underline()) {
-        painter.setPen(Qt::black);
-        // As a line to the run's end, which itself stays clear.
-        painter.drawLine(x, y + ch + 1, x + run.length * cw - 1, y + ch + 1);
+        // To the run's end, which itself stays clear: a bar on whole device pixels, so every
+        // underline has one thickness at any scale (a 1-pixel line at 150% falls between pixels).
+        const QTransform device = painter.deviceTransform();
+        const qreal scale = device.m22();
+        const qreal device_top = std::round(device.map(QPointF(x, y + ch + 1)).y());
+        const qreal top = (device_top - device.dy()) / scale;
+        const qreal thickness = std::max<qreal>(1.0, std::round(scale)) / scale;
+        painter.fillRect(QRectF(x, top, run.length * cw - 1, thickness), Qt::black);
       }
     }
   }

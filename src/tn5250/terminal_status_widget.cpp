@@ -36,6 +36,8 @@ void TerminalStatusWidget::Refresh() {
   if (now == shown_ && isHidden() == now.host.empty()) return;
   shown_ = std::move(now);
   host_->setText(QString::fromStdString(shown_.host));
+  // The host and port stay whole in a narrow window; the command's text gives way instead.
+  host_->setMinimumWidth(host_->fontMetrics().horizontalAdvance(host_->text()) + 8);
   keyboard_->setText(QString::fromStdString(shown_.keyboard));
   cursor_->setText(QString::fromStdString(shown_.cursor));
   message_->setText(QString::fromStdString(shown_.message));

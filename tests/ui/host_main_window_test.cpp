@@ -27,6 +27,7 @@
 #include "support/fake_ports.h"
 #include "tn5250/host_connection_qt.h"
 #include "tn5250/host_screen_widget.h"
+#include "tn5250/terminal_status_widget.h"
 
 namespace veltrix {
 
@@ -93,7 +94,9 @@ void HostMainWindowTest::connectShowsTheHostScreenAndDisconnectTheTree() {
   QCOMPARE(Status(), QStringLiteral("Connecting to 127.0.0.1:%1...").arg(server_->port()));
   QVERIFY(!Enabled(kCmdConnect) && Enabled(kCmdDisconnect) && !Enabled(kCmdStartCapture));
   QTRY_VERIFY(parts_.connection->connected());
-  QCOMPARE(Status(), QStringLiteral("Connected to 127.0.0.1:%1").arg(server_->port()));
+  QCOMPARE(Status(), QStringLiteral("Connected"));
+  QCOMPARE(parts_.status->findChild<QLabel*>("terminal_host")->text(),
+           QStringLiteral("127.0.0.1:%1").arg(server_->port()));
   QVERIFY(parts_.screen->isVisible());
   QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture));
   QTRY_VERIFY(parts_.screen->RowText(0).contains(QStringLiteral("Sign On")));

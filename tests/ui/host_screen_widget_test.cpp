@@ -175,6 +175,27 @@ void HostScreenWidgetTest::drawsRunsByTheirLowAttributeBits() {
   // Nothing under the plain text.
   const QRect plain = screen_->CellRectangle(0, 1);
   QVERIFY(!AnyDark(image, QRect(plain.left(), plain.top() + ch + 1, 5 * plain.width(), 1)));
+
+  // At 150% every underline has one thickness, whatever row it is on.
+  r = demo_host::OutboundRecord();
+  r.ClearUnit().WriteToDisplay(0x00, 0x08);
+  for (int row = 1; row <= 8; ++row) r.TextAt(row, 2, "UNDER", 0x24);
+  Feed(r.Finish());
+  QImage scaled(screen_->size() * 1.5, QImage::Format_RGB32);
+  scaled.setDevicePixelRatio(1.5);
+  screen_->render(&scaled);
+  QSet<int> thicknesses;
+  for (int row = 0; row < 8; ++row) {
+    const QRect cell = screen_->CellRectangle(row, 2);
+    const int x = static_cast<int>((cell.left() + 2) * 1.5);
+    int dark = 0;
+    for (int y = static_cast<int>((cell.top() + ch) * 1.5);
+         y < static_cast<int>((cell.bottom() + 3) * 1.5) && y < scaled.height(); ++y) {
+      dark += qGray(scaled.pixel(x, y)) < 128 ? 1 : 0;
+    }
+    thicknesses.insert(dark);
+  }
+  QCOMPARE(thicknesses.size(), 1);
 }
 
 void HostScreenWidgetTest::showsDoubleByteCharactersInTwoCells() {
