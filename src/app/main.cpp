@@ -46,6 +46,7 @@ int main(int argc, char** argv) {
     std::fputs(kUsage, stderr);
     return 2;
   }
+  veltrix::FitDialogsToTheirCaptions();
   veltrix::MainWindow window;
   veltrix::InstallHostSession(window);
   veltrix::InstallDownload(window);

@@ -23,6 +23,7 @@
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 #include "shell/summary_view.h"
+#include "shell/window_extensions_qt.h"
 #include "support/fake_ports.h"
 
 using namespace veltrix;
@@ -194,6 +195,14 @@ class MainWindowTest : public QObject {
     QCOMPARE(window_->product_box()->currentIndex(), 1);
     QVERIFY(window_->isWindowModified());
     QVERIFY(!window_->action(kCmdUndo)->isEnabled());
+  }
+
+  void dialogsAreAsWideAsTheirCaptions() {
+    FitDialogsToTheirCaptions();
+    QDialog dialog;
+    dialog.setWindowTitle(QStringLiteral("Advanced Barcode Settings"));
+    dialog.show();
+    QVERIFY(dialog.width() >= CaptionWidth(dialog.windowTitle()));
   }
 
   void saveAsThenOpenRoundTrip() {

@@ -145,6 +145,7 @@ QWidget* WirelessLanPage::BuildSecurity() {
   auto* eap_row = new QHBoxLayout;
   eap_row->addWidget(identity_label);
   eap_row->addWidget(identity, 1);
+  eap_row->addSpacing(12);  // room between the identity and the password's label
   eap_row->addWidget(password_label);
   eap_row->addWidget(password, 1);
   grid->addLayout(eap_row, 0, 1, 1, 3);

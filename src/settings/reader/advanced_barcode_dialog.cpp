@@ -110,6 +110,12 @@ AdvancedBarcodeDialog::AdvancedBarcodeDialog(Document& doc, QWidget* parent)
   AddFormRow(alarm_grid, 0, tr("Beeper Sequence"), alarm_beeper_);
   AddFormRow(alarm_grid, 1, tr("Vibrator time(0.1s)"), vibrator_);
   alarm_grid->setColumnStretch(2, 1);
+  // The two beeper edits line up: both groups give their first column one width.
+  const int label_column =
+      std::max({add_prefix_->sizeHint().width(), add_suffix_->sizeHint().width(),
+                fontMetrics().horizontalAdvance(tr("Vibrator time(0.1s)")) + 8});
+  data_grid->setColumnMinimumWidth(0, label_column);
+  alarm_grid->setColumnMinimumWidth(0, label_column);
 
   check_leading_->setChecked(state_.check_leading_code);
   read_partial_->setChecked(state_.read_partial_code);
