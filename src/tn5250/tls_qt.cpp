@@ -51,7 +51,10 @@ bool ConfigureTls(QSslSocket& socket, const QString& ca_file, std::string* reaso
   if (!ca_file.isEmpty()) {
     const QList<QSslCertificate> extra = QSslCertificate::fromPath(ca_file, QSsl::Pem);
     if (extra.isEmpty()) {
-      if (reason != nullptr) *reason = "'" + ca_file.toStdString() + "' holds no PEM certificate";
+      if (reason != nullptr) {
+        *reason =
+            std::string("'").append(ca_file.toStdString()).append("' holds no PEM certificate");
+      }
       return false;
     }
     configuration.addCaCertificates(extra);
@@ -66,8 +69,8 @@ CertificateFacts FactsOf(const QSslCertificate& certificate, const QList<QSslErr
   facts.issuer = NameText(certificate, true);
   facts.valid_from = DateText(certificate.effectiveDate());
   facts.valid_until = DateText(certificate.expiryDate());
-  facts.fingerprint =
-      "SHA256:" + certificate.digest(QCryptographicHash::Sha256).toHex().toUpper().toStdString();
+  facts.fingerprint = std::string("SHA256:").append(
+      certificate.digest(QCryptographicHash::Sha256).toHex().toUpper().toStdString());
   for (const QSslError& error : errors) {
     const CertificateProblem problem = ProblemOf(error.error());
     if (problem == CertificateProblem::kOther && facts.other.empty()) {
@@ -98,15 +101,16 @@ std::string SecurityText(const QSslSocket& socket) {
 
 std::string TlsFailureText(const QSslSocket& socket) {
   if (socket.error() == QAbstractSocket::SslHandshakeFailedError) {
-    return "the host did not answer in TLS (a plain Telnet port?): " +
-           socket.errorString().toStdString();
+    return std::string("the host did not answer in TLS (a plain Telnet port?): ")
+        .append(socket.errorString().toStdString());
   }
   return socket.errorString().toStdString();
 }
 
 std::string TlsSilentText(int seconds) {
-  return "the host did not answer in TLS within " + std::to_string(seconds) +
-         " seconds (a plain Telnet port?)";
+  return std::string("the host did not answer in TLS within ")
+      .append(std::to_string(seconds))
+      .append(" seconds (a plain Telnet port?)");
 }
 
 }  // namespace veltrix
