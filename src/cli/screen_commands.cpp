@@ -10,6 +10,7 @@
 #include "cli/cli_args.h"
 #include "cli/cli_command.h"
 #include "cli/settings_input.h"
+#include "resources/hex_text.h"
 #include "resources/json_writer.h"
 #include "settings/atomic_file.h"
 #include "settings/field.h"
@@ -19,15 +20,7 @@
 namespace veltrix::cli {
 namespace {
 
-std::string Hex(std::span<const std::uint8_t> bytes) {
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string out;
-  for (std::uint8_t b : bytes) {
-    out += kDigits[b >> 4];
-    out += kDigits[b & 0x0F];
-  }
-  return out;
-}
+std::string Hex(std::span<const std::uint8_t> bytes) { return HexBytes(bytes); }
 
 // A row of a screen image as its display bytes, empty cells as blanks.
 std::string RowBytes(const PageRecord& page, int row, int columns) {

@@ -5,6 +5,8 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "resources/hex_text.h"
+
 namespace veltrix {
 namespace {
 
@@ -27,10 +29,7 @@ std::string Cat(std::initializer_list<std::string_view> parts) {
   return text;
 }
 
-std::string Hex(unsigned value) {
-  constexpr char kDigits[] = "0123456789ABCDEF";
-  return {kDigits[(value >> 4) & 0xF], kDigits[value & 0xF]};
-}
+std::string Hex(unsigned value) { return HexByte(static_cast<std::uint8_t>(value)); }
 
 void AppendS3(std::vector<std::uint8_t>& text, std::uint32_t address,
               std::span<const std::uint8_t> data) {

@@ -4,12 +4,11 @@
 #include <charconv>
 #include <cstdio>
 
+#include "resources/hex_text.h"
 #include "settings/field_registry.h"
 
 namespace veltrix {
 namespace {
-
-constexpr char kHexDigits[] = "0123456789ABCDEF";
 
 // Appended, not "'" + string: GCC 12 at -O3 takes that for an overlapping copy.
 std::string Quoted(std::string_view text) { return std::string("'").append(text).append("'"); }
@@ -35,8 +34,7 @@ std::string HexPairs(std::span<const std::uint8_t> bytes) {
   std::string text;
   for (std::uint8_t b : bytes) {
     if (!text.empty()) text += ' ';
-    text += kHexDigits[b >> 4];
-    text += kHexDigits[b & 0x0F];
+    AppendHexByte(text, b);
   }
   return text;
 }

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "resources/hex_text.h"
+
 namespace veltrix {
 namespace {
 
@@ -30,13 +32,12 @@ std::string KeyName(std::uint8_t value) {
 }  // namespace
 
 std::string KeyNamesText(std::span<const std::uint8_t> bytes, int count, KeyNameMode mode) {
-  constexpr char kHexDigits[] = "0123456789ABCDEF";
   const std::size_t n = count <= 0 ? 0 : std::min(bytes.size(), static_cast<std::size_t>(count));
   std::string text;
   for (std::size_t i = 0; i < n; ++i) {
     std::string item;
     if (mode == KeyNameMode::kHex) {
-      item = {kHexDigits[bytes[i] >> 4], kHexDigits[bytes[i] & 0x0F], ' '};
+      item = HexByte(bytes[i]) + ' ';
     } else {
       if (bytes[i] == 0) break;
       item = KeyName(bytes[i]) + ' ';

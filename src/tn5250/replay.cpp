@@ -1,8 +1,8 @@
 #include "tn5250/replay.h"
 
 #include <array>
-#include <cstdio>
 
+#include "resources/hex_text.h"
 #include "resources/json_writer.h"
 #include "tn5250/display_text.h"
 #include "tn5250/double_byte.h"
@@ -46,11 +46,7 @@ constexpr std::array<KeyName, 27> kKeyNames = {{
     {"F12", HostKey::kF12},
 }};
 
-std::string Hex2(unsigned v) {
-  char buf[8];
-  std::snprintf(buf, sizeof buf, "%02X", v & 0xFF);
-  return buf;
-}
+std::string Hex2(unsigned v) { return HexByte(static_cast<std::uint8_t>(v)); }
 
 std::string Hex4(unsigned hi, unsigned lo) { return Hex2(hi) + Hex2(lo); }
 

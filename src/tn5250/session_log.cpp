@@ -3,6 +3,8 @@
 #include <ctime>
 #include <system_error>
 
+#include "resources/hex_text.h"
+
 namespace veltrix {
 
 LocalTime SystemLocalClock::Now() const {
@@ -55,14 +57,16 @@ std::string LogTimeStamp(const LocalTime& t) {
 }
 
 std::string LogDataLine(std::span<const std::uint8_t> bytes, std::span<const std::uint8_t> masked) {
-  static constexpr char kHex[] = "0123456789ABCDEF";
   std::string line;
   line.reserve(bytes.size() * 3 + 2);
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     const std::uint8_t b = bytes[i];
     const bool hide = i < masked.size() && masked[i] != 0;
-    line += hide ? '*' : kHex[b >> 4];
-    line += hide ? '*' : kHex[b & 0x0F];
+    if (hide) {
+      line += "**";
+    } else {
+      AppendHexByte(line, b);
+    }
     line += ' ';
   }
   line += "\r\n";

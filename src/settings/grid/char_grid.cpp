@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
+
+#include "resources/hex_text.h"
 
 namespace veltrix {
 namespace {
@@ -13,11 +14,7 @@ constexpr std::array<std::string_view, 0x21> kControlNames = {
     "Right", "PgUp", "Enter", "PgDn", "F1",  "F2",  "F3",   "F4",   "F5", "F6", "F7",
     "F8",    "F9",   "F10",   "F11",  "F12", "ESC", "Exec", "",     "",   "",   "SP"};
 
-std::string Hex(unsigned value) {
-  char text[4];
-  std::snprintf(text, sizeof text, "%02X", value & 0xFF);
-  return text;
-}
+std::string Hex(unsigned value) { return HexByte(static_cast<std::uint8_t>(value)); }
 
 }  // namespace
 
