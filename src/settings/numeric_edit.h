@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace veltrix {
 
@@ -16,6 +17,16 @@ struct NumericEdit {
 
   bool operator==(const NumericEdit&) const = default;
 };
+
+// The one reading of typed numbers behind every number rule.
+// Blanks at both ends taken off.
+std::string_view TrimBlanks(std::string_view text);
+// Decimal digits only: their value, saturating at 2^40 so that a long string counts as too
+// large rather than wrapping; nothing for an empty text or any other character.
+std::optional<std::int64_t> ParseDigits(std::string_view digits);
+// Optional blanks, an optional sign, digits, optional blanks; nothing for anything else or for
+// a value beyond 32 bits.
+std::optional<std::int64_t> ParseDecimal(std::string_view text);
 
 }  // namespace veltrix
 

@@ -1,15 +1,7 @@
 #include "settings/emulation/number_edit.h"
 
-#include <limits>
-
 namespace veltrix {
 namespace {
-
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
 
 bool HasLeadingZero(std::string_view text) { return text.size() >= 2 && text.front() == '0'; }
 
@@ -24,23 +16,6 @@ NumericEdit Clamped(std::string_view text, std::int64_t low, std::int64_t high) 
 }
 
 }  // namespace
-
-std::optional<std::int64_t> ParseDecimal(std::string_view text) {
-  text = Trim(text);
-  bool negative = false;
-  if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
-    negative = text.front() == '-';
-    text.remove_prefix(1);
-  }
-  if (text.empty()) return std::nullopt;
-  std::int64_t value = 0;
-  for (char c : text) {
-    if (c < '0' || c > '9') return std::nullopt;
-    value = value * 10 + (c - '0');
-    if (value > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
-  }
-  return negative ? -value : value;
-}
 
 // A number kept in its low bits, as the record stores it: the edit shows the stored value when
 // that is not the number typed (70000 becomes 4464).

@@ -12,10 +12,6 @@ namespace veltrix {
 
 // The numeric edits of the Wireless LAN and Emulation pages.
 
-// The text as a decimal number: optional blanks, an optional sign, digits, optional blanks.
-// Anything else, or a value beyond 32 bits, is not a number.
-std::optional<std::int64_t> ParseDecimal(std::string_view text);
-
 // "Telnet Port :": a number is stored modulo 65536; anything else stores 0 and a non-empty text
 // becomes "0".
 NumericEdit TelnetPortEdit(std::string_view text);
