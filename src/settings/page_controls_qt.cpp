@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QSpinBox>
 #include <QVariant>
 #include <algorithm>
@@ -66,12 +68,36 @@ class RuleSpinBox : public QSpinBox {
 
 }  // namespace
 
-QLineEdit* MakeNumberEdit(const QString& name, int characters) {
+QLineEdit* MakeEdit(const QString& name, const EditShape& shape) {
   auto* edit = new QLineEdit;
   edit->setObjectName(name);
-  SetTypingLimit(edit, characters);
-  edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QString(characters + 2, '0')) + 12);
+  const int width =
+      shape.number ? edit->fontMetrics().horizontalAdvance(QString(shape.characters + 2, '0')) + 12
+                   : edit->fontMetrics().horizontalAdvance(QString(shape.characters, 'x')) + 12;
+  switch (shape.width) {
+    case EditShape::Width::kAtLeast:
+      edit->setMinimumWidth(width);
+      break;
+    case EditShape::Width::kAtMost:
+      edit->setMaximumWidth(width);
+      break;
+    case EditShape::Width::kFixed:
+      edit->setFixedWidth(width);
+      break;
+  }
+  if (shape.limit_typing) SetTypingLimit(edit, shape.characters);
+  if (shape.digits_only) {
+    edit->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), edit));
+  }
+  if (shape.right_aligned) edit->setAlignment(Qt::AlignRight);
   return edit;
+}
+
+QLineEdit* MakeNumberEdit(const QString& name, int characters) {
+  return MakeEdit(name, {.width = EditShape::Width::kAtMost,
+                         .characters = characters,
+                         .number = true,
+                         .limit_typing = true});
 }
 
 void SetTypingLimit(QLineEdit* edit, int characters) {

@@ -25,6 +25,16 @@ namespace veltrix {
 
 QCheckBox* MakeCheck(const QString& name, const QString& caption);
 QComboBox* MakeCombo(const QString& name, std::span<const std::string_view> entries);
+// The one edit factory of the pages and dialogs. How an edit is sized and what it takes:
+struct EditShape {
+  enum class Width { kAtLeast, kAtMost, kFixed } width = Width::kAtLeast;
+  int characters = 10;        // the width in characters ('x', or '0' for numbers)
+  bool number = false;        // sized by digits, two spare
+  bool limit_typing = false;  // takes at most `characters` as typed
+  bool digits_only = false;   // other keys are refused
+  bool right_aligned = false;
+};
+QLineEdit* MakeEdit(const QString& name, const EditShape& shape);
 // A number edit about `characters` digits wide that takes at most `characters` as typed.
 QLineEdit* MakeNumberEdit(const QString& name, int characters);
 // A new typing limit for a number edit (the Barcode page's box 201 takes 3 or 1 digits).

@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegularExpressionValidator>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -28,13 +27,10 @@ namespace veltrix {
 namespace {
 
 QLineEdit* Edit(const char* name, int characters, bool digits_only) {
-  auto* edit = new QLineEdit;
-  edit->setObjectName(name);
-  edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QString(characters + 2, '0')) + 12);
-  if (digits_only) {
-    edit->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), edit));
-  }
-  return edit;
+  return MakeEdit(name, {.width = EditShape::Width::kAtMost,
+                         .characters = characters,
+                         .number = true,
+                         .digits_only = digits_only});
 }
 
 constexpr std::string_view kFontSizes[] = {"Small (6x8)", "Large (8x16)"};

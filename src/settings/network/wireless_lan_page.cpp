@@ -26,10 +26,7 @@ namespace veltrix {
 namespace {
 
 QLineEdit* Edit(const char* name, int characters) {
-  auto* edit = new QLineEdit;
-  edit->setObjectName(name);
-  edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(QString(characters, 'x')) + 12);
-  return edit;
+  return MakeEdit(name, {.characters = characters});
 }
 
 }  // namespace

@@ -26,12 +26,7 @@ namespace {
 constexpr std::array<std::string_view, 2> kScanControls{"Always enable after login",
                                                         "Controled by 5250 command"};
 
-QLineEdit* GridEdit(const char* name) {
-  auto* edit = new QLineEdit;
-  edit->setObjectName(name);
-  edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(QString(30, 'x')));
-  return edit;
-}
+QLineEdit* GridEdit(const char* name) { return MakeEdit(name, {.characters = 30}); }
 
 // The prefix or suffix key codes, through the grid editor's key names (at most nine).
 void AttachKeyCodes(QLineEdit* edit, std::vector<std::uint8_t>& codes) {

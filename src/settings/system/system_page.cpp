@@ -19,6 +19,7 @@
 #include "resources/fixed_font_qt.h"
 #include "resources/text_qt.h"
 #include "settings/field_binder_qt.h"
+#include "settings/page_controls_qt.h"
 #include "settings/rewriting_edit_qt.h"
 #include "settings/system/system_rules.h"
 
@@ -35,12 +36,10 @@ QRadioButton* AddRadio(QButtonGroup* group, const QString& text, int id, const c
 }
 
 QLineEdit* NumberEdit(const char* name, int digits) {
-  auto* edit = new QLineEdit;
-  edit->setObjectName(name);
-  edit->setAlignment(Qt::AlignRight);
-  const int width = edit->fontMetrics().horizontalAdvance(QString(digits + 2, '0'));
-  edit->setFixedWidth(width + 12);
-  return edit;
+  return MakeEdit(name, {.width = EditShape::Width::kFixed,
+                         .characters = digits,
+                         .number = true,
+                         .right_aligned = true});
 }
 
 }  // namespace
