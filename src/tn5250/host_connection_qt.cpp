@@ -90,7 +90,10 @@ void HostConnectionQt::OpenSocket() {
   }
   std::string reason;
   if (!ConfigureTls(*socket_, ca_file_, &reason)) {
-    FailConnecting(QString::fromStdString(reason));
+    // As a socket reports it: after Connect has returned, so the window knows it is connecting.
+    QTimer::singleShot(0, this, [this, reason, attempt = attempt_] {
+      if (attempt == attempt_) FailConnecting(QString::fromStdString(reason));
+    });
     return;
   }
   connect(socket_, &QSslSocket::encrypted, this, &HostConnectionQt::OnSocketConnected);
