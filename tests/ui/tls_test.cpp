@@ -20,6 +20,7 @@
 #include "demo_host/demo_host_server.h"
 #include "settings/document.h"
 #include "settings/field_registry.h"
+#include "support/modal.h"
 #include "tn5250/certificate_dialog.h"
 #include "tn5250/host_connection_qt.h"
 #include "tn5250/host_ip_dialog.h"
@@ -78,6 +79,7 @@ class TlsTest : public QObject {
   void verifiedHostSignsOn();
   void certificateQuestions_data();
   void certificateQuestions();
+  void theCertificateWindowAnswersTheConnection();
   void trustedCertificateThatChangesIsAWarning();
   void plainTelnetPortFailsClearly();
   void stunnelInFrontOfThePlainHost();
@@ -230,6 +232,25 @@ void TlsTest::certificateQuestions() {
   host_->DisconnectFromHost();
   QVERIFY(Connect(server_->port()));
   QCOMPARE(questions_.size(), always ? std::size_t{1} : std::size_t{2});
+}
+
+// The real Certificate window, answered as a user does: "Connect this time" connects.
+void TlsTest::theCertificateWindowAnswersTheConnection() {
+  StartHost("self-signed.pem");
+  auto fresh = std::make_unique<HostConnectionQt>(screen_.get());
+  screen_->SetConnection(&fresh->connection());
+  host_ = std::move(fresh);
+  host_->SetTrustFile(dir_->filePath(QStringLiteral("config/veltrix/trusted")).toStdString());
+  host_->SetErrorSink([this](const QString& text) { errors_ << text; });
+  testing::WhenModal([](QWidget* w) {
+    auto* dialog = qobject_cast<CertificateDialog*>(w);
+    QVERIFY(dialog != nullptr);
+    QVERIFY(dialog->findChild<QLabel*>("reason")->text().contains(QStringLiteral("self-signed")));
+    dialog->button(Answer::kConnectOnce)->click();
+  });
+  QVERIFY(Connect(server_->port()));
+  QTRY_VERIFY(screen_->RowText(0).contains(QStringLiteral("Sign On")));
+  QVERIFY(errors_.isEmpty());
 }
 
 void TlsTest::trustedCertificateThatChangesIsAWarning() {
