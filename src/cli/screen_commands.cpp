@@ -20,8 +20,6 @@
 namespace veltrix::cli {
 namespace {
 
-std::string Hex(std::span<const std::uint8_t> bytes) { return HexBytes(bytes); }
-
 // A row of a screen image as its display bytes, empty cells as blanks.
 std::string RowBytes(const PageRecord& page, int row, int columns) {
   std::string bytes;
@@ -146,8 +144,8 @@ void ExplanationJson(const Explanation& why, JsonWriter& json) {
         .Field("b", d.b + 1)
         .Field("row", d.cell.row + 1)
         .Field("column", d.cell.column + 1)
-        .Field("first", Hex({&d.first, 1}))
-        .Field("second", Hex({&d.second, 1}))
+        .Field("first", HexBytes({&d.first, 1}))
+        .Field("second", HexBytes({&d.second, 1}))
         .End();
   }
   json.End().Key("inseparable").Array();
@@ -284,9 +282,9 @@ int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
             .Field("row", f.row + 1)
             .Field("column", f.column + 1)
             .Field("length", f.length)
-            .Field("ffw", Hex(ffw))
-            .Field("fcw", Hex(fcw))
-            .Field("attribute", Hex({&f.attribute, 1}))
+            .Field("ffw", HexBytes(ffw))
+            .Field("fcw", HexBytes(fcw))
+            .Field("attribute", HexBytes({&f.attribute, 1}))
             .Field("next", f.next)
             .Field("previous", f.previous)
             .End();
@@ -299,8 +297,8 @@ int RunScreensCommand(std::span<const std::string> args, CliIo& io) {
     for (const FieldEntry& f : fields) {
       const std::uint8_t ffw[] = {f.format1, f.format2};
       io.out << "field number=" << f.number << " row=" << f.row + 1 << " column=" << f.column + 1
-             << " length=" << f.length << " ffw=" << Hex(ffw)
-             << " attribute=" << Hex({&f.attribute, 1}) << '\n';
+             << " length=" << f.length << " ffw=" << HexBytes(ffw)
+             << " attribute=" << HexBytes({&f.attribute, 1}) << '\n';
     }
   }
   if (json) io.out << out.End().End().text() << '\n';
@@ -358,7 +356,7 @@ int RunIdentifyCommand(std::span<const std::string> args, CliIo& io) {
     out.End().Field("strategy", id.run.strategy).Key("cells").Array();
     for (const ScreenCell& cell : id.cells) CellJson(cell, out);
     out.End().Key("strings").Array();
-    for (const int page : id.pages) out.Value(Hex(id.strings[static_cast<std::size_t>(page)]));
+    for (const int page : id.pages) out.Value(HexBytes(id.strings[static_cast<std::size_t>(page)]));
     out.End();
     if (explain) ExplanationJson(why, out.Key("explain"));
     io.out << out.End().text() << '\n';
