@@ -6,11 +6,13 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QSignalBlocker>
+#include <QSpinBox>
 #include <QWidget>
 
 #include "resources/text_qt.h"
 #include "settings/emulation/key_mapping.h"
+#include "settings/grid/grid_dialog.h"
+#include "settings/page_controls_qt.h"
 #include "settings/rewriting_edit_qt.h"
 
 namespace veltrix {
@@ -18,54 +20,91 @@ namespace veltrix {
 FieldBinder::FieldBinder(Document& doc, QWidget* page) : QObject(page), doc_(doc), page_(page) {}
 
 void FieldBinder::Bind(std::span<const FieldBinding> table) {
+  tables_.push_back(table);
   for (const FieldBinding& b : table) {
+    if (b.on_ok && !pending_) pending_ = std::make_unique<Document>(doc_);
     const QString name = QtText(b.control);
     QObject* control = page_->findChild<QObject*>(name);
     Q_ASSERT_X(control != nullptr, "FieldBinder", qPrintable(name));
     if (control == nullptr) continue;
     bound_.push_back({&b, control});
     const Bound bound = bound_.back();
+    const auto store_value = [this, bound](std::int64_t value) {
+      if (loading_) return;
+      Stored(bound.control, StoreBoundValue(DocOf(*bound.binding), *bound.binding, value));
+    };
     switch (b.kind) {
       case ControlKind::kCheckBox:
-        connect(qobject_cast<QAbstractButton*>(control), &QAbstractButton::clicked, this,
-                [this, bound](bool checked) {
-                  Stored(bound.control, StoreBoundValue(doc_, *bound.binding, checked ? 1 : 0));
-                });
+        connections_.push_back(
+            connect(qobject_cast<QAbstractButton*>(control), &QAbstractButton::clicked, this,
+                    [store_value](bool checked) { store_value(checked ? 1 : 0); }));
         break;
       case ControlKind::kRadioGroup:
-        connect(qobject_cast<QButtonGroup*>(control), &QButtonGroup::idClicked, this,
-                [this, bound](int id) {
-                  Stored(bound.control, StoreBoundValue(doc_, *bound.binding, id));
-                });
+        connections_.push_back(connect(qobject_cast<QButtonGroup*>(control),
+                                       &QButtonGroup::idClicked, this, store_value));
         break;
       case ControlKind::kList:
       case ControlKind::kKeyCombo:
-        connect(qobject_cast<QComboBox*>(control), &QComboBox::currentIndexChanged, this,
-                [this, bound](int index) {
-                  if (loading_) return;
-                  Stored(bound.control, StoreBoundValue(doc_, *bound.binding, index));
-                });
+        connections_.push_back(connect(qobject_cast<QComboBox*>(control),
+                                       &QComboBox::currentIndexChanged, this, store_value));
+        break;
+      case ControlKind::kSpinBox:
+        connections_.push_back(
+            connect(qobject_cast<QSpinBox*>(control), &QSpinBox::valueChanged, this, store_value));
         break;
       case ControlKind::kNumberEdit:
-        BindRewritingEdit(
-            qobject_cast<QLineEdit*>(control),
-            [this, bound](const std::string& text) {
-              const BindingOutcome outcome = StoreBoundText(doc_, *bound.binding, text);
-              Stored(bound.control, outcome);
-              return outcome.rewrite;
-            },
-            [this] { return !loading_; });
-        break;
       case ControlKind::kTextEdit: {
         auto* edit = qobject_cast<QLineEdit*>(control);
-        connect(edit, &QLineEdit::textChanged, this, [this, bound](const QString& text) {
-          if (loading_) return;
-          Stored(bound.control, StoreBoundText(doc_, *bound.binding, ToRecordText(text)));
-        });
+        const auto store_text = [this, bound](const std::string& text) {
+          const BindingOutcome outcome =
+              StoreBoundText(DocOf(*bound.binding), *bound.binding, text);
+          Stored(bound.control, outcome);
+          return outcome.rewrite;
+        };
+        if (b.kind == ControlKind::kNumberEdit) {
+          connections_.push_back(BindRewritingEdit(edit, store_text, [this] { return !loading_; }));
+          connections_.push_back(KeepTypingLimit(edit));
+        } else {
+          connections_.push_back(
+              connect(edit, &QLineEdit::textChanged, this, [this, store_text](const QString& text) {
+                if (!loading_) store_text(ToRecordText(text));
+              }));
+        }
         break;
       }
+      case ControlKind::kGridEdit:
+        // The grid editor stays attached for the dialog's life: grid edits are never unbound.
+        AttachGridEditor(
+            qobject_cast<QLineEdit*>(control),
+            {b.grid, [limit = b.grid_limit] { return limit; },
+             [this, bound] { return BoundBytes(DocOf(*bound.binding), *bound.binding); },
+             [this, bound](std::span<const std::uint8_t> bytes) {
+               StoreBoundBytes(DocOf(*bound.binding), *bound.binding, bytes);
+               Stored(nullptr, {});
+             }});
+        break;
     }
   }
+}
+
+void FieldBinder::Unbind() {
+  for (const QMetaObject::Connection& c : connections_) disconnect(c);
+  connections_.clear();
+  bound_.clear();
+  tables_.clear();
+}
+
+void FieldBinder::Commit() {
+  for (const Bound& b : bound_) {
+    if (auto* spin = qobject_cast<QSpinBox*>(b.control)) spin->interpretText();
+  }
+  if (!pending_) return;
+  for (std::span<const FieldBinding> table : tables_) CommitBound(doc_, *pending_, table);
+}
+
+void FieldBinder::Revert() {
+  if (pending_) *pending_ = doc_;
+  Load();
 }
 
 void FieldBinder::Stored(const QObject* source, const BindingOutcome& outcome) {
@@ -84,8 +123,9 @@ void FieldBinder::Load() { Load(nullptr); }
 void FieldBinder::Load(const QObject* except) {
   loading_ = true;
   for (const Bound& b : bound_) {
-    const bool enabled = BoundEnabled(doc_, *b.binding);
-    const std::int64_t value = BoundValue(doc_, *b.binding);
+    const Document& doc = DocOf(*b.binding);
+    const bool enabled = BoundEnabled(doc, *b.binding);
+    const std::int64_t value = BoundValue(doc, *b.binding);
     if (auto* group = qobject_cast<QButtonGroup*>(b.control)) {
       for (QAbstractButton* button : group->buttons()) button->setEnabled(enabled);
     } else if (auto* widget = qobject_cast<QWidget*>(b.control)) {
@@ -106,14 +146,27 @@ void FieldBinder::Load(const QObject* except) {
       case ControlKind::kKeyCombo:
         qobject_cast<QComboBox*>(b.control)->setCurrentIndex(static_cast<int>(value));
         break;
+      case ControlKind::kSpinBox:
+        qobject_cast<QSpinBox*>(b.control)->setValue(static_cast<int>(value));
+        break;
       case ControlKind::kNumberEdit:
       case ControlKind::kTextEdit: {
         auto* edit = qobject_cast<QLineEdit*>(b.control);
-        const QString text = FromRecordText(BoundText(doc_, *b.binding));
-        // An unchanged text is left alone, with its caret and selection.
-        if (edit->text() != text) edit->setText(text);
+        const QString text = FromRecordText(BoundText(doc, *b.binding));
+        // An unchanged text is left alone, with its caret and selection; a stored number shows in
+        // full even when it is longer than the box takes as typed.
+        if (edit->text() == text) break;
+        if (b.binding->kind == ControlKind::kNumberEdit) {
+          ShowNumber(edit, text);
+        } else {
+          edit->setText(text);
+        }
         break;
       }
+      case ControlKind::kGridEdit:
+        qobject_cast<QLineEdit*>(b.control)->setText(
+            QtText(GridDisplayText(b.binding->grid, BoundBytes(doc, *b.binding))));
+        break;
     }
   }
   loading_ = false;

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <functional>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -13,11 +14,12 @@ class QWidget;
 
 namespace veltrix {
 
-// Wires a page's controls to the record through its binding table: each control is found by its
-// object name among the page's children (a QCheckBox, QButtonGroup, QComboBox or QLineEdit, as
-// the binding's kind says), loaded from the record, and stores what the user does at once.
-// After every store the other bound controls are loaded again, so that rules that change more
-// than one field (and the enabling that follows the record) show at once.
+// Wires a page's or dialog's controls to the record through its binding table: each control is
+// found by its object name among the page's children (a QCheckBox, QButtonGroup, QComboBox,
+// QSpinBox or QLineEdit, as the binding's kind says), loaded from the record, and stores what the
+// user does at once. Lines stored on OK keep the user's values in the binder's copy of the
+// document until Commit(). After every store the other bound controls are loaded again, so that
+// rules that change more than one field (and the enabling that follows the record) show at once.
 class FieldBinder : public QObject {
   Q_OBJECT
 
@@ -31,6 +33,15 @@ class FieldBinder : public QObject {
   // Called after every store the user made (for what the table cannot say: labels, lists).
   void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
+  // The document the on-OK lines edit until OK (the record itself when there are none).
+  Document& Pending() { return pending_ ? *pending_ : doc_; }
+  // OK: takes what is typed in the spin boxes and stores every on-OK line into the record.
+  void Commit();
+  // Drops what the on-OK lines hold and shows the record again.
+  void Revert();
+  // Forgets every bound control (the controls stay as they are).
+  void Unbind();
+
  private:
   struct Bound {
     const FieldBinding* binding;
@@ -38,10 +49,14 @@ class FieldBinder : public QObject {
   };
   void Load(const QObject* except);
   void Stored(const QObject* source, const BindingOutcome& outcome);
+  Document& DocOf(const FieldBinding& b) { return b.on_ok ? Pending() : doc_; }
 
   Document& doc_;
   QWidget* page_;
+  std::unique_ptr<Document> pending_;
+  std::vector<std::span<const FieldBinding>> tables_;
   std::vector<Bound> bound_;
+  std::vector<QMetaObject::Connection> connections_;
   bool loading_ = false;
   std::function<void()> changed_;
 };

@@ -36,11 +36,8 @@ QComboBox* MakeCombo(const QString& name, std::span<const std::string_view> entr
 
 namespace {
 
-// Properties of a number edit: the typing limit, the stored value it shows, and whether the
-// user has edited it since.
+// A number edit's typing limit (a stored value may show longer).
 constexpr char kTypingLimit[] = "veltrix_typing_limit";
-constexpr char kStoredValue[] = "veltrix_stored_value";
-constexpr char kEdited[] = "veltrix_edited";
 
 // Digits only, as typed; the value follows the box's range.
 class RuleSpinBox : public QSpinBox {
@@ -105,32 +102,18 @@ void SetTypingLimit(QLineEdit* edit, int characters) {
   edit->setMaxLength(characters);
 }
 
-void ShowNumber(QLineEdit* edit, std::int64_t value) {
-  const QString text = QString::number(value);
+void ShowNumber(QLineEdit* edit, const QString& text) {
   const int limit = edit->property(kTypingLimit).isValid() ? edit->property(kTypingLimit).toInt()
                                                            : edit->maxLength();
   edit->setMaxLength(std::max(limit, static_cast<int>(text.size())));
-  edit->setProperty(kStoredValue, QVariant::fromValue(value));
-  edit->setProperty(kEdited, false);
   edit->setText(text);
 }
 
-void BindNumberBox(QLineEdit* edit, const NumberBoxRule& rule, std::function<bool()> active) {
-  BindRewritingEdit(
-      edit, [rule](const std::string& text) { return CorrectNumberText(text, rule).rewrite; },
-      std::move(active));
-  QObject::connect(edit, &QLineEdit::textEdited, edit, [edit] {
-    edit->setProperty(kEdited, true);
-    // Back to the typing limit once what is left fits it.
+QMetaObject::Connection KeepTypingLimit(QLineEdit* edit) {
+  return QObject::connect(edit, &QLineEdit::textEdited, edit, [edit] {
     const QVariant limit = edit->property(kTypingLimit);
     if (limit.isValid() && edit->text().size() <= limit.toInt()) edit->setMaxLength(limit.toInt());
   });
-}
-
-int NumberBoxValue(const QLineEdit* edit, const NumberBoxRule& rule) {
-  const QVariant stored = edit->property(kStoredValue);
-  if (stored.isValid() && !edit->property(kEdited).toBool()) return stored.toInt();
-  return static_cast<int>(CorrectNumberText(ToRecordText(edit->text()), rule).value);
 }
 
 QSpinBox* MakeRuleSpin(const QString& name, int value, int min, int max, int if_empty) {

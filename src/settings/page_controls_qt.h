@@ -1,12 +1,11 @@
 #ifndef VELTRIX_SETTINGS_PAGE_CONTROLS_QT_H_
 #define VELTRIX_SETTINGS_PAGE_CONTROLS_QT_H_
 
+#include <QMetaObject>
 #include <QString>
 #include <functional>
 #include <span>
 #include <string_view>
-
-#include "settings/reader/number_box.h"
 
 class QBoxLayout;
 class QButtonGroup;
@@ -39,15 +38,10 @@ QLineEdit* MakeEdit(const QString& name, const EditShape& shape);
 QLineEdit* MakeNumberEdit(const QString& name, int characters);
 // A new typing limit for a number edit (the Barcode page's box 201 takes 3 or 1 digits).
 void SetTypingLimit(QLineEdit* edit, int characters);
-// Shows a stored value in full, also one longer than the box takes when typed (a file's 120 in
-// a two-digit box), and keeps it: NumberBoxValue gives it back unchanged, whatever the box's
-// rule, until the user edits the box.
-void ShowNumber(QLineEdit* edit, std::int64_t value);
-// A number edit corrected under `rule` on every change the user makes (`active` is false while
-// the owner fills its controls), and the value it stands for: the shown stored value until the
-// user edits it, then the typed text under the rule.
-void BindNumberBox(QLineEdit* edit, const NumberBoxRule& rule, std::function<bool()> active);
-int NumberBoxValue(const QLineEdit* edit, const NumberBoxRule& rule);
+// Shows a stored number in full, also one longer than the box takes when typed (a file's 120 in
+// a two-digit box); the typing limit comes back once the user has edited it down (KeepTypingLimit).
+void ShowNumber(QLineEdit* edit, const QString& text);
+QMetaObject::Connection KeepTypingLimit(QLineEdit* edit);
 // A spin box of `min`..`max` that takes any digits as typed: a number above `max` counts as
 // `max`, below `min` as `min`, an empty box as `if_empty`; the box shows that value once the
 // typing ends (its value() after interpretText()).

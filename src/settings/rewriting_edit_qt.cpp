@@ -5,17 +5,19 @@
 
 namespace veltrix {
 
-void BindRewritingEdit(QLineEdit* edit, RewritingRule rule, std::function<bool()> active) {
-  QObject::connect(edit, &QLineEdit::textChanged, edit,
-                   [edit, rule = std::move(rule), active = std::move(active)](const QString& text) {
-                     if (!active()) return;
-                     const std::optional<std::string> corrected = rule(ToRecordText(text));
-                     if (!corrected || FromRecordText(*corrected) == text) return;
-                     // The correction is the rule's own: it is stored already.
-                     const QSignalBlocker quiet(edit);
-                     edit->setText(FromRecordText(*corrected));
-                     edit->selectAll();
-                   });
+QMetaObject::Connection BindRewritingEdit(QLineEdit* edit, RewritingRule rule,
+                                          std::function<bool()> active) {
+  return QObject::connect(
+      edit, &QLineEdit::textChanged, edit,
+      [edit, rule = std::move(rule), active = std::move(active)](const QString& text) {
+        if (!active()) return;
+        const std::optional<std::string> corrected = rule(ToRecordText(text));
+        if (!corrected || FromRecordText(*corrected) == text) return;
+        // The correction is the rule's own: it is stored already.
+        const QSignalBlocker quiet(edit);
+        edit->setText(FromRecordText(*corrected));
+        edit->selectAll();
+      });
 }
 
 QString FromRecordText(std::string_view text) {

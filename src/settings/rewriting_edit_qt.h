@@ -18,7 +18,8 @@ using RewritingRule = std::function<std::optional<std::string>(const std::string
 // rule. A corrected text is shown selected, so the next key typed replaces it: clearing the
 // edit and typing 600 stores 600, never the correction followed by 600. `active` says whether
 // changes are the user's (false while the page fills its controls).
-void BindRewritingEdit(QLineEdit* edit, RewritingRule rule, std::function<bool()> active);
+QMetaObject::Connection BindRewritingEdit(QLineEdit* edit, RewritingRule rule,
+                                          std::function<bool()> active);
 
 // The record's single-byte texts: one character per byte.
 QString FromRecordText(std::string_view text);

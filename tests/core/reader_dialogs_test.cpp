@@ -9,6 +9,7 @@
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/rfid_options.h"
+#include "support/binding_driver.h"
 
 namespace veltrix {
 namespace {
@@ -46,22 +47,26 @@ TEST(AdvancedSettings, OkWithoutChangesKeepsTheRecord) {
   for (int product : {1, 2, 3}) {
     auto doc = testing::DefaultDocument(product);
     const auto before = doc->record;
-    ApplyAdvancedSettings(*doc, OpenAdvancedSettings(*doc));
+    testing::BindingDriver(*doc, AdvancedBindings()).Ok();
+    ApplyAdvancedSettings(*doc);
     EXPECT_EQ(before, doc->record) << product;
   }
 }
 
+// Stored lengths (from a file) as OK leaves them: the maximum 1-50 or 50, the start 1..maximum.
 TEST(AdvancedSettings, OkLimitsTheStartToTheMaximum) {
   struct Case {
     int start, maximum, stored_start, stored_maximum;
   };
   for (const Case& c :
-       {Case{5, 3, 3, 3}, Case{0, 0, 1, 1}, Case{9, 60, 9, 50}, Case{4, 20, 4, 20}}) {
+       {Case{5, 3, 3, 3}, Case{0, 0, 1, 50}, Case{9, 60, 9, 50}, Case{4, 20, 4, 20}}) {
     auto doc = testing::DefaultDocument(1);
-    AdvancedState state = OpenAdvancedSettings(*doc);
-    state.start_position = c.start;
-    state.maximum_length = c.maximum;
-    ApplyAdvancedSettings(*doc, state);
+    doc->record[kStartPosition.offset] = static_cast<std::uint8_t>(c.start);
+    doc->record[kMaximumLength.offset] = static_cast<std::uint8_t>(c.maximum);
+    testing::BindingDriver dialog(*doc, AdvancedBindings());
+    EXPECT_EQ(c.stored_maximum, dialog.Value("maximum_length"));
+    dialog.Ok();
+    ApplyAdvancedSettings(*doc);
     EXPECT_EQ(c.stored_start, doc->record[kStartPosition.offset]) << c.start << "/" << c.maximum;
     EXPECT_EQ(c.stored_maximum, doc->record[kMaximumLength.offset]) << c.start << "/" << c.maximum;
   }
@@ -71,14 +76,18 @@ TEST(AdvancedSettings, OkLimitsTheStartToTheMaximum) {
 TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
   auto doc = testing::DefaultDocument(1);
   std::fill_n(doc->record.begin() + kLeadingCode.offset, 10, 0xEE);
-  AdvancedState state = OpenAdvancedSettings(*doc);
-  state.check_leading_code = true;
-  state.leading_code = "ABCDEFGHIJKL";
-  state.add_prefix_code = true;
-  state.prefix_code = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-  state.suffix_code = {0x41, 0, 0x42};
-  state.scan_control = 1;
-  ApplyAdvancedSettings(*doc, state);
+  testing::BindingDriver dialog(*doc, AdvancedBindings());
+  EXPECT_FALSE(dialog.Enabled("leading_code"));
+  dialog.Set("check_leading_code", 1);
+  EXPECT_TRUE(dialog.Enabled("leading_code"));
+  dialog.Type("leading_code", "ABCDEFGHIJKL");
+  dialog.Set("add_prefix_code", 1);
+  dialog.Pick("prefix_code", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+  dialog.Pick("suffix_code", {0x41, 0, 0x42});
+  dialog.Set("scan_control", 1);
+  EXPECT_EQ(doc->record[kScanControl.offset], 0);  // nothing before OK
+  dialog.Ok();
+  ApplyAdvancedSettings(*doc);
 
   const std::vector<std::uint8_t> leading(doc->record.begin() + 3737, doc->record.begin() + 3747);
   EXPECT_EQ((std::vector<std::uint8_t>{'A', 'B', 'C', 'D', 'E', 'F', 'G', 'H', 'I', 0}), leading);
@@ -88,26 +97,28 @@ TEST(AdvancedSettings, TextsAndKeyCodesAreCutAndZeroFilled) {
   EXPECT_EQ((std::vector<std::uint8_t>{0x41, 0, 0x42, 0, 0, 0, 0, 0, 0, 0}), suffix);
   EXPECT_EQ(1, doc->record[kScanControl.offset]);
 
-  const AdvancedState reopened = OpenAdvancedSettings(*doc);
-  EXPECT_EQ("ABCDEFGHI", reopened.leading_code);
-  EXPECT_EQ((std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8, 9}), reopened.prefix_code);
-  EXPECT_EQ((std::vector<std::uint8_t>{0x41, 0, 0x42}), reopened.suffix_code);
+  testing::BindingDriver reopened(*doc, AdvancedBindings());
+  EXPECT_EQ("ABCDEFGHI", reopened.Text("leading_code"));
+  EXPECT_EQ((std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8, 9}), reopened.Bytes("prefix_code"));
+  EXPECT_EQ((std::vector<std::uint8_t>{0x41, 0, 0x42}), reopened.Bytes("suffix_code"));
 }
 
 TEST(AdvancedSettings, Box214AndVibratorAreStoredOnlyForProduct3) {
   for (int product : {1, 2, 3}) {
     auto doc = testing::DefaultDocument(product);
     doc->record[kDataBox214.offset] = 7;
-    doc->record[kVibratorTime.offset] = 8;
-    AdvancedState state = OpenAdvancedSettings(*doc);
-    state.data_box214 = 20;
-    state.vibrator_time = 255;  // outside 0-254: 0
-    state.alarm_beeper_sequence[9] = 0x11;
-    ApplyAdvancedSettings(*doc, state);
+    doc->record[kVibratorTime.offset] = 255;  // from a file; outside 0-254 OK stores 0
+    testing::BindingDriver dialog(*doc, AdvancedBindings());
+    EXPECT_EQ(product == 3, dialog.Enabled("data_box214")) << product;
+    if (dialog.Enabled("data_box214")) dialog.Type("data_box214", "20");
+    std::vector<std::uint8_t> beeper(10, 0);
+    beeper[9] = 0x11;
+    dialog.Pick("alarm_beeper_sequence", beeper);
+    dialog.Ok();
+    ApplyAdvancedSettings(*doc);
     EXPECT_EQ(product == 3 ? 20 : 7, doc->record[kDataBox214.offset]) << product;
-    EXPECT_EQ(product == 3 ? 0 : 8, doc->record[kVibratorTime.offset]) << product;
+    EXPECT_EQ(product == 3 ? 0 : 255, doc->record[kVibratorTime.offset]) << product;
     EXPECT_EQ(0x11, doc->record[kAlarmBeeperSequence.offset + 9]) << product;
-    EXPECT_EQ(product == 3, AdvancedControlsEnabled(state, product).box214_and_vibrator);
   }
 }
 

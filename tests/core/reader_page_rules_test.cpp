@@ -15,6 +15,7 @@
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/two_d_fields.h"
 #include "settings/reader/working_block.h"
+#include "support/binding_driver.h"
 
 namespace veltrix {
 namespace {
@@ -145,15 +146,17 @@ TEST(ReaderPageState, EnablingFollowsTheReader) {
 
 TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
   auto doc = testing::DefaultDocument(1);
-  ReaderPageState state = FillReaderPageState(*doc);
-  state.checked[325 - 301] = false;
-  state.checked[326 - 301] = true;
-  state.first_list = 1;
-  state.second_list = 2;
-  state.number = 10;
-  state.checked[301 - 301] = false;
-  state.checked[324 - 301] = false;
-  ApplyReaderPage(*doc, state);
+  const OwnedBindings bindings = ReaderPageBindings(false);
+  testing::BindingDriver page(*doc, bindings.lines);
+  page.Set("symbology_25", 0);
+  page.Set("symbology_26", 1);
+  page.Set("scan_mode", 1);
+  page.Set("read_redundancy", 2);
+  page.Type("time_out", "10");
+  page.Set("symbology_1", 0);
+  page.Set("symbology_24", 0);
+  page.Ok();
+  ApplyReaderPage(*doc);
   EXPECT_EQ(0x83, doc->record[3712]);  // bits 7-6 = 2
   EXPECT_EQ(0x16, doc->record[3710]);
   EXPECT_EQ(10, doc->record[3711]);
@@ -162,48 +165,48 @@ TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
   EXPECT_EQ(0x49, doc->record[3691]);
   EXPECT_FALSE(doc->modified);
 
-  state.checked[325 - 301] = true;
-  ApplyReaderPage(*doc, state);
+  page.Set("symbology_25", 1);
+  page.Ok();
+  ApplyReaderPage(*doc);
   EXPECT_EQ(0x43, doc->record[3712]);
 }
 
 TEST(ReaderPageApply, LongRangeLaserClearsTheTwoDReaderOnlySymbologies) {
   auto doc = testing::DefaultDocument(1);
-  ChooseReader(*doc, kTwoDReader);
-  ReaderPageState state = FillReaderPageState(*doc);
-  state.reader = kLongRangeLaser;
-  state.checked.fill(true);
-  state.number = 0x1F;  // low four bits only
-  state.aim_duration = 200;
-  state.first_list = 0;  // not stored for this reader
-  ApplyReaderPage(*doc, state);
+  const OwnedBindings bindings = ReaderPageBindings(true);
+  testing::BindingDriver page(*doc, bindings.lines);
+  page.Set("barcode_reader", kLongRangeLaser);  // at once
   EXPECT_EQ(0x04, doc->record[kReaderType.offset]);
+  testing::BindingDriver reopened(*doc, bindings.lines);
+  EXPECT_FALSE(reopened.Enabled("scan_mode"));
+  EXPECT_TRUE(reopened.Enabled("aim_duration"));
+  for (int box = 1; box <= 27; ++box) reopened.Set("symbology_" + std::to_string(box), 1);
+  reopened.Type("aim_duration", "200");
+  reopened.Ok();
+  ApplyReaderPage(*doc);
   EXPECT_EQ(0xFC, doc->record[58659]);
   EXPECT_EQ(0x18, doc->record[58670]);  // Code 11 off
   EXPECT_EQ(0x00, doc->record[58686]);  // Postal Codes off
   EXPECT_EQ(0x00, doc->record[58688]);  // PDF417 to QR Code off
-  EXPECT_EQ(0x3F, doc->record[58689]);  // lists kept, box 201 = 15
   EXPECT_EQ(200, doc->record[58690]);
   EXPECT_EQ(0, std::memcmp(doc->record.data() + 58659, doc->reader_block1.data(), 45));
 }
 
-TEST(ReaderPageApply, TwoDReaderStoresListsBoxAndAllEnableBits) {
+TEST(ReaderPageApply, TwoDReaderStoresRfidAndAllEnableBits) {
   auto doc = testing::DefaultDocument(1);
-  ReaderPageState state = FillReaderPageState(*doc);
-  state.reader = kTwoDReader;
-  state.rfid = true;
-  state.checked.fill(true);
-  state.first_list = 3;
-  state.second_list = 0;
-  state.number = 4;
-  state.aim_duration = 99;  // not stored for this reader
-  ApplyReaderPage(*doc, state);
+  const OwnedBindings bindings = ReaderPageBindings(true);
+  testing::BindingDriver(*doc, bindings.lines).Set("barcode_reader", kTwoDReader);
+  testing::BindingDriver page(*doc, bindings.lines);
+  EXPECT_FALSE(page.Enabled("aim_duration"));
+  page.Set("rfid_reader", 1);
+  for (int box = 1; box <= 27; ++box) page.Set("symbology_" + std::to_string(box), 1);
+  page.Ok();
+  ApplyReaderPage(*doc);
   EXPECT_EQ(0x03, doc->record[kReaderType.offset]);
   EXPECT_EQ(0xFC, doc->record[58659]);
   EXPECT_EQ(0x98, doc->record[58670]);
   EXPECT_EQ(0x80, doc->record[58686]);
   EXPECT_EQ(0xFC, doc->record[58688]);
-  EXPECT_EQ(0x64, doc->record[58689]);
   EXPECT_EQ(0, doc->record[58690]);
   // The linear set is left as it was.
   EXPECT_EQ(0x9B, doc->record[3690]);

@@ -11,6 +11,7 @@
 #include "settings/reader/symbology_options.h"
 #include "settings/reader/two_d_options.h"
 #include "settings/reader/working_block.h"
+#include "support/binding_driver.h"
 #include "support/case_file.h"
 
 namespace veltrix {
@@ -55,21 +56,17 @@ std::vector<ApplyLine> Lines(const std::string& shape) {
   return lines;
 }
 
-// Applies "checked=..", "checked[i]=..", "chosen=..", "chosen[i]=.."; false for other names.
-template <typename State>
-bool ApplyListChange(State& state, const std::string& name, const std::string& value) {
+// Clicks or chooses "checked=..", "checked[i]=..", "chosen=..", "chosen[i]=.." as the user would;
+// false for other names.
+bool ApplyListChange(testing::BindingDriver& dialog, const std::string& name,
+                     const std::string& value) {
   const std::string list = name.substr(0, name.find('['));
   if (list != "checked" && list != "chosen") return false;
+  const std::vector<std::string_view> controls = dialog.Controls(list == "chosen");
+  const std::size_t at =
+      name.find('[') != std::string::npos ? std::stoul(name.substr(name.find('[') + 1)) : 0;
   const std::vector<int> values = Numbers(value);
-  const bool one = name.find('[') != std::string::npos;
-  const std::size_t at = one ? std::stoul(name.substr(name.find('[') + 1)) : 0;
-  if (list == "checked") {
-    if (!one) state.checked.assign(values.size(), false);
-    for (std::size_t k = 0; k < values.size(); ++k) state.checked.at(at + k) = values[k] != 0;
-  } else {
-    if (!one) state.chosen.assign(values.size(), 0);
-    for (std::size_t k = 0; k < values.size(); ++k) state.chosen.at(at + k) = values[k];
-  }
+  for (std::size_t k = 0; k < values.size(); ++k) dialog.Set(controls.at(at + k), values[k]);
   return true;
 }
 
@@ -78,14 +75,18 @@ TEST(SymbologyApply, LinearDialogsPackTheirControls) {
     auto doc = testing::DefaultDocument(1);
     const LinearOptionDialog* dialog = FindLinearOptionDialog(line.dialog);
     ASSERT_NE(dialog, nullptr) << line.where;
-    LinearOptionState state = OpenLinearOptions(*doc, *dialog);
+    const OwnedBindings bindings = LinearOptionBindings(*dialog);
+    testing::BindingDriver user(*doc, bindings.lines);
     for (const auto& [name, value] : line.changes) {
-      if (ApplyListChange(state, name, value)) continue;
+      if (ApplyListChange(user, name, value)) continue;
       ASSERT_EQ(name, "length") << line.where;
       const std::vector<int> n = Numbers(value);
-      state.length = {n[0] != 0, n[1], n[2]};
+      user.Set("length_qualification", n[0]);
+      user.Type("length_1", std::to_string(n[1]));
+      user.Type("length_2", std::to_string(n[2]));
     }
-    ApplyLinearOptions(*doc, *dialog, state);
+    user.Ok();
+    ApplyLinearOptions(*doc, *dialog);
     for (std::size_t i = 0; i < line.want.size(); ++i) {
       EXPECT_EQ(line.want[i], doc->reader_block2[line.offset + i - kReaderBlock2Offset])
           << line.where << " (byte " << line.offset + i << ")";
@@ -104,18 +105,25 @@ TEST(SymbologyApply, TwoDimensionalDialogsPackTheirControls) {
       doc->reader_block1[std::stoul(value.substr(0, colon)) - kReaderBlock1Offset] |=
           static_cast<std::uint8_t>(std::stoul(value.substr(colon + 1), nullptr, 16));
     }
-    TwoDOptionState state = OpenTwoDOptions(*doc, *dialog);
+    OpenTwoDOptions(*doc, *dialog);
+    const OwnedBindings bindings = TwoDOptionBindings(*dialog);
+    testing::BindingDriver user(*doc, bindings.lines);
     for (const auto& [name, value] : line.changes) {
-      if (name == "set" || ApplyListChange(state, name, value)) continue;
+      if (name == "set" || ApplyListChange(user, name, value)) continue;
       if (name == "option") {
-        state.option = value == "two" ? kTwoLengths : value == "range" ? kLengthRange : kAnyLength;
+        user.Set("length_option", value == "two"     ? kTwoLengths
+                                  : value == "range" ? kLengthRange
+                                                     : kAnyLength);
+        LengthOptionChosen(user.pending(), *dialog);
       } else {
         ASSERT_EQ(name, "lengths") << line.where;
         const std::vector<int> n = Numbers(value);
-        state.lengths = {n[0], n[1]};
+        user.Type("length_1", std::to_string(n[0]));
+        user.Type("length_2", std::to_string(n[1]));
       }
     }
-    ApplyTwoDOptions(*doc, *dialog, state);
+    user.Ok();
+    ApplyTwoDOptions(*doc, *dialog);
     for (std::size_t i = 0; i < line.want.size(); ++i) {
       EXPECT_EQ(line.want[i], doc->reader_block1[line.offset + i - kReaderBlock1Offset])
           << line.where << " (byte " << line.offset + i << ")";

@@ -14,6 +14,7 @@
 #include "settings/reader/symbology_options.h"
 #include "settings/reader/two_d_options.h"
 #include "settings/reader/working_block.h"
+#include "support/binding_driver.h"
 
 namespace veltrix {
 namespace {
@@ -60,6 +61,19 @@ void ExpectOnlyOwnBitsChanged(std::span<const std::uint8_t> before,
   }
 }
 
+// Every control of the dialog set at random (numbers typed, up to 129), then OK.
+void UseEveryControl(Document& doc, const OwnedBindings& bindings, std::mt19937& random) {
+  testing::BindingDriver user(doc, bindings.lines);
+  for (const FieldBinding& line : bindings.lines) {
+    if (line.kind == ControlKind::kNumberEdit) {
+      user.Type(line.control, std::to_string(random() % 130));
+    } else {
+      user.Set(line.control, static_cast<int>(random() % 6));
+    }
+  }
+  user.Ok();
+}
+
 TEST(SymbologyBindings, LinearDialogsWriteOnlyTheirOwnBits) {
   std::mt19937 random(7);
   for (const LinearOptionDialog& dialog : LinearOptionDialogs()) {
@@ -75,12 +89,9 @@ TEST(SymbologyBindings, LinearDialogsWriteOnlyTheirOwnBits) {
       const auto block1 = doc->reader_block1;
       const auto block2 = doc->reader_block2;
       const auto record = doc->record;
-      LinearOptionState state = OpenLinearOptions(*doc, dialog);
-      for (std::size_t i = 0; i < state.checked.size(); ++i) state.checked[i] = random() & 1;
-      for (int& chosen : state.chosen) chosen = static_cast<int>(random() % 6);
-      state.length = {(random() & 1) != 0, static_cast<int>(random() % 130),
-                      static_cast<int>(random() % 130)};
-      ApplyLinearOptions(*doc, dialog, state);
+      const OwnedBindings bindings = LinearOptionBindings(dialog);
+      UseEveryControl(*doc, bindings, random);
+      ApplyLinearOptions(*doc, dialog);
       ExpectOnlyOwnBitsChanged(block2, doc->reader_block2, kReaderBlock2Offset, own,
                                dialog.template_name);
       EXPECT_EQ(block1, doc->reader_block1) << dialog.template_name;
@@ -108,12 +119,10 @@ TEST(SymbologyBindings, TwoDimensionalDialogsWriteOnlyTheirOwnBits) {
       const auto block1 = doc->reader_block1;
       const auto block2 = doc->reader_block2;
       const auto record = doc->record;
-      TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
-      for (std::size_t i = 0; i < state.checked.size(); ++i) state.checked[i] = random() & 1;
-      for (int& chosen : state.chosen) chosen = static_cast<int>(random() % 4);
-      state.option = static_cast<int>(random() % 4);
-      state.lengths = {static_cast<int>(random() % 130), static_cast<int>(random() % 130)};
-      ApplyTwoDOptions(*doc, dialog, state);
+      OpenTwoDOptions(*doc, dialog);
+      const OwnedBindings bindings = TwoDOptionBindings(dialog);
+      UseEveryControl(*doc, bindings, random);
+      ApplyTwoDOptions(*doc, dialog);
       ExpectOnlyOwnBitsChanged(block1, doc->reader_block1, kReaderBlock1Offset, own,
                                dialog.template_name);
       EXPECT_EQ(block2, doc->reader_block2) << dialog.template_name;

@@ -13,6 +13,7 @@
 #include "settings/reader/number_box.h"
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/working_block.h"
+#include "support/binding_driver.h"
 
 namespace veltrix {
 namespace {
@@ -85,32 +86,34 @@ TEST(LinearOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
   for (const LinearOptionDialog& dialog : LinearOptionDialogs()) {
     auto doc = testing::DefaultDocument(1);
     const auto before = doc->reader_block2;
-    ApplyLinearOptions(*doc, dialog, OpenLinearOptions(*doc, dialog));
+    const OwnedBindings bindings = LinearOptionBindings(dialog);
+    testing::BindingDriver(*doc, bindings.lines).Ok();
+    ApplyLinearOptions(*doc, dialog);
     EXPECT_EQ(before, doc->reader_block2) << dialog.template_name;
   }
 }
 
+// What the dialogs show of the default working block, and of a stored choice no radio stands for.
 TEST(LinearOptionDialogs, OpeningShowsTheWorkingBlock) {
   auto doc = testing::DefaultDocument(1);
-  const LinearOptionState industrial =
-      OpenLinearOptions(*doc, *FindLinearOptionDialog("Industrial25Dlg"));
-  EXPECT_EQ((std::vector<bool>{false, true}), industrial.checked);
-  EXPECT_EQ((std::vector<int>{0}), industrial.chosen);
-  EXPECT_EQ((LengthPair{true, 127, 1}), industrial.length);
+  const auto shown = [&doc](std::string_view name, bool choices) {
+    const OwnedBindings bindings = LinearOptionBindings(*FindLinearOptionDialog(name));
+    return testing::BindingDriver(*doc, bindings.lines).Values(choices);
+  };
+  const OwnedBindings industrial = LinearOptionBindings(*FindLinearOptionDialog("Industrial25Dlg"));
+  testing::BindingDriver user(*doc, industrial.lines);
+  EXPECT_EQ((std::vector<std::int64_t>{0, 1}), user.Values(false));
+  EXPECT_EQ((std::vector<std::int64_t>{0}), user.Values(true));
+  EXPECT_EQ(1, user.Value("length_qualification"));
+  EXPECT_EQ("127", user.Text("length_1"));
+  EXPECT_EQ("1", user.Text("length_2"));
 
-  EXPECT_EQ((std::vector<int>{0}),  // "None" while the transmit bit is clear
-            OpenLinearOptions(*doc, *FindLinearOptionDialog("CodabarDlg")).chosen);
-  EXPECT_EQ((std::vector<int>{1}),  // bit 0 shows "AIM Telepen  (Full ASCII)", radio 602
-            OpenLinearOptions(*doc, *FindLinearOptionDialog("TelepenDlg")).chosen);
-  EXPECT_EQ((std::vector<int>{0, 1}),
-            OpenLinearOptions(*doc, *FindLinearOptionDialog("MSIDlg")).chosen);
-}
-
-TEST(LinearOptionDialogs, OutOfRangeStoredChoiceSelectsTheNearestRadio) {
-  auto doc = testing::DefaultDocument(1);
+  // "None" while the transmit bit is clear; bit 0 shows "AIM Telepen  (Full ASCII)".
+  EXPECT_EQ((std::vector<std::int64_t>{0}), shown("CodabarDlg", true));
+  EXPECT_EQ((std::vector<std::int64_t>{1}), shown("TelepenDlg", true));
+  EXPECT_EQ((std::vector<std::int64_t>{0, 1}), shown("MSIDlg", true));
   WriteWorking(*doc, kIndustrial25StartStop, 3);
-  EXPECT_EQ((std::vector<int>{2}),
-            OpenLinearOptions(*doc, *FindLinearOptionDialog("Industrial25Dlg")).chosen);
+  EXPECT_EQ((std::vector<std::int64_t>{2}), shown("Industrial25Dlg", true));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "settings/reader/two_d_fields.h"
 #include "settings/reader/two_d_options.h"
 #include "settings/reader/working_block.h"
+#include "support/binding_driver.h"
 
 namespace veltrix {
 namespace {
@@ -90,38 +91,50 @@ TEST(TwoDOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
   for (const TwoDOptionDialog& dialog : TwoDOptionDialogs()) {
     auto doc = testing::DefaultDocument(1);
     const auto before = doc->reader_block1;
-    const TwoDOptionState state = OpenTwoDOptions(*doc, dialog);
-    ApplyTwoDOptions(*doc, dialog, state);
+    OpenTwoDOptions(*doc, dialog);
+    const OwnedBindings bindings = TwoDOptionBindings(dialog);
+    testing::BindingDriver(*doc, bindings.lines).Ok();
+    ApplyTwoDOptions(*doc, dialog);
     EXPECT_EQ(before, doc->reader_block1) << dialog.template_name;
   }
 }
 
 TEST(TwoDOptionDialogs, OpeningShowsTheDefaults) {
   auto doc = testing::DefaultDocument(1);
-  const TwoDOptionState code39 = OpenTwoDOptions(*doc, *FindTwoDOptionDialog("CODE39_2D_DLG"));
-  EXPECT_EQ(kLengthRange, code39.option);
-  EXPECT_EQ((LengthBoxes{2, 55}), code39.lengths);
-  const TwoDOptionState interleave =
-      OpenTwoDOptions(*doc, *FindTwoDOptionDialog("INTERLEAVE25_2D_DLG"));
-  EXPECT_EQ(kOneLength, interleave.option);
-  EXPECT_EQ((LengthBoxes{14, 0}), interleave.lengths);
-  EXPECT_EQ((std::vector<int>{0}), interleave.chosen);
-  const TwoDOptionState upca = OpenTwoDOptions(*doc, *FindTwoDOptionDialog("UPCA_2D_DLG"));
-  EXPECT_EQ((std::vector<bool>{true, false}), upca.checked);
-  EXPECT_EQ((std::vector<int>{1, 0}), upca.chosen);
+  const auto shown = [](std::string_view name) {
+    return TwoDOptionBindings(*FindTwoDOptionDialog(name));
+  };
+  const OwnedBindings code39 = shown("CODE39_2D_DLG");
+  testing::BindingDriver code39_user(*doc, code39.lines);
+  EXPECT_EQ(kLengthRange, code39_user.Value("length_option"));
+  EXPECT_EQ("2", code39_user.Text("length_1"));
+  EXPECT_EQ("55", code39_user.Text("length_2"));
+  const OwnedBindings interleave = shown("INTERLEAVE25_2D_DLG");
+  testing::BindingDriver interleave_user(*doc, interleave.lines);
+  EXPECT_EQ(kOneLength, interleave_user.Value("length_option"));
+  EXPECT_EQ("14", interleave_user.Text("length_1"));
+  EXPECT_EQ((std::vector<std::int64_t>{0}), interleave_user.Values(true));
+  const OwnedBindings upca = shown("UPCA_2D_DLG");
+  testing::BindingDriver upca_user(*doc, upca.lines);
+  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), upca_user.Values(false));
+  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), upca_user.Values(true));
 }
 
 TEST(TwoDOptionDialogs, SupplementalsAreSharedByTheUpcAndEan8Dialogs) {
   auto doc = testing::DefaultDocument(1);
   const TwoDOptionDialog& upce = *FindTwoDOptionDialog("UPCE_2D_DLG");
-  TwoDOptionState state = OpenTwoDOptions(*doc, upce);
-  state.chosen[1] = 2;
-  state.checked[2] = true;  // the coupon bit is shared too
-  ApplyTwoDOptions(*doc, upce, state);
-  const TwoDOptionState upca = OpenTwoDOptions(*doc, *FindTwoDOptionDialog("UPCA_2D_DLG"));
-  EXPECT_EQ(2, upca.chosen[1]);
-  EXPECT_TRUE(upca.checked[1]);
-  EXPECT_EQ(2, OpenTwoDOptions(*doc, *FindTwoDOptionDialog("EAN8_2D_DLG")).chosen[0]);
+  const OwnedBindings upce_bindings = TwoDOptionBindings(upce);
+  testing::BindingDriver user(*doc, upce_bindings.lines);
+  user.Set(user.Controls(true)[1], 2);
+  user.Set(user.Controls(false)[2], 1);  // the coupon bit is shared too
+  user.Ok();
+  ApplyTwoDOptions(*doc, upce);
+  const OwnedBindings upca = TwoDOptionBindings(*FindTwoDOptionDialog("UPCA_2D_DLG"));
+  testing::BindingDriver upca_user(*doc, upca.lines);
+  EXPECT_EQ(2, upca_user.Values(true)[1]);
+  EXPECT_EQ(1, upca_user.Values(false)[1]);
+  const OwnedBindings ean8 = TwoDOptionBindings(*FindTwoDOptionDialog("EAN8_2D_DLG"));
+  EXPECT_EQ(2, testing::BindingDriver(*doc, ean8.lines).Values(true)[0]);
 }
 
 TEST(TwoDOptionDialogs, Code39OpeningClearsItsSpareBitsEvenWhenCancelled) {

@@ -15,6 +15,7 @@
 #include <QtTest>
 #include <memory>
 
+#include "resources/text_qt.h"
 #include "settings/document.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/grid/grid_dialog.h"
@@ -29,6 +30,7 @@
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
 #include "shell/summary.h"
+#include "support/binding_driver.h"
 #include "support/modal.h"
 #include "support/page_test.h"
 
@@ -54,14 +56,12 @@ bool SameReader(const Document& a, const Document& b) {
          a.reader_block2 == b.reader_block2;
 }
 
-// Toggles every check box of a symbology dialog; returns the state the controls then hold.
-template <typename State>
-State ToggleChecks(QWidget* dialog, std::span<const CheckBoxControl> checks, State state) {
-  for (std::size_t i = 0; i < checks.size(); ++i) {
-    FindControl<QCheckBox>(dialog, ControlName(checks[i].text))->click();
-    state.checked[i] = !state.checked[i];
+// Clicks every check box of a symbology dialog, and the same in the core's copy of the user.
+void ToggleChecks(QWidget* dialog, testing::BindingDriver& core) {
+  for (std::string_view name : core.Controls(false)) {
+    FindControl<QCheckBox>(dialog, QtText(name))->click();
+    core.Set(name, 1 - core.Value(name));
   }
-  return state;
 }
 
 // One row per dialog of `tables`, closed with OK and with Cancel.
@@ -102,25 +102,33 @@ class BarcodePageTest : public QObject {
     QFETCH(bool, ok);
     const LinearOptionDialog& table = LinearOptionDialogs()[index];
     auto expected = std::make_unique<Document>(*doc_);
+    const OwnedBindings bindings = LinearOptionBindings(table);
+    testing::BindingDriver core(*expected, bindings.lines);
     LinearOptionsDialog dialog(*doc_, table);
-    LinearOptionState state = ToggleChecks(&dialog, table.checks, OpenLinearOptions(*doc_, table));
-    for (std::size_t g = 0; g < table.radios.size(); ++g) {
-      const int next = (state.chosen[g] + 1) % static_cast<int>(table.radios[g].texts.size());
-      FindControl<QAbstractButton>(
-          &dialog, QStringLiteral("%1_%2").arg(ControlName(table.radios[g].caption)).arg(next))
+    ToggleChecks(&dialog, core);
+    for (const ChoiceControl& group : table.radios) {
+      const std::string name = ControlName(group.caption);
+      const int next =
+          static_cast<int>(core.Value(name) + 1) % static_cast<int>(group.texts.size());
+      FindControl<QAbstractButton>(&dialog, QStringLiteral("%1_%2").arg(QtText(name)).arg(next))
           ->click();
-      state.chosen[g] = next;
+      core.Set(name, next);
     }
     if (table.length != nullptr) {
       FindControl<QAbstractButton>(&dialog, "length_qualification_1")->click();
       QCOMPARE(FindControl<QLabel>(&dialog, "length_1_label")->text(), QString("Max Length :"));
       testing::TypeInto(FindControl<QLineEdit>(&dialog, "length_1"), "20");
       testing::TypeInto(FindControl<QLineEdit>(&dialog, "length_2"), "40");
-      state.length = {true, 20, 40};
+      core.Set("length_qualification", 1);
+      core.Type("length_1", "20");
+      core.Type("length_2", "40");
     }
     if (index == 3) Save(&dialog, "symbology_dialog_linear");
     Close(&dialog, ok);
-    if (ok) ApplyLinearOptions(*expected, table, state);
+    if (ok) {
+      core.Ok();
+      ApplyLinearOptions(*expected, table);
+    }
     QVERIFY(SameReader(*doc_, *expected));
   }
 
@@ -132,26 +140,33 @@ class BarcodePageTest : public QObject {
     QFETCH(bool, ok);
     const TwoDOptionDialog& table = TwoDOptionDialogs()[index];
     auto expected = std::make_unique<Document>(*doc_);
-    TwoDOptionState state =
-        ToggleChecks(&TwoDDialog(table), table.checks, OpenTwoDOptions(*expected, table));
-    for (std::size_t l = 0; l < table.lists.size(); ++l) {
-      const int next = (state.chosen[l] + 1) % static_cast<int>(table.lists[l].texts.size());
-      FindControl<QComboBox>(dialog_.get(), ControlName(table.lists[l].caption))
-          ->setCurrentIndex(next);
-      state.chosen[l] = next;
+    OpenTwoDOptions(*expected, table);
+    const OwnedBindings bindings = TwoDOptionBindings(table);
+    testing::BindingDriver core(*expected, bindings.lines);
+    ToggleChecks(&TwoDDialog(table), core);
+    for (const ChoiceControl& list : table.lists) {
+      const std::string name = ControlName(list.caption);
+      const int next = static_cast<int>(core.Value(name) + 1) % static_cast<int>(list.texts.size());
+      FindControl<QComboBox>(dialog_.get(), QtText(name))->setCurrentIndex(next);
+      core.Set(name, next);
     }
     if (table.length_option != nullptr) {
       FindControl<QComboBox>(dialog_.get(), "length_option")->setCurrentIndex(2);
       QCOMPARE(FindControl<QLineEdit>(dialog_.get(), "length_2")->text(), QString("0"));
       testing::TypeInto(FindControl<QLineEdit>(dialog_.get(), "length_1"), "6");
       testing::TypeInto(FindControl<QLineEdit>(dialog_.get(), "length_2"), "10");
-      state.option = kTwoLengths;
-      state.lengths = {6, 10};
+      core.Set("length_option", kTwoLengths);
+      LengthOptionChosen(core.pending(), table);
+      core.Type("length_1", "6");
+      core.Type("length_2", "10");
     }
     if (index == 0) Save(dialog_.get(), "symbology_dialog_upc");
     if (index == 4) Save(dialog_.get(), "symbology_dialog_length_option");
     Close(dialog_.get(), ok);
-    if (ok) ApplyTwoDOptions(*expected, table, state);
+    if (ok) {
+      core.Ok();
+      ApplyTwoDOptions(*expected, table);
+    }
     QVERIFY(SameReader(*doc_, *expected));
     if (ok && table.length_option != nullptr) {
       QCOMPARE(ReadWorking(*doc_, *table.length1), 10u);
@@ -271,7 +286,7 @@ class BarcodePageTest : public QObject {
 
     AdvancedBarcodeDialog advanced(*doc_);
     auto* maximum = FindControl<QSpinBox>(&advanced, "maximum_length");
-    FindControl<QCheckBox>(&advanced, "read_partial_code")->setChecked(true);
+    FindControl<QCheckBox>(&advanced, "read_partial_code")->click();
     auto* typed = maximum->findChild<QLineEdit*>();
     typed->selectAll();
     QTest::keyClicks(typed, "99");
@@ -281,6 +296,7 @@ class BarcodePageTest : public QObject {
     QCOMPARE(ReadWorking(*doc_, kMaximumLength), 50u);
   }
 
+  // Values no entry stands for show the nearest entry; a disabled control keeps what is stored.
   void oddStoredValues() {
     WriteWorking(*doc_, kScanMode, 12);
     Open(1);
@@ -291,7 +307,7 @@ class BarcodePageTest : public QObject {
     Open(1);
     page_->Apply(*doc_);
     QCOMPARE(ReadNumber(doc_->record, kTwoDBox201), 15u);
-    QCOMPARE(ReadNumber(doc_->record, kTwoDList401), 3u);
+    QCOMPARE(ReadNumber(doc_->record, kTwoDList401), 6u);
   }
 
   // "RFID": every control changed; the switch key is claimed at once and refused while another

@@ -1,97 +1,127 @@
 #include "settings/reader/advanced_options.h"
 
 #include <algorithm>
+#include <string>
+#include <vector>
 
+#include "settings/reader/beeper_sequence.h"
+#include "settings/reader/number_box.h"
 #include "settings/reader/reader_record_fields.h"
 
 namespace veltrix {
 namespace {
 
-std::span<std::uint8_t> Bytes(Document& doc, const FieldDef& f) {
-  return FieldBytes(std::span<std::uint8_t>(doc.record), f);
-}
-std::span<const std::uint8_t> Bytes(const Document& doc, const FieldDef& f) {
-  return FieldBytes(std::span<const std::uint8_t>(doc.record), f);
-}
+constexpr int kVibratorProduct = 3;
+constexpr ChoiceControl kScanControlChoice{"Scanner", kScanControls, &kScanControl};
 
-int Read(const Document& doc, const FieldDef& f) {
-  return static_cast<int>(ReadNumber(doc.record, f));
+bool Checked(const Document& doc, const FieldDef& f) { return ReadNumber(doc.record, f) != 0; }
+bool CheckingLeadingCode(const Document& doc) { return Checked(doc, kCheckLeadingCode); }
+bool ReadingPartialCode(const Document& doc) { return Checked(doc, kReadPartialCode); }
+bool AddingPrefix(const Document& doc) { return Checked(doc, kAddPrefixCode); }
+bool AddingSuffix(const Document& doc) { return Checked(doc, kAddSuffixCode); }
+bool HasVibrator(const Document& doc) { return doc.product() == kVibratorProduct; }
+
+int MaximumLength(std::int64_t stored) {
+  return stored < 1 || stored > 50 ? 50 : static_cast<int>(stored);
 }
+std::int64_t StartShown(std::int64_t stored) { return std::max<std::int64_t>(stored, 1); }
+std::int64_t MaximumShown(std::int64_t stored) { return MaximumLength(stored); }
 
 // The codes up to the last that is not zero: zeros after it are the field's fill, a zero
 // between codes is a code the user picked.
-std::vector<std::uint8_t> ReadKeyCodes(const Document& doc, const FieldDef& f) {
-  auto bytes = Bytes(doc, f).first(kMaxKeyCodes);
-  std::size_t n = bytes.size();
-  while (n > 0 && bytes[n - 1] == 0) --n;
-  return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(n)};
+std::vector<std::uint8_t> KeyCodesShown(std::span<const std::uint8_t> stored) {
+  std::size_t n = std::min(stored.size(), kMaxKeyCodes);
+  while (n > 0 && stored[n - 1] == 0) --n;
+  return {stored.begin(), stored.begin() + static_cast<std::ptrdiff_t>(n)};
+}
+std::vector<std::uint8_t> BeeperShown(std::span<const std::uint8_t> stored) {
+  return {stored.begin(),
+          stored.begin() + static_cast<std::ptrdiff_t>(BeeperSequenceLength(stored))};
 }
 
-// At most nine codes, every one as picked, zero-filled to the field's width.
-void WriteKeyCodes(Document& doc, const FieldDef& f, const std::vector<std::uint8_t>& codes) {
-  auto bytes = Bytes(doc, f);
-  std::ranges::fill(bytes, 0);
-  std::copy_n(codes.begin(), std::min<std::size_t>(codes.size(), kMaxKeyCodes), bytes.begin());
+constexpr FieldBinding KeyCodes(std::string_view control, const FieldDef& field,
+                                EnabledRule enabled) {
+  return {.control = control,
+          .kind = ControlKind::kGridEdit,
+          .field = &field,
+          .enabled = enabled,
+          .on_ok = true,
+          .grid = GridMode::kKeyNames,
+          .grid_limit = static_cast<int>(kMaxKeyCodes),
+          .shown_bytes = KeyCodesShown};
 }
-
-template <std::size_t N>
-std::array<std::uint8_t, N> ReadArray(const Document& doc, const FieldDef& f) {
-  std::array<std::uint8_t, N> out{};
-  std::ranges::copy(Bytes(doc, f).first(N), out.begin());
-  return out;
+constexpr FieldBinding Beeper(std::string_view control, const FieldDef& field) {
+  return {.control = control,
+          .kind = ControlKind::kGridEdit,
+          .field = &field,
+          .on_ok = true,
+          .grid = GridMode::kHex,
+          .grid_limit = static_cast<int>(kBeeperSequenceWidth),
+          .shown_bytes = BeeperShown};
+}
+constexpr FieldBinding VibratorBox(std::string_view control, const FieldDef& field) {
+  return {.control = control,
+          .kind = ControlKind::kNumberEdit,
+          .field = &field,
+          .enabled = HasVibrator,
+          .on_ok = true,
+          .box = &kVibratorBox};
 }
 
 }  // namespace
 
-AdvancedState OpenAdvancedSettings(const Document& doc) {
-  AdvancedState state;
-  state.check_leading_code = Read(doc, kCheckLeadingCode) != 0;
-  state.leading_code = ReadText(doc.record, kLeadingCode);
-  state.read_partial_code = Read(doc, kReadPartialCode) != 0;
-  state.start_position = std::max(Read(doc, kStartPosition), 1);
-  state.maximum_length = Read(doc, kMaximumLength);
-  if (state.maximum_length < 1 || state.maximum_length > 50) state.maximum_length = 50;
-  state.add_prefix_code = Read(doc, kAddPrefixCode) != 0;
-  state.prefix_code = ReadKeyCodes(doc, kPrefixCode);
-  state.add_suffix_code = Read(doc, kAddSuffixCode) != 0;
-  state.suffix_code = ReadKeyCodes(doc, kSuffixCode);
-  state.scan_control = Read(doc, kScanControl) != 0 ? 1 : 0;
-  state.data_beeper_sequence = ReadArray<10>(doc, kDataBeeperSequence);
-  state.alarm_beeper_sequence = ReadArray<10>(doc, kAlarmBeeperSequence);
-  state.data_box214 = Read(doc, kDataBox214);
-  state.vibrator_time = Read(doc, kVibratorTime);
-  return state;
+std::span<const FieldBinding> AdvancedBindings() {
+  static constexpr FieldBinding kBindings[] = {
+      {.control = "check_leading_code", .field = &kCheckLeadingCode, .on_ok = true},
+      {.control = "leading_code",
+       .kind = ControlKind::kTextEdit,
+       .field = &kLeadingCode,
+       .enabled = CheckingLeadingCode,
+       .on_ok = true},
+      {.control = "read_partial_code", .field = &kReadPartialCode, .on_ok = true},
+      {.control = "start_position",
+       .kind = ControlKind::kSpinBox,
+       .field = &kStartPosition,
+       .enabled = ReadingPartialCode,
+       .on_ok = true,
+       .shown = StartShown},
+      {.control = "maximum_length",
+       .kind = ControlKind::kSpinBox,
+       .field = &kMaximumLength,
+       .enabled = ReadingPartialCode,
+       .on_ok = true,
+       .shown = MaximumShown},
+      {.control = "add_prefix_code", .field = &kAddPrefixCode, .on_ok = true},
+      KeyCodes("prefix_code", kPrefixCode, AddingPrefix),
+      {.control = "add_suffix_code", .field = &kAddSuffixCode, .on_ok = true},
+      KeyCodes("suffix_code", kSuffixCode, AddingSuffix),
+      {.control = "scan_control",
+       .kind = ControlKind::kRadioGroup,
+       .field = &kScanControl,
+       .on_ok = true,
+       .choice = &kScanControlChoice},
+      Beeper("data_beeper_sequence", kDataBeeperSequence),
+      VibratorBox("data_box214", kDataBox214),
+      Beeper("alarm_beeper_sequence", kAlarmBeeperSequence),
+      VibratorBox("vibrator_time", kVibratorTime),
+  };
+  return kBindings;
 }
 
-void ApplyAdvancedSettings(Document& doc, const AdvancedState& state) {
-  WriteNumber(doc.record, kCheckLeadingCode, state.check_leading_code ? 1 : 0);
-  std::ranges::fill(Bytes(doc, kLeadingCode), 0);
-  WriteText(doc.record, kLeadingCode,
-            std::string_view(state.leading_code).substr(0, kMaxLeadingCode));
-  const int maximum = std::clamp(state.maximum_length, 1, 50);
-  const int start = std::clamp(state.start_position, 1, maximum);
-  WriteNumber(doc.record, kReadPartialCode, state.read_partial_code ? 1 : 0);
+void ApplyAdvancedSettings(Document& doc) {
+  const int maximum = MaximumLength(ReadNumber(doc.record, kMaximumLength));
+  const int start =
+      std::clamp(static_cast<int>(ReadNumber(doc.record, kStartPosition)), 1, maximum);
   WriteNumber(doc.record, kStartPosition, static_cast<std::uint32_t>(start));
   WriteNumber(doc.record, kMaximumLength, static_cast<std::uint32_t>(maximum));
-  WriteNumber(doc.record, kAddPrefixCode, state.add_prefix_code ? 1 : 0);
-  WriteKeyCodes(doc, kPrefixCode, state.prefix_code);
-  WriteNumber(doc.record, kAddSuffixCode, state.add_suffix_code ? 1 : 0);
-  WriteKeyCodes(doc, kSuffixCode, state.suffix_code);
-  WriteNumber(doc.record, kScanControl, state.scan_control != 0 ? 1 : 0);
-  std::ranges::copy(state.data_beeper_sequence, Bytes(doc, kDataBeeperSequence).begin());
-  std::ranges::copy(state.alarm_beeper_sequence, Bytes(doc, kAlarmBeeperSequence).begin());
-  if (doc.product() == 3) {
-    const auto limited = [](int v) {
-      return static_cast<std::uint32_t>(v >= 0 && v <= 254 ? v : 0);
-    };
-    WriteNumber(doc.record, kDataBox214, limited(state.data_box214));
-    WriteNumber(doc.record, kVibratorTime, limited(state.vibrator_time));
+  const std::string leading = ReadText(doc.record, kLeadingCode).substr(0, kMaxLeadingCode);
+  std::ranges::fill(FieldBytes(std::span<std::uint8_t>(doc.record), kLeadingCode), 0);
+  WriteText(doc.record, kLeadingCode, leading);
+  if (HasVibrator(doc)) {
+    for (const FieldDef* box : {&kDataBox214, &kVibratorTime}) {
+      if (ReadNumber(doc.record, *box) > 254) WriteNumber(doc.record, *box, 0);
+    }
   }
-}
-
-AdvancedEnabling AdvancedControlsEnabled(const AdvancedState& state, int product) {
-  return {state.check_leading_code, state.read_partial_code, state.add_prefix_code,
-          state.add_suffix_code, product == 3};
 }
 
 }  // namespace veltrix

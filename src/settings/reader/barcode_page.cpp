@@ -8,13 +8,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "resources/text_qt.h"
+#include "settings/field_binder_qt.h"
 #include "settings/page_controls_qt.h"
 #include "settings/reader/advanced_barcode_dialog.h"
-#include "settings/reader/number_box.h"
 #include "settings/reader/reader_names.h"
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
@@ -44,16 +45,16 @@ QPushButton* MoreButton(const QString& name) {
   return KeepingItsPlace(button);
 }
 
-// A stored value no entry stands for (from a loaded file) selects the nearest entry.
-void Refill(QComboBox* list, std::span<const std::string_view> entries, int selected) {
+void Refill(QComboBox* list, std::span<const std::string_view> entries) {
+  const QSignalBlocker quiet(list);  // new entries are not the user's choice
   list->clear();
   for (std::string_view entry : entries) list->addItem(QtText(entry));
-  list->setCurrentIndex(std::clamp(selected, 0, list->count() - 1));
 }
 
 }  // namespace
 
-BarcodePage::BarcodePage(Document& doc, QWidget* parent) : SettingsPage(doc, parent) {
+BarcodePage::BarcodePage(Document& doc, QWidget* parent)
+    : SettingsPage(doc, parent), binder_(new FieldBinder(doc, this)) {
   setObjectName("BARCODESETTINGDLG");
   auto* top = new QHBoxLayout;
   top->addWidget(BuildReader(), 0, Qt::AlignTop);
@@ -62,6 +63,13 @@ BarcodePage::BarcodePage(Document& doc, QWidget* parent) : SettingsPage(doc, par
   layout->addLayout(top);
   layout->addWidget(BuildSymbologies());
   layout->addStretch();
+  binder_->OnChanged([this] {
+    if (ReaderPositionOf(this->doc().record[kReaderType.offset]) != shown_reader_) {
+      Reload(true);
+    } else {
+      ShowEnabling();
+    }
+  });
 }
 
 QWidget* BarcodePage::BuildReader() {
@@ -70,17 +78,11 @@ QWidget* BarcodePage::BuildReader() {
   reader_ = MakeCombo("barcode_reader", kReaderNames);
   auto* label = new QLabel(tr("Barcode Reader :"));
   label->setBuddy(reader_);
-  rfid_ = MakeCheck("rfid_reader", tr("RFID Reader"));
   rfid_more_ = MoreButton("rfid_more");
   grid->addWidget(label, 0, 0, 1, 2);
   grid->addWidget(reader_, 1, 0, 1, 2);
-  grid->addWidget(rfid_, 2, 0);
+  grid->addWidget(MakeCheck("rfid_reader", tr("RFID Reader")), 2, 0);
   grid->addWidget(rfid_more_, 2, 1);
-  connect(reader_, &QComboBox::currentIndexChanged, this, [this](int position) {
-    if (loading_ || position < 0) return;
-    ChooseReader(doc(), position);
-    Fill();
-  });
   connect(rfid_more_, &QPushButton::clicked, this, [this] {
     RfidDialog dialog(doc(), this);
     dialog.exec();
@@ -115,8 +117,6 @@ QWidget* BarcodePage::BuildSettings() {
   grid->addWidget(aim_, 3, 1);
   grid->addWidget(aim_unit_, 3, 2);
   grid->setColumnStretch(2, 1);
-  BindNumberBox(number_, kTimeOutBox, [this] { return !loading_; });
-  BindNumberBox(aim_, kAimDurationBox, [this] { return !loading_; });
 
   auto* code_id = new QPushButton(tr("Code ID"));
   code_id->setObjectName("code_id");
@@ -133,7 +133,7 @@ QWidget* BarcodePage::BuildSettings() {
   });
   connect(reset, &QPushButton::clicked, this, [this] {
     SetReaderDefaults(doc());
-    Fill();
+    Reload(true);
   });
   return box;
 }
@@ -150,10 +150,12 @@ QWidget* BarcodePage::BuildSymbologies() {
     const int column = 2 * (i / kSymbologyRows);
     grid->addWidget(checks_[i], row, column);
     grid->addWidget(more_[i], row, column + 1);
-    connect(checks_[i], &QCheckBox::toggled, this, [this, i] {
-      if (loading_) return;
-      PageCheckBoxToggled(filled_, kFirstCheckBoxId + i, doc().record[kReaderType.offset]);
-      ShowEnabling();
+    // Before the binder stores the mark: "Bookland EAN" may start following "EAN13".
+    connect(checks_[i], &QCheckBox::clicked, this, [this, i] {
+      ReaderPageState state;
+      state.bookland_follows_ean13 = bookland_follows_ean13_;
+      PageCheckBoxToggled(state, kFirstCheckBoxId + i, doc().record[kReaderType.offset]);
+      bookland_follows_ean13_ = state.bookland_follows_ean13;
     });
     connect(more_[i], &QPushButton::clicked, this, [this, i] { OpenMore(i); });
   }
@@ -161,78 +163,60 @@ QWidget* BarcodePage::BuildSymbologies() {
   return box;
 }
 
-void BarcodePage::Initialise(Document& doc) {
-  rfid_->setChecked(ReadNumber(doc.record, kRfidReader) != 0);
-  Fill();
-}
+void BarcodePage::Initialise(Document& /*doc*/) { Reload(false); }
 
-void BarcodePage::Fill() {
-  loading_ = true;
-  const ReaderPageState state = FillReaderPageState(doc());
-  filled_ = state;
-  const bool two_d = state.reader != kLaserCcdReader;
+void BarcodePage::Reload(bool keep_rfid) {
+  const std::uint8_t reader_type = doc().record[kReaderType.offset];
+  const bool two_d = UsesTwoDSet(reader_type);
+  const std::uint32_t rfid = ReadNumber(binder_->Pending().record, kRfidReader);
+  if (bindings_.lines.empty() || two_d != bound_two_d_) {
+    binder_->Unbind();
+    bindings_ = ReaderPageBindings(two_d);
+    bound_two_d_ = two_d;
+    binder_->Bind(bindings_.lines);
+  }
   const ReaderSettingLabels& labels = two_d ? kTwoDSettingLabels : kLinearSettingLabels;
   const std::string_view texts[] = {labels.first_list, labels.second_list, labels.number,
                                     labels.number_unit};
   for (std::size_t k = 0; k < setting_labels_.size(); ++k) {
     setting_labels_[k]->setText(QtText(texts[k]));
+    setting_labels_[k]->setEnabled(!two_d);
   }
-  reader_->setCurrentIndex(state.reader);
-  if (two_d) {
-    Refill(first_list_, kTwoDList401Names, state.first_list);
-    Refill(second_list_, kTwoDList402Names, state.second_list);
-  } else {
-    Refill(first_list_, kScanModeNames, state.first_list);
-    Refill(second_list_, kReadRedundancyNames, state.second_list);
-  }
+  const auto lists = ReaderSettingLists(two_d);
+  Refill(first_list_, lists[0].texts);
+  Refill(second_list_, lists[1].texts);
   SetTypingLimit(number_, two_d ? 1 : 3);
-  ShowNumber(number_, state.number);
-  ShowNumber(aim_, state.aim_duration);
-  for (QWidget* control :
-       std::initializer_list<QWidget*>{setting_labels_[0], setting_labels_[1], setting_labels_[2],
-                                       setting_labels_[3], first_list_, second_list_, number_}) {
-    control->setEnabled(!two_d);
-  }
-  for (QWidget* control : std::initializer_list<QWidget*>{aim_label_, aim_, aim_unit_}) {
-    control->setEnabled(state.reader == kLongRangeLaser);
-  }
+  shown_reader_ = ReaderPositionOf(reader_type);
+  const bool long_range = shown_reader_ == kLongRangeLaser;
+  aim_label_->setEnabled(long_range);
+  aim_unit_->setEnabled(long_range);
 
   const auto boxes = ReaderPageCheckBoxes(two_d);
   for (int i = 0; i < kPageCheckBoxCount; ++i) {
     const bool shown = i < static_cast<int>(boxes.size());
     checks_[i]->setVisible(shown);
     checks_[i]->setText(shown ? QtText(boxes[i].text) : QString());
-    checks_[i]->setChecked(shown && state.checked[i]);
+    if (!shown) checks_[i]->setChecked(false);
     more_[i]->setVisible(shown && !boxes[i].more_dialog.empty());
   }
-  const bool may_change_reader = doc().product() == kReaderProduct;
-  reader_->setEnabled(may_change_reader);
-  rfid_more_->setEnabled(may_change_reader);
+  rfid_more_->setEnabled(doc().product() == kReaderProduct);
+  bookland_follows_ean13_ = two_d;
+
+  binder_->Revert();
+  if (keep_rfid) {
+    WriteNumber(binder_->Pending().record, kRfidReader, rfid);
+    binder_->Load();
+  }
   ShowEnabling();
-  loading_ = false;
 }
 
 void BarcodePage::ShowEnabling() {
-  const ReaderPageState state = Controls();
+  ReaderPageState state = FillReaderPageState(binder_->Pending());
+  state.bookland_follows_ean13 = bookland_follows_ean13_;
   for (int i = 0; i < kPageCheckBoxCount; ++i) {
     checks_[i]->setEnabled(PageCheckBoxEnabled(state, kFirstCheckBoxId + i));
     more_[i]->setEnabled(MoreButtonEnabled(state, kFirstCheckBoxId + i));
   }
-}
-
-ReaderPageState BarcodePage::Controls() const {
-  // Disabled settings keep what the record held, even a value no entry or box can show.
-  ReaderPageState state = filled_;
-  state.reader = std::max(reader_->currentIndex(), 0);
-  state.rfid = rfid_->isChecked();
-  if (first_list_->isEnabled()) {
-    state.first_list = first_list_->currentIndex();
-    state.second_list = second_list_->currentIndex();
-    state.number = NumberBoxValue(number_, kTimeOutBox);  // corrected as it was typed
-  }
-  if (aim_->isEnabled()) state.aim_duration = NumberBoxValue(aim_, kAimDurationBox);
-  for (int i = 0; i < kPageCheckBoxCount; ++i) state.checked[i] = checks_[i]->isChecked();
-  return state;
 }
 
 void BarcodePage::OpenMore(int index) {
@@ -241,6 +225,9 @@ void BarcodePage::OpenMore(int index) {
   RunSymbologyDialog(doc(), boxes[index].more_dialog, this);
 }
 
-void BarcodePage::Apply(Document& doc) { ApplyReaderPage(doc, Controls()); }
+void BarcodePage::Apply(Document& doc) {
+  binder_->Commit();
+  ApplyReaderPage(doc);
+}
 
 }  // namespace veltrix

@@ -1,8 +1,11 @@
 #include "settings/reader/reader_page_rules.h"
 
 #include <algorithm>
+#include <string>
 
 #include "settings/reader/linear_fields.h"
+#include "settings/reader/number_box.h"
+#include "settings/reader/reader_names.h"
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/two_d_fields.h"
 #include "settings/reader/working_block.h"
@@ -82,13 +85,6 @@ bool OnlyForTwoDReader(int id) {
 bool& Checked(ReaderPageState& state, int id) { return state.checked[id - kFirstCheckBoxId]; }
 bool Checked(const ReaderPageState& state, int id) { return state.checked[id - kFirstCheckBoxId]; }
 
-void StoreEnableBits(Document& doc, const ReaderPageState& state, bool long_range) {
-  for (const PageCheckBox& box : kTwoDCheckBoxes) {
-    const bool value = long_range && OnlyForTwoDReader(box.id) ? false : Checked(state, box.id);
-    WriteWorking(doc, *box.field, value ? 1 : 0);
-  }
-}
-
 }  // namespace
 
 int ReaderPositionOf(std::uint8_t reader_type) {
@@ -159,33 +155,84 @@ bool MoreButtonEnabled(const ReaderPageState& state, int id) {
   return state.reader != kLongRangeLaser || !OnlyForTwoDReader(id);
 }
 
-void ApplyReaderPage(Document& doc, const ReaderPageState& state) {
-  ChooseReader(doc, state.reader);
-  WriteNumber(doc.record, kRfidReader, state.rfid ? 1 : 0);
-  const auto write = [&doc](const FieldDef& f, int value) {
-    WriteWorking(doc, f, static_cast<std::uint32_t>(std::clamp<std::int64_t>(value, f.min, f.max)));
-  };
-  switch (state.reader) {
-    case kTwoDReader:
-      write(kTwoDList401, state.first_list);
-      write(kTwoDList402, state.second_list);
-      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.number) & 0x0F);
-      StoreEnableBits(doc, state, false);
-      break;
-    case kLongRangeLaser:
-      WriteWorking(doc, kTwoDBox201, static_cast<std::uint32_t>(state.number) & 0x0F);
-      write(kAimDuration, state.aim_duration);
-      StoreEnableBits(doc, state, true);
-      break;
-    default:
-      write(kScanMode, state.first_list);
-      write(kReadRedundancy, state.second_list);
-      write(kTimeOut, state.number);
-      for (const PageCheckBox& box : kLinearCheckBoxes) {
-        if (box.field != nullptr) write(*box.field, Checked(state, box.id) ? 1 : 0);
-      }
-      write(kEan128, Checked(state, kEan128CheckBox) ? 1 : 2);
-      break;
+namespace {
+
+bool LinearSetInUse(const Document& doc) { return !UsesTwoDSet(doc.record[kReaderType.offset]); }
+bool LongRangeLaser(const Document& doc) {
+  return ReaderPositionOf(doc.record[kReaderType.offset]) == kLongRangeLaser;
+}
+std::int64_t ReaderShown(std::int64_t reader_type) {
+  return ReaderPositionOf(static_cast<std::uint8_t>(reader_type));
+}
+void StoreReader(Document& doc, std::int64_t position) {
+  ChooseReader(doc, static_cast<int>(position));
+}
+// Only product 3 may change the reader.
+bool MayChangeReader(const Document& doc) { return doc.product() == 3; }
+constexpr ChoiceControl kSettingLists[2][2] = {
+    {{"Scan mode :", kScanModeNames, &kScanMode},
+     {"Read redundancy :", kReadRedundancyNames, &kReadRedundancy}},
+    {{"Reader option 1 :", kTwoDList401Names, &kTwoDList401},
+     {"Reader option 2 :", kTwoDList402Names, &kTwoDList402}},
+};
+std::int64_t Ean128Shown(std::int64_t stored) { return stored < 2 ? 1 : 0; }
+void StoreEan128(Document& doc, std::int64_t checked) {
+  WriteWorking(doc, kEan128, checked != 0 ? 1 : 2);
+}
+
+}  // namespace
+
+std::span<const ChoiceControl> ReaderSettingLists(bool two_d) { return kSettingLists[two_d]; }
+
+OwnedBindings ReaderPageBindings(bool two_d) {
+  OwnedBindings table;
+  table.lines.push_back({.control = "barcode_reader",
+                         .kind = ControlKind::kList,
+                         .field = &kReaderType,
+                         .store = StoreReader,
+                         .enabled = MayChangeReader,
+                         .shown = ReaderShown});
+  table.lines.push_back({.control = "rfid_reader", .field = &kRfidReader, .on_ok = true});
+  const FieldBinding setting{
+      .kind = ControlKind::kList, .enabled = LinearSetInUse, .working = true, .on_ok = true};
+  FieldBinding line = setting;
+  for (const ChoiceControl& list : ReaderSettingLists(two_d)) {
+    line.control = &list == &kSettingLists[two_d][0] ? "scan_mode" : "read_redundancy";
+    line.field = list.field;
+    line.choice = &list;
+    table.lines.push_back(line);
+  }
+  line.choice = nullptr;
+  line.control = "time_out";
+  line.kind = ControlKind::kNumberEdit;
+  line.field = two_d ? &kTwoDBox201 : &kTimeOut;
+  line.box = &kTimeOutBox;
+  table.lines.push_back(line);
+  line.control = "aim_duration";
+  line.field = &kAimDuration;
+  line.enabled = LongRangeLaser;
+  line.box = &kAimDurationBox;
+  table.lines.push_back(line);
+  for (const PageCheckBox& box : ReaderPageCheckBoxes(two_d)) {
+    FieldBinding mark{.control = table.Name("symbology_" + std::to_string(box.id - 300)),
+                      .field = box.field,
+                      .working = true,
+                      .on_ok = true};
+    if (box.field == nullptr) {  // the linear set's "EAN128"
+      mark.field = &kEan128;
+      mark.store = StoreEan128;
+      mark.shown = Ean128Shown;
+    }
+    table.lines.push_back(mark);
+  }
+  return table;
+}
+
+void ApplyReaderPage(Document& doc) {
+  if (LongRangeLaser(doc)) {
+    for (const PageCheckBox& box : kTwoDCheckBoxes) {
+      if (OnlyForTwoDReader(box.id)) WriteWorking(doc, *box.field, 0);
+    }
   }
   CopyReaderBlocksToRecord(doc);
 }

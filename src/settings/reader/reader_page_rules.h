@@ -8,6 +8,8 @@
 
 #include "settings/document.h"
 #include "settings/field.h"
+#include "settings/field_binding.h"
+#include "settings/reader/option_controls.h"
 
 namespace veltrix {
 
@@ -93,9 +95,19 @@ void PageCheckBoxToggled(ReaderPageState& state, int id, std::uint8_t reader_typ
 bool PageCheckBoxEnabled(const ReaderPageState& state, int id);
 bool MoreButtonEnabled(const ReaderPageState& state, int id);
 
-// The sheet's apply: stores the controls for the chosen reader, then copies both working blocks
-// into the record.
-void ApplyReaderPage(Document& doc, const ReaderPageState& state);
+// The two lists of "Reader Settings" for the set: their captions, entries and fields.
+std::span<const ChoiceControl> ReaderSettingLists(bool two_d);
+
+// The page's controls bound to the fields of the set in use: the reader list ("barcode_reader",
+// stored at once), and stored on OK "rfid_reader", the settings ("scan_mode", "read_redundancy",
+// "time_out", "aim_duration") and the symbology marks ("symbology_1" to "symbology_27"; the linear
+// set's "EAN128" stores 1 when checked, 2 when not). The settings are enabled for the linear set,
+// "AIM Duration :" for "1D Long Range Laser".
+OwnedBindings ReaderPageBindings(bool two_d);
+
+// The sheet's apply, once the controls are stored: "1D Long Range Laser" clears the marks only
+// "2D Reader" has, then both working blocks go into the record.
+void ApplyReaderPage(Document& doc);
 
 }  // namespace veltrix
 

@@ -4,9 +4,7 @@
 #include <QDialog>
 
 #include "settings/document.h"
-#include "settings/reader/rfid_options.h"
 
-class QButtonGroup;
 class QCheckBox;
 class QLineEdit;
 
@@ -24,23 +22,12 @@ class RfidDialog : public QDialog {
   void accept() override;
 
  private:
-  void ShowEnabling();
+  // The delimiter shows as a key name while it is in use.
   void ShowDelimiter();
 
-  Document& doc_;
-  RfidState state_;
   FieldBinder* binder_;
-  QCheckBox* read_uid_;
-  QCheckBox* read_data_;
   QCheckBox* use_delimiter_;
-  QLineEdit* start_;
-  QLineEdit* max_len_;
   QLineEdit* delimiter_;
-  QLineEdit* delay_;
-  QButtonGroup* working_mode_;
-  QButtonGroup* control_;
-  QButtonGroup* reading_mode_;
-  bool loading_ = true;
 };
 
 }  // namespace veltrix

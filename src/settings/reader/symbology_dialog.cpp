@@ -8,174 +8,147 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
-#include <cctype>
-#include <functional>
 
 #include "resources/text_qt.h"
+#include "settings/field_binder_qt.h"
 #include "settings/page_controls_qt.h"
 #include "settings/reader/length_option.h"
 #include "settings/reader/length_pair.h"
-#include "settings/reader/number_box.h"
 #include "settings/reader/reader_names.h"
+#include "settings/reader/working_block.h"
 
 namespace veltrix {
 namespace {
 
-QCheckBox* AddCheck(QVBoxLayout* layout, const CheckBoxControl& control, bool checked) {
-  QCheckBox* box = MakeCheck(ControlName(control.text), QtText(control.text));
-  box->setChecked(checked);
-  layout->addWidget(box);
-  return box;
+void AddChecks(QVBoxLayout* layout, std::span<const CheckBoxControl> checks) {
+  for (const CheckBoxControl& check : checks) {
+    layout->addWidget(MakeCheck(QtText(ControlName(check.text)), QtText(check.text)));
+  }
 }
 
 // The two length boxes ("length_1", "length_2") with their labels, on two rows of `grid` from
-// `row`, showing `values` and corrected under `rule` while `active` says the user types.
-void AddLengthBoxes(QGridLayout* grid, int row, int characters, const NumberBoxRule& rule,
-                    const int (&values)[2], const std::function<bool()>& active,
-                    QLabel* (&labels)[2], QLineEdit* (&edits)[2]) {
+// `row`.
+void AddLengthBoxes(QGridLayout* grid, int row, int characters, QLabel* (&labels)[2]) {
   for (int k = 0; k < 2; ++k) {
-    edits[k] = MakeNumberEdit(QStringLiteral("length_%1").arg(k + 1), characters);
-    BindNumberBox(edits[k], rule, active);
-    ShowNumber(edits[k], values[k]);
+    QLineEdit* edit = MakeNumberEdit(QStringLiteral("length_%1").arg(k + 1), characters);
     labels[k] = new QLabel;
     labels[k]->setObjectName(QStringLiteral("length_%1_label").arg(k + 1));
-    labels[k]->setBuddy(edits[k]);
+    labels[k]->setBuddy(edit);
     grid->addWidget(labels[k], row + k, 0);
-    grid->addWidget(edits[k], row + k, 1, Qt::AlignLeft);
+    grid->addWidget(edit, row + k, 1, Qt::AlignLeft);
   }
 }
 
 }  // namespace
 
-QString ControlName(std::string_view caption) {
-  QString name;
-  for (char c : caption) {
-    if (std::isalnum(static_cast<unsigned char>(c)) != 0) {
-      name += QChar(std::tolower(static_cast<unsigned char>(c)));
-    } else if (!name.isEmpty() && !name.endsWith('_')) {
-      name += '_';
-    }
-  }
-  while (name.endsWith('_')) name.chop(1);
-  return name;
-}
-
 // ---- linear ------------------------------------------------------------------------------------
 
 LinearOptionsDialog::LinearOptionsDialog(Document& doc, const LinearOptionDialog& table,
                                          QWidget* parent)
-    : QDialog(parent), doc_(doc), table_(table) {
+    : QDialog(parent),
+      doc_(doc),
+      table_(table),
+      bindings_(LinearOptionBindings(table)),
+      binder_(new FieldBinder(doc, this)) {
   setObjectName(QtText(table.template_name));
   setWindowTitle(QtText(table.caption));
-  const LinearOptionState state = OpenLinearOptions(doc, table);
   auto* layout = new QVBoxLayout(this);
 
-  auto* groups = new QHBoxLayout;
-  for (std::size_t i = 0; i < table.radios.size(); ++i) {
-    const ChoiceControl& control = table.radios[i];
-    auto* box = new QGroupBox(QtText(control.caption));
-    auto* column = new QVBoxLayout(box);
-    QButtonGroup* group = MakeRadios(this, ControlName(control.caption), control.texts, column);
-    group->button(state.chosen[i])->setChecked(true);
-    radios_.push_back(group);
-    groups->addWidget(box, 0, Qt::AlignTop);
-  }
-  if (radios_.empty()) {
-    delete groups;  // a dialog without radio groups
-  } else {
+  if (!table.radios.empty()) {
+    auto* groups = new QHBoxLayout;
+    for (const ChoiceControl& control : table.radios) {
+      auto* box = new QGroupBox(QtText(control.caption));
+      MakeRadios(this, QtText(ControlName(control.caption)), control.texts, new QVBoxLayout(box));
+      groups->addWidget(box, 0, Qt::AlignTop);
+    }
     layout->addLayout(groups);
   }
-
   auto* checks = new QVBoxLayout;
-  for (std::size_t i = 0; i < table.checks.size(); ++i) {
-    checks_.push_back(AddCheck(checks, table.checks[i], state.checked[i]));
-  }
+  AddChecks(checks, table.checks);
   layout->addLayout(checks);
 
   if (table.length != nullptr) {
     auto* box = new QGroupBox(tr("Length Qualification"));
     auto* grid = new QGridLayout(box);
     auto* radios = new QHBoxLayout;
-    qualification_ = MakeRadios(this, "length_qualification", kLengthQualificationNames, radios);
-    qualification_->button(state.length.max_min ? 1 : 0)->setChecked(true);
+    MakeRadios(this, "length_qualification", kLengthQualificationNames, radios);
     grid->addLayout(radios, 0, 0, 1, 2);
-    const int values[2] = {state.length.first, state.length.second};
-    AddLengthBoxes(
-        grid, 1, 3, kLinearLengthBox, values, [this] { return !loading_; }, labels_, lengths_);
+    AddLengthBoxes(grid, 1, 3, labels_);
     grid->setColumnStretch(2, 1);
-    connect(qualification_, &QButtonGroup::idClicked, this, [this] { ShowLengthLabels(); });
-    ShowLengthLabels();
     layout->addWidget(box);
   }
   layout->addStretch();
   layout->addWidget(MakeOkCancel(this));
-  loading_ = false;
+
+  binder_->Bind(bindings_.lines);
+  binder_->OnChanged([this] { ShowLengthLabels(); });
+  binder_->Load();
+  ShowLengthLabels();
 }
 
 void LinearOptionsDialog::ShowLengthLabels() {
-  const LengthLabels labels = LengthPairLabels(qualification_->checkedId() == 1);
+  if (table_.length == nullptr) return;
+  const LengthLabels labels =
+      LengthPairLabels(UnpackLengthPair(WorkingBytes(binder_->Pending(), *table_.length)).max_min);
   labels_[0]->setText(QtText(labels.first));
   labels_[1]->setText(QtText(labels.second));
 }
 
 void LinearOptionsDialog::accept() {
-  LinearOptionState state;
-  for (QCheckBox* box : checks_) state.checked.push_back(box->isChecked());
-  for (QButtonGroup* group : radios_) state.chosen.push_back(group->checkedId());
-  if (qualification_ != nullptr) {
-    state.length = {qualification_->checkedId() == 1, NumberBoxValue(lengths_[0], kLinearLengthBox),
-                    NumberBoxValue(lengths_[1], kLinearLengthBox)};
-  }
-  ApplyLinearOptions(doc_, table_, state);
+  binder_->Commit();
+  ApplyLinearOptions(doc_, table_);
   QDialog::accept();
 }
 
 // ---- two-dimensional ---------------------------------------------------------------------------
 
 TwoDOptionsDialog::TwoDOptionsDialog(Document& doc, const TwoDOptionDialog& table, QWidget* parent)
-    : QDialog(parent), doc_(doc), table_(table) {
+    : QDialog(parent),
+      doc_(doc),
+      table_(table),
+      bindings_(TwoDOptionBindings(table)),
+      binder_(new FieldBinder(doc, this)) {
   setObjectName(QtText(table.template_name));
   setWindowTitle(QtText(table.caption));
-  const TwoDOptionState state = OpenTwoDOptions(doc, table);
+  OpenTwoDOptions(doc, table);
   auto* layout = new QVBoxLayout(this);
 
   auto* checks = new QVBoxLayout;
-  for (std::size_t i = 0; i < table.checks.size(); ++i) {
-    checks_.push_back(AddCheck(checks, table.checks[i], state.checked[i]));
-  }
+  AddChecks(checks, table.checks);
   layout->addLayout(checks);
 
   auto* form = new QGridLayout;
   int row = 0;
-  for (std::size_t i = 0; i < table.lists.size(); ++i) {
-    const ChoiceControl& control = table.lists[i];
-    QComboBox* list = MakeCombo(ControlName(control.caption), control.texts);
-    list->setCurrentIndex(state.chosen[i]);
-    AddFormRow(form, row++, QtText(control.caption), list);
-    lists_.push_back(list);
+  for (const ChoiceControl& control : table.lists) {
+    AddFormRow(form, row++, QtText(control.caption),
+               MakeCombo(QtText(ControlName(control.caption)), control.texts));
   }
   if (table.length_option != nullptr) {
-    option_ = MakeCombo("length_option", kLengthOptionNames);
-    option_->setCurrentIndex(state.option);
-    AddFormRow(form, row++, tr("Length Option :"), option_);
-    const int values[2] = {state.lengths.first, state.lengths.second};
-    AddLengthBoxes(
-        form, row, 2, kTwoDLengthBox, values, [this] { return !loading_; }, labels_, lengths_);
-    connect(option_, &QComboBox::currentIndexChanged, this, [this] { ShowOption(true); });
-    ShowOption(false);
+    AddFormRow(form, row++, tr("Length Option :"), MakeCombo("length_option", kLengthOptionNames));
+    AddLengthBoxes(form, row, 2, labels_);
   }
   form->setColumnStretch(1, 1);
   layout->addLayout(form);
   layout->addStretch();
   layout->addWidget(MakeOkCancel(this));
-  loading_ = false;
+
+  binder_->Bind(bindings_.lines);
+  binder_->OnChanged([this] { ShowOption(); });
+  binder_->Load();
+  ShowOption();
 }
 
-void TwoDOptionsDialog::ShowOption(bool chosen) {
-  const int option = option_->currentIndex();
+void TwoDOptionsDialog::ShowOption() {
+  if (table_.length_option == nullptr) return;
+  Document& pending = binder_->Pending();
+  const int option = static_cast<int>(ReadWorking(pending, *table_.length_option));
+  if (option_ >= 0 && option != option_) {
+    LengthOptionChosen(pending, table_);
+    option_ = option;
+    binder_->Load();
+  }
+  option_ = option;
   const LengthLabels labels = LengthOptionLabels(option);
   labels_[0]->setText(QtText(labels.first));
   labels_[1]->setText(QtText(labels.second));
@@ -183,26 +156,13 @@ void TwoDOptionsDialog::ShowOption(bool chosen) {
   const bool enabled[2] = {enabling.first, enabling.second};
   for (int k = 0; k < 2; ++k) {
     labels_[k]->setEnabled(enabled[k]);
-    lengths_[k]->setEnabled(enabled[k]);
+    labels_[k]->buddy()->setEnabled(enabled[k]);
   }
-  if (!chosen) return;
-  const LengthBoxes boxes = BoxesAfterChoosingOption(
-      option,
-      {NumberBoxValue(lengths_[0], kTwoDLengthBox), NumberBoxValue(lengths_[1], kTwoDLengthBox)});
-  ShowNumber(lengths_[0], boxes.first);
-  ShowNumber(lengths_[1], boxes.second);
 }
 
 void TwoDOptionsDialog::accept() {
-  TwoDOptionState state;
-  for (QCheckBox* box : checks_) state.checked.push_back(box->isChecked());
-  for (QComboBox* list : lists_) state.chosen.push_back(list->currentIndex());
-  if (option_ != nullptr) {
-    state.option = option_->currentIndex();
-    state.lengths = {NumberBoxValue(lengths_[0], kTwoDLengthBox),
-                     NumberBoxValue(lengths_[1], kTwoDLengthBox)};
-  }
-  ApplyTwoDOptions(doc_, table_, state);
+  binder_->Commit();
+  ApplyTwoDOptions(doc_, table_);
   QDialog::accept();
 }
 

@@ -3,19 +3,17 @@
 
 #include <QDialog>
 #include <string_view>
-#include <vector>
 
 #include "settings/document.h"
+#include "settings/field_binding.h"
 #include "settings/reader/symbology_options.h"
 #include "settings/reader/two_d_options.h"
 
-class QButtonGroup;
-class QCheckBox;
-class QComboBox;
 class QLabel;
-class QLineEdit;
 
 namespace veltrix {
+
+class FieldBinder;
 
 // The two "more..." dialog shapes of the "Barcode" page, each built from its table in the core.
 // Controls are named after their captions ("transmit_checksum", "start_stop_selection_1",
@@ -34,12 +32,9 @@ class LinearOptionsDialog : public QDialog {
 
   Document& doc_;
   const LinearOptionDialog& table_;
-  std::vector<QCheckBox*> checks_;
-  std::vector<QButtonGroup*> radios_;
-  QButtonGroup* qualification_ = nullptr;
+  OwnedBindings bindings_;
+  FieldBinder* binder_;
   QLabel* labels_[2] = {};
-  QLineEdit* lengths_[2] = {};
-  bool loading_ = true;
 };
 
 // A two-dimensional symbology: lists, check boxes and the length option family.
@@ -51,23 +46,20 @@ class TwoDOptionsDialog : public QDialog {
   void accept() override;
 
  private:
-  void ShowOption(bool chosen);
+  // Labels and enabling of the two boxes for the chosen option; a new choice empties the boxes it
+  // enables.
+  void ShowOption();
 
   Document& doc_;
   const TwoDOptionDialog& table_;
-  std::vector<QCheckBox*> checks_;
-  std::vector<QComboBox*> lists_;
-  QComboBox* option_ = nullptr;
+  OwnedBindings bindings_;
+  FieldBinder* binder_;
   QLabel* labels_[2] = {};
-  QLineEdit* lengths_[2] = {};
-  bool loading_ = true;
+  int option_ = -1;
 };
 
 // Opens the dialog of `template_name` (a linear or two-dimensional one) modally; true after OK.
 bool RunSymbologyDialog(Document& doc, std::string_view template_name, QWidget* parent);
-
-// A control's object name from its caption: "Transmit Checksum" -> "transmit_checksum".
-QString ControlName(std::string_view caption);
 
 }  // namespace veltrix
 

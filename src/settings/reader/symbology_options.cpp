@@ -107,35 +107,56 @@ const LinearOptionDialog* FindLinearOptionDialog(std::string_view template_name)
   return it == kDialogs.end() ? nullptr : &*it;
 }
 
-LinearOptionState OpenLinearOptions(const Document& doc, const LinearOptionDialog& dialog) {
-  LinearOptionState state;
+OwnedBindings LinearOptionBindings(const LinearOptionDialog& dialog) {
+  OwnedBindings table;
+  const FieldBinding on_ok{.working = true, .on_ok = true};
   for (const CheckBoxControl& check : dialog.checks) {
-    state.checked.push_back(ReadWorking(doc, *check.field) != 0);
+    FieldBinding line = on_ok;
+    line.control = table.Name(ControlName(check.text));
+    line.field = check.field;
+    table.lines.push_back(line);
   }
   for (const ChoiceControl& group : dialog.radios) {
-    const std::uint32_t flag = group.flag != nullptr ? ReadWorking(doc, *group.flag) : 0;
-    state.chosen.push_back(DecodeChoice(group, ReadWorking(doc, *group.field), flag));
+    FieldBinding line = on_ok;
+    line.control = table.Name(ControlName(group.caption));
+    line.kind = ControlKind::kRadioGroup;
+    line.field = group.field;
+    line.choice = &group;
+    table.lines.push_back(line);
   }
-  if (dialog.length != nullptr) state.length = UnpackLengthPair(WorkingBytes(doc, *dialog.length));
-  return state;
+  if (const FieldDef* length = dialog.length) {
+    // Bit 7 of the first byte, its bits 6-0, the second byte.
+    FieldBinding qualification = on_ok;
+    qualification.control = "length_qualification";
+    qualification.kind = ControlKind::kRadioGroup;
+    qualification.field = table.Field({.offset = length->offset,
+                                       .type = FieldType::kBits,
+                                       .bit_lo = 7,
+                                       .bit_count = 1,
+                                       .max = 1});
+    table.lines.push_back(qualification);
+    const FieldDef* parts[2] = {table.Field({.offset = length->offset,
+                                             .type = FieldType::kBits,
+                                             .bit_lo = 0,
+                                             .bit_count = 7,
+                                             .max = 127}),
+                                table.Field({.offset = length->offset + 1})};
+    for (int k = 0; k < 2; ++k) {
+      FieldBinding box = on_ok;
+      box.control = k == 0 ? "length_1" : "length_2";
+      box.kind = ControlKind::kNumberEdit;
+      box.field = parts[k];
+      box.box = &kLinearLengthBox;
+      table.lines.push_back(box);
+    }
+  }
+  return table;
 }
 
-void ApplyLinearOptions(Document& doc, const LinearOptionDialog& dialog,
-                        const LinearOptionState& state) {
-  for (std::size_t i = 0; i < dialog.checks.size() && i < state.checked.size(); ++i) {
-    WriteWorking(doc, *dialog.checks[i].field, state.checked[i] ? 1 : 0);
-  }
-  for (std::size_t i = 0; i < dialog.radios.size() && i < state.chosen.size(); ++i) {
-    const ChoiceControl& group = dialog.radios[i];
-    std::uint32_t value = 0;
-    std::uint32_t flag = 0;
-    EncodeChoice(group, state.chosen[i], value, flag);
-    WriteWorking(doc, *group.field, value);
-    if (group.flag != nullptr) WriteWorking(doc, *group.flag, flag);
-  }
+void ApplyLinearOptions(Document& doc, const LinearOptionDialog& dialog) {
   if (dialog.length != nullptr) {
-    const auto packed = PackLengthPair(state.length);
-    std::ranges::copy(packed, WorkingBytes(doc, *dialog.length).begin());
+    const auto bytes = WorkingBytes(doc, *dialog.length);
+    std::ranges::copy(PackLengthPair(UnpackLengthPair(bytes)), bytes.begin());
   }
 }
 

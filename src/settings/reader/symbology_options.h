@@ -3,10 +3,10 @@
 
 #include <span>
 #include <string_view>
-#include <vector>
 
 #include "settings/document.h"
 #include "settings/field.h"
+#include "settings/field_binding.h"
 #include "settings/reader/length_pair.h"
 #include "settings/reader/option_controls.h"
 
@@ -22,25 +22,17 @@ struct LinearOptionDialog {
   const FieldDef* length = nullptr;  // the length group's two bytes, if the dialog has one
 };
 
-// What the dialog's controls hold between opening and OK.
-struct LinearOptionState {
-  std::vector<bool> checked;  // per check box, in the dialog's order
-  std::vector<int> chosen;    // per radio group: the position of the checked radio
-  LengthPair length;          // the length radios and the two boxes
-
-  bool operator==(const LinearOptionState&) const = default;
-};
-
 // Every linear option dialog, and the one with a template name (nullptr when none).
 std::span<const LinearOptionDialog> LinearOptionDialogs();
 const LinearOptionDialog* FindLinearOptionDialog(std::string_view template_name);
 
-// Opening: the controls as the working block sets them.
-LinearOptionState OpenLinearOptions(const Document& doc, const LinearOptionDialog& dialog);
+// The dialog's controls, each stored on OK into working block 2: check boxes, radio groups
+// ("<caption>"), and for the length group "length_qualification", "length_1" and "length_2".
+OwnedBindings LinearOptionBindings(const LinearOptionDialog& dialog);
 
-// OK: stores the controls into the working block (Cancel simply drops the state).
-void ApplyLinearOptions(Document& doc, const LinearOptionDialog& dialog,
-                        const LinearOptionState& state);
+// OK, once the controls are stored: orders the length group (with "Max / Min Length" a 0 counts
+// as 1 and the larger length goes first).
+void ApplyLinearOptions(Document& doc, const LinearOptionDialog& dialog);
 
 }  // namespace veltrix
 

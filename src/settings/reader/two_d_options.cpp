@@ -160,42 +160,65 @@ const TwoDOptionDialog* FindTwoDOptionDialog(std::string_view template_name) {
   return it == kDialogs.end() ? nullptr : &*it;
 }
 
-TwoDOptionState OpenTwoDOptions(Document& doc, const TwoDOptionDialog& dialog) {
-  for (const FieldDef* bits : dialog.cleared_on_open) WriteWorking(doc, *bits, 0);
-  TwoDOptionState state;
+OwnedBindings TwoDOptionBindings(const TwoDOptionDialog& dialog) {
+  OwnedBindings table;
+  const FieldBinding on_ok{.working = true, .on_ok = true};
   for (const CheckBoxControl& check : dialog.checks) {
-    state.checked.push_back(ReadWorking(doc, *check.field) != 0);
+    FieldBinding line = on_ok;
+    line.control = table.Name(ControlName(check.text));
+    line.field = check.field;
+    table.lines.push_back(line);
   }
   for (const ChoiceControl& list : dialog.lists) {
-    const std::uint32_t flag = list.flag != nullptr ? ReadWorking(doc, *list.flag) : 0;
-    state.chosen.push_back(DecodeChoice(list, ReadWorking(doc, *list.field), flag));
+    FieldBinding line = on_ok;
+    line.control = table.Name(ControlName(list.caption));
+    line.kind = ControlKind::kList;
+    line.field = list.field;
+    line.choice = &list;
+    table.lines.push_back(line);
   }
   if (dialog.length_option != nullptr) {
-    state.option = static_cast<int>(ReadWorking(doc, *dialog.length_option));
-    state.lengths = {static_cast<int>(ReadWorking(doc, *dialog.length1)),
-                     static_cast<int>(ReadWorking(doc, *dialog.length2))};
+    FieldBinding option = on_ok;
+    option.control = "length_option";
+    option.kind = ControlKind::kList;
+    option.field = dialog.length_option;
+    table.lines.push_back(option);
+    for (const FieldDef* field : {dialog.length1, dialog.length2}) {
+      FieldBinding box = on_ok;
+      box.control = field == dialog.length1 ? "length_1" : "length_2";
+      box.kind = ControlKind::kNumberEdit;
+      box.field = field;
+      box.box = &kTwoDLengthBox;
+      table.lines.push_back(box);
+    }
   }
-  return state;
+  return table;
 }
 
-void ApplyTwoDOptions(Document& doc, const TwoDOptionDialog& dialog, const TwoDOptionState& state) {
+void OpenTwoDOptions(Document& doc, const TwoDOptionDialog& dialog) {
+  for (const FieldDef* bits : dialog.cleared_on_open) WriteWorking(doc, *bits, 0);
+}
+
+void LengthOptionChosen(Document& pending, const TwoDOptionDialog& dialog) {
+  if (dialog.length_option == nullptr) return;
+  const auto read = [&pending](const FieldDef* f) {
+    return static_cast<int>(ReadWorking(pending, *f));
+  };
+  const LengthBoxes boxes = BoxesAfterChoosingOption(read(dialog.length_option),
+                                                     {read(dialog.length1), read(dialog.length2)});
+  WriteWorking(pending, *dialog.length1, static_cast<std::uint32_t>(boxes.first));
+  WriteWorking(pending, *dialog.length2, static_cast<std::uint32_t>(boxes.second));
+}
+
+void ApplyTwoDOptions(Document& doc, const TwoDOptionDialog& dialog) {
   for (const FieldDef* bits : dialog.cleared_on_ok) WriteWorking(doc, *bits, 0);
-  for (std::size_t i = 0; i < dialog.checks.size() && i < state.checked.size(); ++i) {
-    WriteWorking(doc, *dialog.checks[i].field, state.checked[i] ? 1 : 0);
-  }
-  for (std::size_t i = 0; i < dialog.lists.size() && i < state.chosen.size(); ++i) {
-    const ChoiceControl& list = dialog.lists[i];
-    std::uint32_t value = 0;
-    std::uint32_t flag = 0;
-    EncodeChoice(list, state.chosen[i], value, flag);
-    WriteWorking(doc, *list.field, value);
-    if (list.flag != nullptr) WriteWorking(doc, *list.flag, flag);
-  }
   for (const StoredOnlyWith& rule : dialog.stored_only_with) {
     if (ReadWorking(doc, *rule.condition) != 1) WriteWorking(doc, *rule.field, 0);
   }
   if (dialog.length_option != nullptr) {
-    const StoredLengthOption stored = StoreLengthOption(state.option, state.lengths);
+    const auto read = [&doc](const FieldDef* f) { return static_cast<int>(ReadWorking(doc, *f)); };
+    const StoredLengthOption stored =
+        StoreLengthOption(read(dialog.length_option), {read(dialog.length1), read(dialog.length2)});
     WriteWorking(doc, *dialog.length_option, static_cast<std::uint32_t>(stored.option));
     WriteWorking(doc, *dialog.length1, static_cast<std::uint32_t>(stored.length1));
     WriteWorking(doc, *dialog.length2, static_cast<std::uint32_t>(stored.length2));

@@ -3,10 +3,10 @@
 
 #include <span>
 #include <string_view>
-#include <vector>
 
 #include "settings/document.h"
 #include "settings/field.h"
+#include "settings/field_binding.h"
 #include "settings/reader/length_option.h"
 #include "settings/reader/option_controls.h"
 
@@ -33,24 +33,22 @@ struct TwoDOptionDialog {
   std::span<const StoredOnlyWith> stored_only_with = {};
 };
 
-struct TwoDOptionState {
-  std::vector<bool> checked;  // per check box, in the dialog's order
-  std::vector<int> chosen;    // per list: the selected position
-  int option = kAnyLength;    // the length option, for the family
-  LengthBoxes lengths;        // boxes 201 and 202
-
-  bool operator==(const TwoDOptionState&) const = default;
-};
-
 std::span<const TwoDOptionDialog> TwoDOptionDialogs();
 const TwoDOptionDialog* FindTwoDOptionDialog(std::string_view template_name);
 
-// Opening: clears what the dialog clears on opening (even if it is then cancelled) and returns the
-// controls as the working block sets them.
-TwoDOptionState OpenTwoDOptions(Document& doc, const TwoDOptionDialog& dialog);
+// The dialog's controls, each stored on OK into working block 1: check boxes and lists
+// ("<caption>"), and for the family "length_option", "length_1" and "length_2".
+OwnedBindings TwoDOptionBindings(const TwoDOptionDialog& dialog);
 
-// OK: stores the controls into working block 1 with the dialog's rules.
-void ApplyTwoDOptions(Document& doc, const TwoDOptionDialog& dialog, const TwoDOptionState& state);
+// Opening: clears what the dialog clears on opening (even if it is then cancelled).
+void OpenTwoDOptions(Document& doc, const TwoDOptionDialog& dialog);
+
+// The user chose another length option: the boxes it enables are emptied in `pending`.
+void LengthOptionChosen(Document& pending, const TwoDOptionDialog& dialog);
+
+// OK, once the controls are stored: the dialog's rules (reserved bits cleared, values stored only
+// with another, the length option as its boxes allow).
+void ApplyTwoDOptions(Document& doc, const TwoDOptionDialog& dialog);
 
 }  // namespace veltrix
 
