@@ -143,6 +143,39 @@ void CommitBound(Document& doc, const Document& pending, std::span<const FieldBi
   }
 }
 
+void AddWorkingLines(OwnedBindings& table, std::span<const CheckBoxControl> checks) {
+  for (const CheckBoxControl& check : checks) {
+    table.lines.push_back({.control = table.Name(ControlName(check.text)),
+                           .field = check.field,
+                           .working = true,
+                           .on_ok = true});
+  }
+}
+
+void AddWorkingLines(OwnedBindings& table, std::span<const ChoiceControl> choices,
+                     ControlKind kind) {
+  for (const ChoiceControl& choice : choices) {
+    table.lines.push_back({.control = table.Name(ControlName(choice.caption)),
+                           .kind = kind,
+                           .field = choice.field,
+                           .working = true,
+                           .on_ok = true,
+                           .choice = &choice});
+  }
+}
+
+void AddLengthBoxes(OwnedBindings& table, const FieldDef* first, const FieldDef* second,
+                    const NumberBoxRule& rule) {
+  for (const FieldDef* field : {first, second}) {
+    table.lines.push_back({.control = field == first ? "length_1" : "length_2",
+                           .kind = ControlKind::kNumberEdit,
+                           .field = field,
+                           .working = true,
+                           .on_ok = true,
+                           .box = &rule});
+  }
+}
+
 std::string ControlName(std::string_view caption) {
   std::string name;
   for (char c : caption) {

@@ -77,6 +77,15 @@ struct OwnedBindings {
   const FieldDef* Field(const FieldDef& field) { return &fields.emplace_back(field); }
 };
 
+// Lines stored on OK into a reader working block, named after their captions: a dialog's check
+// boxes, and its radio groups or lists (`kind`).
+void AddWorkingLines(OwnedBindings& table, std::span<const CheckBoxControl> checks);
+void AddWorkingLines(OwnedBindings& table, std::span<const ChoiceControl> choices,
+                     ControlKind kind);
+// A dialog's two length boxes ("length_1", "length_2") under `rule`, stored on OK.
+void AddLengthBoxes(OwnedBindings& table, const FieldDef* first, const FieldDef* second,
+                    const NumberBoxRule& rule);
+
 // A control's object name from its caption: "Transmit Checksum" -> "transmit_checksum".
 std::string ControlName(std::string_view caption);
 

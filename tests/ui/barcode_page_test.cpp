@@ -45,12 +45,6 @@ void Close(QDialog* dialog, bool ok) {
   buttons->button(ok ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)->click();
 }
 
-void Save(QWidget* widget, const QString& name) {
-  widget->show();
-  QVERIFY(QTest::qWaitForWindowExposed(widget));
-  QVERIFY(widget->grab().save(QDir(VELTRIX_BINARY_DIR).filePath(name + ".png")));
-}
-
 bool SameReader(const Document& a, const Document& b) {
   return a.record == b.record && a.reader_block1 == b.reader_block1 &&
          a.reader_block2 == b.reader_block2;
@@ -123,7 +117,6 @@ class BarcodePageTest : public QObject {
       core.Type("length_1", "20");
       core.Type("length_2", "40");
     }
-    if (index == 3) Save(&dialog, "symbology_dialog_linear");
     Close(&dialog, ok);
     if (ok) {
       core.Ok();
@@ -160,8 +153,6 @@ class BarcodePageTest : public QObject {
       core.Type("length_1", "6");
       core.Type("length_2", "10");
     }
-    if (index == 0) Save(dialog_.get(), "symbology_dialog_upc");
-    if (index == 4) Save(dialog_.get(), "symbology_dialog_length_option");
     Close(dialog_.get(), ok);
     if (ok) {
       core.Ok();
@@ -198,7 +189,6 @@ class BarcodePageTest : public QObject {
     QVERIFY(OnPage<QPushButton>("more_25")->isVisibleTo(page_.get()));
     QVERIFY(OnPage<QPushButton>("more_11")->isHidden());
     QVERIFY(!OnPage<QLineEdit>("aim_duration")->isEnabled());
-    Save(page_.get(), "barcode_page_linear");
 
     OnPage<QCheckBox>("symbology_25")->click();
     OnPage<QCheckBox>("symbology_1")->click();
@@ -228,7 +218,6 @@ class BarcodePageTest : public QObject {
     QVERIFY(OnPage<QCheckBox>("symbology_27")->isVisibleTo(page_.get()));
     QVERIFY(!OnPage<QComboBox>("scan_mode")->isEnabled());
     QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Internal"));
-    Save(page_.get(), "barcode_page_two_d");
     OnPage<QCheckBox>("symbology_5")->click();  // EAN13 off: Bookland EAN follows
     QVERIFY(!OnPage<QCheckBox>("symbology_6")->isEnabled());
     OnPage<QCheckBox>("symbology_5")->click();
@@ -341,7 +330,6 @@ class BarcodePageTest : public QObject {
       for (const char* radio : {"working_mode_0", "control_1", "reading_mode_0"}) {
         FindControl<QAbstractButton>(&dialog, radio)->click();
       }
-      if (ok) Save(&dialog, "rfid_dialog");
       Close(&dialog, ok);
       WriteNumber(before->record, kScanSwitchKeyName, 5);
       ClaimFunctionKey(*before, 5, kRoleSwitchKey);
@@ -385,7 +373,6 @@ class BarcodePageTest : public QObject {
               w);
           QTest::mouseClick(edit, Qt::LeftButton);
         }
-        if (ok) Save(w, "advanced_barcode_settings");
         Close(qobject_cast<QDialog*>(w), ok);
       });
       OnPage<QPushButton>("code_id")->click();
@@ -433,7 +420,6 @@ class BarcodePageTest : public QObject {
 
     SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
     sheet.tabs()->setCurrentIndex(1);
-    Save(&sheet, "barcode_page_sheet");
     sheet.accept();
     QCOMPARE(ReadNumber(doc_->record, kCode39VerifyChecksum), 1u);
     QVERIFY(RenderSummaryText(BuildSummary(*doc_)).find("Verify Checksum : Enable\n") !=

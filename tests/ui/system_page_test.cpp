@@ -212,14 +212,6 @@ class SystemPageTest : public QObject, testing::PageUnderTest<SystemPage> {
     QVERIFY(QTest::qWaitForWindowExposed(&sheet));
     const QSize fresh = sheet.size();
     QVERIFY(sheet.frameGeometry().height() <= sheet.screen()->availableGeometry().height());
-    // One picture per screen of prompts, for a look at each.
-    auto* screens = sheet.page(0)->findChild<QComboBox*>("prompt_screens");
-    for (int i = 0; i < screens->count(); ++i) {
-      screens->setCurrentIndex(i);
-      QVERIFY(sheet.grab().save(
-          QDir(VELTRIX_BINARY_DIR).filePath(QStringLiteral("settings_sheet_%1.png").arg(i))));
-    }
-    screens->setCurrentIndex(0);
     // An applied file: every text 40 characters long.
     sheet.page(0)->findChild<QComboBox*>("prompt_screens")->setCurrentIndex(3);
     static_cast<SystemPage*>(sheet.page(0))->Apply(*doc_);
@@ -227,17 +219,6 @@ class SystemPageTest : public QObject, testing::PageUnderTest<SystemPage> {
     applied.show();
     QVERIFY(QTest::qWaitForWindowExposed(&applied));
     QCOMPARE(applied.size(), fresh);
-    QVERIFY(applied.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("settings_sheet_applied.png")));
-  }
-
-  // Renders the page for a look at its layout (kept in the build folder).
-  void grabsAPicture() {
-    page_->resize(page_->sizeHint().expandedTo(QSize(735, 500)));
-    const QPixmap shot = page_->grab();
-    QVERIFY(!shot.isNull());
-    QVERIFY(shot.save(QDir(VELTRIX_BINARY_DIR).filePath("system_page.png")));
-    Find<QComboBox>("prompt_screens")->setCurrentIndex(1);
-    QVERIFY(page_->grab().save(QDir(VELTRIX_BINARY_DIR).filePath("system_page_utilities.png")));
   }
 
  private:

@@ -176,19 +176,6 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
     QCOMPARE(hosts->currentText(), typed);
   }
 
-  // The grid editor in each mode, for a look (kept in the build folder).
-  void gridEditorPictures() {
-    const std::vector<std::uint8_t> start = {0x1B, 0x4F, 0x50};
-    for (GridMode mode : {GridMode::kKeyNames, GridMode::kHex, GridMode::kKeyCodes}) {
-      GridDialog dialog(mode, 9, start);
-      dialog.show();
-      QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-      QTest::keyClick(dialog.findChild<QWidget*>("grid_chart"), Qt::Key_Down);
-      QVERIFY(dialog.grab().save(
-          QDir(VELTRIX_BINARY_DIR).filePath(QStringLiteral("grid_mode_%1.png").arg(int(mode)))));
-    }
-  }
-
   // Inside the sheet: a key claimed here shows as taken on the Emulation page; Cancel puts the
   // record back, OK keeps it and the summary names the key on both sections.
   void insideTheSheet() {
@@ -205,9 +192,6 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
         sheet.accept();
         break;
       }
-      sheet.show();
-      QVERIFY(QTest::qWaitForWindowExposed(&sheet));
-      QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("wireless_lan_page.png")));
       sheet.reject();
       QVERIFY(doc_->record == before);
     }

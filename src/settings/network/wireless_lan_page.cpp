@@ -50,6 +50,7 @@ WirelessLanPage::WirelessLanPage(Document& doc, QWidget* parent)
   binder_->OnChanged([this] { ShowKeys(); });
   // The Reset button sits in the login group's corner, beside "Auto Sign On".
   findChild<QGridLayout*>("login_grid")->addWidget(reset, 6, 3);
+  setTabOrder(findChild<QWidget*>("auto_sign_on"), reset);  // Tab stays in the group
   connect(reset, &QPushButton::clicked, this, [this] {
     SetNetworkDefaults(this->doc());
     LoadControls();

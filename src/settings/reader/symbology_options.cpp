@@ -109,46 +109,26 @@ const LinearOptionDialog* FindLinearOptionDialog(std::string_view template_name)
 
 OwnedBindings LinearOptionBindings(const LinearOptionDialog& dialog) {
   OwnedBindings table;
-  const FieldBinding on_ok{.working = true, .on_ok = true};
-  for (const CheckBoxControl& check : dialog.checks) {
-    FieldBinding line = on_ok;
-    line.control = table.Name(ControlName(check.text));
-    line.field = check.field;
-    table.lines.push_back(line);
-  }
-  for (const ChoiceControl& group : dialog.radios) {
-    FieldBinding line = on_ok;
-    line.control = table.Name(ControlName(group.caption));
-    line.kind = ControlKind::kRadioGroup;
-    line.field = group.field;
-    line.choice = &group;
-    table.lines.push_back(line);
-  }
+  AddWorkingLines(table, dialog.checks);
+  AddWorkingLines(table, dialog.radios, ControlKind::kRadioGroup);
   if (const FieldDef* length = dialog.length) {
     // Bit 7 of the first byte, its bits 6-0, the second byte.
-    FieldBinding qualification = on_ok;
-    qualification.control = "length_qualification";
-    qualification.kind = ControlKind::kRadioGroup;
-    qualification.field = table.Field({.offset = length->offset,
-                                       .type = FieldType::kBits,
-                                       .bit_lo = 7,
-                                       .bit_count = 1,
-                                       .max = 1});
-    table.lines.push_back(qualification);
-    const FieldDef* parts[2] = {table.Field({.offset = length->offset,
-                                             .type = FieldType::kBits,
-                                             .bit_lo = 0,
-                                             .bit_count = 7,
-                                             .max = 127}),
-                                table.Field({.offset = length->offset + 1})};
-    for (int k = 0; k < 2; ++k) {
-      FieldBinding box = on_ok;
-      box.control = k == 0 ? "length_1" : "length_2";
-      box.kind = ControlKind::kNumberEdit;
-      box.field = parts[k];
-      box.box = &kLinearLengthBox;
-      table.lines.push_back(box);
-    }
+    table.lines.push_back({.control = "length_qualification",
+                           .kind = ControlKind::kRadioGroup,
+                           .field = table.Field({.offset = length->offset,
+                                                 .type = FieldType::kBits,
+                                                 .bit_lo = 7,
+                                                 .bit_count = 1,
+                                                 .max = 1}),
+                           .working = true,
+                           .on_ok = true});
+    AddLengthBoxes(table,
+                   table.Field({.offset = length->offset,
+                                .type = FieldType::kBits,
+                                .bit_lo = 0,
+                                .bit_count = 7,
+                                .max = 127}),
+                   table.Field({.offset = length->offset + 1}), kLinearLengthBox);
   }
   return table;
 }

@@ -162,35 +162,15 @@ const TwoDOptionDialog* FindTwoDOptionDialog(std::string_view template_name) {
 
 OwnedBindings TwoDOptionBindings(const TwoDOptionDialog& dialog) {
   OwnedBindings table;
-  const FieldBinding on_ok{.working = true, .on_ok = true};
-  for (const CheckBoxControl& check : dialog.checks) {
-    FieldBinding line = on_ok;
-    line.control = table.Name(ControlName(check.text));
-    line.field = check.field;
-    table.lines.push_back(line);
-  }
-  for (const ChoiceControl& list : dialog.lists) {
-    FieldBinding line = on_ok;
-    line.control = table.Name(ControlName(list.caption));
-    line.kind = ControlKind::kList;
-    line.field = list.field;
-    line.choice = &list;
-    table.lines.push_back(line);
-  }
+  AddWorkingLines(table, dialog.checks);
+  AddWorkingLines(table, dialog.lists, ControlKind::kList);
   if (dialog.length_option != nullptr) {
-    FieldBinding option = on_ok;
-    option.control = "length_option";
-    option.kind = ControlKind::kList;
-    option.field = dialog.length_option;
-    table.lines.push_back(option);
-    for (const FieldDef* field : {dialog.length1, dialog.length2}) {
-      FieldBinding box = on_ok;
-      box.control = field == dialog.length1 ? "length_1" : "length_2";
-      box.kind = ControlKind::kNumberEdit;
-      box.field = field;
-      box.box = &kTwoDLengthBox;
-      table.lines.push_back(box);
-    }
+    table.lines.push_back({.control = "length_option",
+                           .kind = ControlKind::kList,
+                           .field = dialog.length_option,
+                           .working = true,
+                           .on_ok = true});
+    AddLengthBoxes(table, dialog.length1, dialog.length2, kTwoDLengthBox);
   }
   return table;
 }
