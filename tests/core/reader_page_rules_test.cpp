@@ -75,7 +75,7 @@ TEST(ReaderPageCheckBoxes, BindTheRightBlockAndShowTheRightMoreButtons) {
             MoreButtons(true));
 }
 
-TEST(ReaderPageState, DefaultsOfEachSet) {
+TEST(ReaderPageBindings, DefaultsOfEachSet) {
   const struct {
     std::uint8_t reader_type;
     int reader;
@@ -98,15 +98,20 @@ TEST(ReaderPageState, DefaultsOfEachSet) {
   for (const auto& c : kCases) {
     auto doc = testing::DefaultDocument(1);
     doc->record[kReaderType.offset] = c.reader_type;
+    const OwnedBindings bindings = ReaderPageBindings(UsesTwoDSet(c.reader_type));
+    testing::BindingDriver page(*doc, bindings.lines);
+    EXPECT_EQ(c.reader, page.Value("barcode_reader"));
+    EXPECT_EQ(c.rfid, page.Value("rfid_reader") != 0);
+    EXPECT_EQ(c.first_list, page.Value("scan_mode"));
+    EXPECT_EQ(c.second_list, page.Value("read_redundancy"));
+    EXPECT_EQ(std::to_string(c.number), page.Text("time_out"));
     const ReaderPageState state = FillReaderPageState(*doc);
-    EXPECT_EQ(c.reader, state.reader);
-    EXPECT_EQ(c.rfid, state.rfid);
-    EXPECT_EQ(c.first_list, state.first_list);
-    EXPECT_EQ(c.second_list, state.second_list);
-    EXPECT_EQ(c.number, state.number);
     for (int id = 301; id <= 327; ++id) {
       const bool want = std::find(c.on.begin(), c.on.end(), id) != c.on.end();
       EXPECT_EQ(want, state.checked[id - 301]) << int{c.reader_type} << " " << id;
+      if (id < 327 || c.reader_type != 0) {
+        EXPECT_EQ(want, page.Value("symbology_" + std::to_string(id - 300)) != 0) << id;
+      }
     }
   }
 }

@@ -114,20 +114,12 @@ ReaderPageState FillReaderPageState(const Document& doc) {
   ReaderPageState state;
   const std::uint8_t reader_type = doc.record[kReaderType.offset];
   state.reader = ReaderPositionOf(reader_type);
-  state.rfid = ReadNumber(doc.record, kRfidReader) != 0;
-  state.aim_duration = static_cast<int>(ReadWorking(doc, kAimDuration));
-  const auto read = [&doc](const FieldDef& f) { return static_cast<int>(ReadWorking(doc, f)); };
+  const auto read = [&doc](const FieldDef& f) { return ReadWorking(doc, f); };
   if (UsesTwoDSet(reader_type)) {
     state.bookland_follows_ean13 = true;
-    state.first_list = read(kTwoDList401);
-    state.second_list = read(kTwoDList402);
-    state.number = read(kTwoDBox201);
     for (const PageCheckBox& box : kTwoDCheckBoxes) Checked(state, box.id) = read(*box.field) != 0;
     return state;
   }
-  state.first_list = read(kScanMode);
-  state.second_list = read(kReadRedundancy);
-  state.number = read(kTimeOut);
   for (const PageCheckBox& box : kLinearCheckBoxes) {
     if (box.field != nullptr) Checked(state, box.id) = read(*box.field) != 0;
   }

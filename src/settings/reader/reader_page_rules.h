@@ -69,14 +69,9 @@ inline constexpr int kQrCodeCheckBox = 327;  // the linear set has no 27th box
 // The check boxes of the linear set (301-326) or of the two-dimensional set (301-327).
 std::span<const PageCheckBox> ReaderPageCheckBoxes(bool two_d);
 
-// The page's controls: the reader, "RFID Reader", the reader settings and the 27 symbology marks.
+// What the enabling of the symbology marks follows: the reader and the 27 marks.
 struct ReaderPageState {
   int reader = kLaserCcdReader;
-  bool rfid = false;
-  int first_list = 0;    // scan mode, or the first two-dimensional list
-  int second_list = 0;   // read redundancy, or the second two-dimensional list
-  int number = 0;        // time out, or the one-digit two-dimensional box
-  int aim_duration = 0;  // "AIM Duration :"
   std::array<bool, kPageCheckBoxCount> checked{};  // index = id - 301
   // "Bookland EAN" (306) is enabled only while "EAN13" (305) is checked: from the opening of the
   // two-dimensional set, and once 305 was toggled while ReaderType was not 0.
@@ -85,7 +80,7 @@ struct ReaderPageState {
   bool operator==(const ReaderPageState&) const = default;
 };
 
-// The controls as the record (reader type) and the working blocks set them.
+// The reader and marks as the record (reader type) and the working blocks hold them.
 ReaderPageState FillReaderPageState(const Document& doc);
 // The user toggled check box `id` while the record's ReaderType byte is `reader_type`.
 void PageCheckBoxToggled(ReaderPageState& state, int id, std::uint8_t reader_type);
