@@ -1,8 +1,14 @@
 // veltrix-cli run as a program from the transcripts in tests/core/data/cli_transcripts.txt.
 // Each case runs in a fresh working folder; the file's header explains the notation.
+#include <arpa/inet.h>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <signal.h>
+#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -55,6 +61,14 @@ std::string Quote(const std::string& arg) {
   return quoted + "'";
 }
 
+// A line that starts a step of its own, not one of what a command prints.
+bool IsDirective(const std::string& text) {
+  for (const char* word : {"$ ", "file ", "size ", "host", "contains ", "lacks "}) {
+    if (text.rfind(word, 0) == 0) return true;
+  }
+  return false;
+}
+
 std::map<std::string, std::vector<std::uint8_t>> Snapshot(const std::filesystem::path& folder) {
   std::map<std::string, std::vector<std::uint8_t>> files;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
@@ -62,6 +76,66 @@ std::map<std::string, std::vector<std::uint8_t>> Snapshot(const std::filesystem:
     files[entry.path().filename().string()] = ReadBytes(entry.path().string());
   }
   return files;
+}
+
+// veltrix-demo-host on a port of its choosing, for as long as the case runs.
+class DemoHost {
+ public:
+  ~DemoHost() {
+    if (pid_ > 0) {
+      ::kill(pid_, SIGTERM);
+      ::waitpid(pid_, nullptr, 0);
+    }
+  }
+  // Starts it (over TLS with `certificate` when given); the port it listens on, or "" on failure.
+  std::string Start(const std::string& certificate) {
+#ifdef VELTRIX_DEMO_HOST_PATH
+    const std::string tls = std::string(VELTRIX_SOURCE_DIR) + "/tests/ui/data/tls/";
+    std::vector<std::string> args = {VELTRIX_DEMO_HOST_PATH, "--port", "0"};
+    if (!certificate.empty()) {
+      args.insert(args.end(), {"--tls-cert", tls + certificate, "--tls-key", tls + "host.key"});
+    }
+    std::vector<char*> argv;
+    for (std::string& a : args) argv.push_back(a.data());
+    argv.push_back(nullptr);
+    int out[2];
+    if (::pipe(out) != 0) return "";
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
+    posix_spawn_file_actions_addclose(&actions, out[0]);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    const bool spawned =
+        ::posix_spawn(&pid_, argv[0], &actions, nullptr, argv.data(), environ) == 0;
+    posix_spawn_file_actions_destroy(&actions);
+    ::close(out[1]);
+    std::string line;  // "listening on 127.0.0.1:PORT"
+    for (char c; spawned && ::read(out[0], &c, 1) == 1 && c != '\n';) line += c;
+    ::close(out[0]);
+    const std::size_t colon = line.rfind(':');
+    return colon == std::string::npos ? ""
+                                      : line.substr(colon + 1, line.find(' ', colon) - colon - 1);
+#else
+    static_cast<void>(certificate);
+    return "";
+#endif
+  }
+
+ private:
+  pid_t pid_ = -1;
+};
+
+// A port nobody listens on: one the system gave out and took back.
+std::string ClosedPort() {
+  const int s = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t size = sizeof address;
+  ::bind(s, reinterpret_cast<sockaddr*>(&address), sizeof address);
+  ::getsockname(s, reinterpret_cast<sockaddr*>(&address), &size);
+  ::close(s);
+  return std::to_string(ntohs(address.sin_port));
 }
 
 class CliTranscript : public ::testing::TestWithParam<Case> {
@@ -95,7 +169,13 @@ class CliTranscript : public ::testing::TestWithParam<Case> {
 
   void Run(const std::string& args) {
     std::string command = "cd " + Quote(work_.path().string()) + " && " + Quote(VELTRIX_CLI_PATH);
-    for (const std::string& arg : Words(args)) command.append(" ").append(Quote(arg));
+    for (std::string arg : Words(args)) {
+      for (const auto& [name, value] : variables_) {
+        for (std::size_t at; (at = arg.find(name)) != std::string::npos;)
+          arg.replace(at, name.size(), value);
+      }
+      command.append(" ").append(Quote(arg));
+    }
     const std::string out = output_.File("out"), err = output_.File("err");
     const int raw = std::system((command + " >" + Quote(out) + " 2>" + Quote(err)).c_str());
     status_ = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
@@ -104,6 +184,8 @@ class CliTranscript : public ::testing::TestWithParam<Case> {
   }
 
   TempFolder work_, output_;
+  DemoHost host_;
+  std::map<std::string, std::string> variables_;
   int status_ = 0;
   std::string out_, err_;
 };
@@ -123,6 +205,21 @@ TEST_P(CliTranscript, Runs) {
       EXPECT_EQ(std::stoul(w[1]), std::filesystem::file_size(work_.File(w[0]))) << where;
       continue;
     }
+    if (text.rfind("host", 0) == 0) {
+      const auto w = Words(text);
+      variables_["$PORT"] = host_.Start(w.size() > 2 ? w[2] : "");
+      if (variables_["$PORT"].empty()) GTEST_SKIP() << "no demo host in this build";
+      variables_["$CLOSED"] = ClosedPort();
+      variables_["$TLS"] = std::string(VELTRIX_SOURCE_DIR) + "/tests/ui/data/tls";
+      continue;
+    }
+    if (text.rfind("contains ", 0) == 0 || text.rfind("lacks ", 0) == 0) {
+      const std::size_t name = text.find(' ') + 1;
+      const std::size_t wanted = text.find(' ', name) + 1;
+      const std::string file = ReadText(work_.File(text.substr(name, wanted - name - 1)));
+      EXPECT_EQ(text[0] == 'c', file.find(text.substr(wanted)) != std::string::npos) << where;
+      continue;
+    }
     ASSERT_EQ(0u, text.rfind("$ ", 0)) << where;
     const auto before = Snapshot(work_.path());
     Run(text.substr(2));
@@ -130,14 +227,15 @@ TEST_P(CliTranscript, Runs) {
     std::string expected;
     bool whole = true, prefix = false;
     int status = 0;
-    for (; i < lines.size() && lines[i].text.rfind("$ ", 0) != 0 &&
-           lines[i].text.rfind("file ", 0) != 0 && lines[i].text.rfind("size ", 0) != 0;
-         ++i) {
+    for (; i < lines.size() && !IsDirective(lines[i].text); ++i) {
       const std::string& l = lines[i].text;
       if (l.rfind("? ", 0) == 0) {
         status = std::stoi(l.substr(2));
       } else if (l.rfind("! ", 0) == 0) {
         EXPECT_NE(std::string::npos, err_.find(l.substr(2))) << where << "\nstderr: " << err_;
+      } else if (l.rfind("!~ ", 0) == 0) {
+        whole = false;
+        EXPECT_EQ(std::string::npos, out_.find(l.substr(3))) << where << "\nstdout: " << out_;
       } else if (l.rfind("~ ", 0) == 0) {
         whole = false;
         EXPECT_NE(std::string::npos, out_.find(l.substr(2))) << where << "\nstdout: " << out_;

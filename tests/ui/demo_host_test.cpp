@@ -1,13 +1,12 @@
 // The demo host: its screens driven key by key by Veltrix's own engine (scenarios in
 // data/demo_host_scenarios.txt), and end to end over loopback where a QTcpSocket plays the
-// display station (negotiation, scripts, the executable).
+// display station (negotiation, scripts, the executable). veltrix-cli's sessions with it are
+// among the command-line transcripts.
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "demo_host/demo_application.h"
@@ -259,7 +258,6 @@ class DemoHostTest : public QObject {
   void scriptSendsExpectsAndLogs();
   void scriptWithoutNegotiation();
   void executablePrintsItsEphemeralPort();
-  void cliSessionCapturesWhatItWalksThrough();
 };
 
 void DemoHostTest::scenarios_data() {
@@ -467,105 +465,6 @@ void DemoHostTest::executablePrintsItsEphemeralPort() {
   QVERIFY(station.Expect(Bytes({0xFF, 0xFD, 39})));
   host.kill();
   host.waitForFinished();
-}
-
-// veltrix-cli session against the demo host: signs on, walks three screens, captures four, and
-// identify finds them distinct; a port nobody listens on exits 2 with the reason.
-void DemoHostTest::cliSessionCapturesWhatItWalksThrough() {
-  DemoHostServer server;
-  QVERIFY(server.Listen(0));
-  QTemporaryDir dir;
-  auto run = [&](const QStringList& args, int& exit_code) -> QString {
-    QProcess cli;
-    cli.setWorkingDirectory(dir.path());
-    cli.start(QStringLiteral(VELTRIX_CLI_PATH), args);
-    // The demo host runs in this process: keep its event loop turning while the tool works.
-    static_cast<void>(QTest::qWaitFor([&] { return cli.state() == QProcess::NotRunning; }, 20000));
-    exit_code = cli.state() == QProcess::NotRunning ? cli.exitCode() : -1;
-    return QString::fromUtf8(cli.readAllStandardOutput() + cli.readAllStandardError());
-  };
-  int code = -1;
-  QString out = run(
-      {"session", "127.0.0.1", "--port", QString::number(server.port()), "--capture", "four.SCR",
-       "--keys", "<Capture>bob<Enter><Capture>1<Enter><Capture><PageDown><Capture>"},
-      code);
-  QCOMPARE(code, 0);
-  QVERIFY2(out.contains("ITEM0011"), qPrintable(out));
-  QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), qint64(20 + 4 * 10424));
-  // A password typed into the sign-on's non-display field is in no file or listing.
-  out = run({"session", "127.0.0.1", "--port", QString::number(server.port()), "--capture",
-             "secret.SCR", "--keys", "bob<Tab>s3cret<Capture><Enter>", "--log"},
-            code);
-  QCOMPARE(code, 0);
-  auto log = [&] {
-    QFile file(dir.filePath("Logs/Quarvel-TN.log"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  };
-  const QByteArray secret_hex = "A2 F3 83 99 85 A3";  // "s3cret" as the host's code
-  QVERIFY(log().contains("** ** ** ** ** **") && !log().contains(secret_hex));
-  QFile scr(dir.filePath("secret.SCR"));
-  QVERIFY(scr.open(QIODevice::ReadOnly));
-  const QByteArray file = scr.readAll();
-  QVERIFY(file.contains("BOB") && !file.toUpper().contains("S3CRET"));
-  out = run({"screens", "secret.SCR"}, code);
-  QVERIFY2(out.contains("BOB") && !out.toUpper().contains("S3CRET"), qPrintable(out));
-  run({"session", "127.0.0.1", "--port", QString::number(server.port()), "--keys",
-       "bob<Tab>s3cret<Enter>", "--log", "--log-secrets"},
-      code);
-  QVERIFY(log().contains(secret_hex));
-  out = run({"identify", "four.SCR", "--json"}, code);
-  QCOMPARE(code, 0);
-  QVERIFY2(out.startsWith("{\"pages\":[1,2,3,4]"), qPrintable(out));
-
-  // An error answer (keyboard locked, message on the error line) counts as an answer: the error
-  // screen is captured, and <Reset> frees the keyboard.
-  out = run(
-      {"session", "127.0.0.1", "--port", QString::number(server.port()), "--capture", "error.SCR",
-       "--keys", "bob<Enter>2<Enter>ITEM0004x1<Enter><Capture><Reset><Home><Down>25 <Enter>"},
-      code);
-  QCOMPARE(code, 0);
-  QVERIFY2(out.contains("Quantity 25 recorded for ITEM0004."), qPrintable(out));
-  out = run({"screens", "error.SCR"}, code);
-  QVERIFY2(out.contains("Quantity must be a number from 1 to 9999."), qPrintable(out));
-  // check: the capture a document came from passes, a screen of another kind is named.
-  run({"new", "--product", "1", "--out", "d.QVL"}, code);
-  run({"identify", "four.SCR", "--into", "d.QVL"}, code);
-  QCOMPARE(code, 0);
-  run({"set", "d.QVL", "HostRow[0][0]=5", "HostColumn[0][0]=52"}, code);  // the user field
-  out = run({"check", "d.QVL", "four.SCR"}, code);
-  QCOMPARE(code, 0);
-  QCOMPARE(out, "screen 1: page 1\nscreen 2: page 2\nscreen 3: page 3\nscreen 4: page 4\n");
-  out = run({"check", "d.QVL", "error.SCR"}, code);
-  QCOMPARE(code, 1);
-  QCOMPARE(out, "screen 1: matches no page\n");
-  out = run({"preview", "d.QVL", "--page", "1"}, code);
-  QCOMPARE(code, 0);
-  QVERIFY2(out.startsWith("page 1 (20 characters *  8 lines)\n+--------------------+\n"
-                          "|[          ]        |\n"),
-           qPrintable(out));  // the sign-on's empty user field on the first line
-
-  // An existing capture file is neither emptied by a session that cannot connect nor replaced
-  // unasked; --append adds to it.
-  QTcpServer probe;
-  QVERIFY(probe.listen(QHostAddress::LocalHost, 0));
-  const quint16 closed = probe.serverPort();
-  probe.close();
-  const qint64 four = qint64(20 + 4 * 10424);
-  out = run({"session", "127.0.0.1", "--port", QString::number(closed), "--capture", "four.SCR",
-             "--overwrite", "--keys", "<Capture>"},
-            code);
-  QCOMPARE(code, 3);
-  QVERIFY2(out.contains("Connection refused"), qPrintable(out));
-  QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), four);
-  const QStringList capture_one = {
-      "session",   "127.0.0.1", "--port", QString::number(server.port()),
-      "--capture", "four.SCR",  "--keys", "<Capture>"};
-  out = run(capture_one, code);
-  QCOMPARE(code, 2);
-  QVERIFY2(out.contains("--append adds the screens to it"), qPrintable(out));
-  out = run(capture_one + QStringList{"--append"}, code);
-  QCOMPARE(code, 0);
-  QCOMPARE(QFileInfo(dir.filePath("four.SCR")).size(), four + 10424);
 }
 
 QTEST_MAIN(DemoHostTest)

@@ -1,6 +1,7 @@
 // Telnet over TLS against the demo host serving TLS and against stunnel4 in front of the plain
 // demo host: verified with a CA file, refused and asked about (self-signed, expired, another
-// host's, unknown issuer), trusted, warned about when it changes; the command line alike.
+// host's, unknown issuer), trusted, warned about when it changes. (The command line's refusals
+// are among its transcripts.)
 #include <QCryptographicHash>
 #include <QFile>
 #include <QLabel>
@@ -83,7 +84,6 @@ class TlsTest : public QObject {
   void trustedCertificateThatChangesIsAWarning();
   void plainTelnetPortFailsClearly();
   void stunnelInFrontOfThePlainHost();
-  void commandLineVerifiesAsTheWindowDoes();
   void certificateDialogAnswers();
 
  private:
@@ -329,28 +329,6 @@ void TlsTest::stunnelInFrontOfThePlainHost() {
   QVERIFY(run.err.contains(QStringLiteral("secured with TLS 1.")));
   tunnel.terminate();
   tunnel.waitForFinished(5000);
-}
-
-void TlsTest::commandLineVerifiesAsTheWindowDoes() {
-  StartHost("self-signed.pem");
-  const QString port = QString::number(server_->port());
-  const std::string fingerprint = FingerprintOf("self-signed.pem");
-  // Refused with the reason and the fingerprint to pass to --trust: exit 2.
-  CliRun run = RunCli({"session", "127.0.0.1", "--port", port, "--tls"});
-  QCOMPARE(run.exit_code, 2);
-  QVERIFY2(run.err.contains(QStringLiteral("self-signed")) &&
-               run.err.contains(QString::fromStdString("--trust " + fingerprint)),
-           qPrintable(run.err));
-  run = RunCli({"session", "127.0.0.1", "--port", port, "--tls", "--trust",
-                QString::fromStdString(fingerprint).toLower()});
-  QVERIFY2(run.exit_code == 0, qPrintable(run.err));
-  QVERIFY(run.out.contains(QStringLiteral("Sign On")));
-  // Another host's certificate through the CA: refused naming the host problem.
-  StartHost("other-host.pem");
-  run = RunCli({"session", "127.0.0.1", "--port", QString::number(server_->port()), "--tls", "--ca",
-                Data("ca.pem")});
-  QCOMPARE(run.exit_code, 2);
-  QVERIFY2(run.err.contains(QStringLiteral("issued for another host")), qPrintable(run.err));
 }
 
 void TlsTest::certificateDialogAnswers() {
