@@ -17,12 +17,13 @@
 
 namespace veltrix {
 
-FieldBinder::FieldBinder(Document& doc, QWidget* page) : QObject(page), doc_(doc), page_(page) {}
+FieldBinder::FieldBinder(Document& doc, QWidget* page)
+    : QObject(page), session_(doc), page_(page) {}
 
 void FieldBinder::Bind(std::span<const FieldBinding> table) {
-  tables_.push_back(table);
+  Q_ASSERT(bound_.empty());
+  session_.Use(table);
   for (const FieldBinding& b : table) {
-    if (b.on_ok && !pending_) pending_ = std::make_unique<Document>(doc_);
     const QString name = QtText(b.control);
     QObject* control = page_->findChild<QObject*>(name);
     Q_ASSERT_X(control != nullptr, "FieldBinder", qPrintable(name));
@@ -31,7 +32,7 @@ void FieldBinder::Bind(std::span<const FieldBinding> table) {
     const Bound bound = bound_.back();
     const auto store_value = [this, bound](std::int64_t value) {
       if (loading_) return;
-      Stored(bound.control, StoreBoundValue(DocOf(*bound.binding), *bound.binding, value));
+      Stored(bound.control, session_.Set(*bound.binding, value));
     };
     switch (b.kind) {
       case ControlKind::kCheckBox:
@@ -56,8 +57,7 @@ void FieldBinder::Bind(std::span<const FieldBinding> table) {
       case ControlKind::kTextEdit: {
         auto* edit = qobject_cast<QLineEdit*>(control);
         const auto store_text = [this, bound](const std::string& text) {
-          const BindingOutcome outcome =
-              StoreBoundText(DocOf(*bound.binding), *bound.binding, text);
+          const BindingOutcome outcome = session_.Type(*bound.binding, text);
           Stored(bound.control, outcome);
           return outcome.rewrite;
         };
@@ -74,14 +74,13 @@ void FieldBinder::Bind(std::span<const FieldBinding> table) {
       }
       case ControlKind::kGridEdit:
         // The grid editor stays attached for the dialog's life: grid edits are never unbound.
-        AttachGridEditor(
-            qobject_cast<QLineEdit*>(control),
-            {b.grid, [limit = b.grid_limit] { return limit; },
-             [this, bound] { return BoundBytes(DocOf(*bound.binding), *bound.binding); },
-             [this, bound](std::span<const std::uint8_t> bytes) {
-               StoreBoundBytes(DocOf(*bound.binding), *bound.binding, bytes);
-               Stored(nullptr, {});
-             }});
+        AttachGridEditor(qobject_cast<QLineEdit*>(control),
+                         {b.grid, [limit = b.grid_limit] { return limit; },
+                          [this, bound] { return session_.Bytes(*bound.binding); },
+                          [this, bound](std::span<const std::uint8_t> bytes) {
+                            session_.Pick(*bound.binding, bytes);
+                            Stored(nullptr, {});
+                          }});
         break;
     }
   }
@@ -91,19 +90,17 @@ void FieldBinder::Unbind() {
   for (const QMetaObject::Connection& c : connections_) disconnect(c);
   connections_.clear();
   bound_.clear();
-  tables_.clear();
 }
 
 void FieldBinder::Commit() {
   for (const Bound& b : bound_) {
     if (auto* spin = qobject_cast<QSpinBox*>(b.control)) spin->interpretText();
   }
-  if (!pending_) return;
-  for (std::span<const FieldBinding> table : tables_) CommitBound(doc_, *pending_, table);
+  session_.Commit();
 }
 
 void FieldBinder::Revert() {
-  if (pending_) *pending_ = doc_;
+  session_.Revert();
   Load();
 }
 
@@ -123,9 +120,8 @@ void FieldBinder::Load() { Load(nullptr); }
 void FieldBinder::Load(const QObject* except) {
   loading_ = true;
   for (const Bound& b : bound_) {
-    const Document& doc = DocOf(*b.binding);
-    const bool enabled = BoundEnabled(doc, *b.binding);
-    const std::int64_t value = BoundValue(doc, *b.binding);
+    const bool enabled = session_.Enabled(*b.binding);
+    const std::int64_t value = session_.Value(*b.binding);
     if (auto* group = qobject_cast<QButtonGroup*>(b.control)) {
       for (QAbstractButton* button : group->buttons()) button->setEnabled(enabled);
     } else if (auto* widget = qobject_cast<QWidget*>(b.control)) {
@@ -152,7 +148,7 @@ void FieldBinder::Load(const QObject* except) {
       case ControlKind::kNumberEdit:
       case ControlKind::kTextEdit: {
         auto* edit = qobject_cast<QLineEdit*>(b.control);
-        const QString text = FromRecordText(BoundText(doc, *b.binding));
+        const QString text = FromRecordText(session_.Text(*b.binding));
         // An unchanged text is left alone, with its caret and selection; a stored number shows in
         // full even when it is longer than the box takes as typed.
         if (edit->text() == text) break;
@@ -165,7 +161,7 @@ void FieldBinder::Load(const QObject* except) {
       }
       case ControlKind::kGridEdit:
         qobject_cast<QLineEdit*>(b.control)->setText(
-            QtText(GridDisplayText(b.binding->grid, BoundBytes(doc, *b.binding))));
+            QtText(GridDisplayText(b.binding->grid, session_.Bytes(*b.binding))));
         break;
     }
   }

@@ -3,10 +3,10 @@
 
 #include <QObject>
 #include <functional>
-#include <memory>
 #include <span>
 #include <vector>
 
+#include "settings/binding_session.h"
 #include "settings/document.h"
 #include "settings/field_binding.h"
 
@@ -26,7 +26,7 @@ class FieldBinder : public QObject {
  public:
   FieldBinder(Document& doc, QWidget* page);
 
-  // Binds every line of the table (which must outlive the binder).
+  // Binds every line of the table (which must outlive the binder); one table at a time.
   void Bind(std::span<const FieldBinding> table);
   // Fills every bound control from the record and sets its enabling.
   void Load();
@@ -34,7 +34,7 @@ class FieldBinder : public QObject {
   void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
   // The document the on-OK lines edit until OK (the record itself when there are none).
-  Document& Pending() { return pending_ ? *pending_ : doc_; }
+  Document& Pending() { return session_.Pending(); }
   // OK: takes what is typed in the spin boxes and stores every on-OK line into the record.
   void Commit();
   // Drops what the on-OK lines hold and shows the record again.
@@ -49,12 +49,9 @@ class FieldBinder : public QObject {
   };
   void Load(const QObject* except);
   void Stored(const QObject* source, const BindingOutcome& outcome);
-  Document& DocOf(const FieldBinding& b) { return b.on_ok ? Pending() : doc_; }
 
-  Document& doc_;
+  BindingSession session_;
   QWidget* page_;
-  std::unique_ptr<Document> pending_;
-  std::vector<std::span<const FieldBinding>> tables_;
   std::vector<Bound> bound_;
   std::vector<QMetaObject::Connection> connections_;
   bool loading_ = false;

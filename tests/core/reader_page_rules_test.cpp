@@ -99,7 +99,7 @@ TEST(ReaderPageBindings, DefaultsOfEachSet) {
     auto doc = testing::DefaultDocument(1);
     doc->record[kReaderType.offset] = c.reader_type;
     const OwnedBindings bindings = ReaderPageBindings(UsesTwoDSet(c.reader_type));
-    testing::BindingDriver page(*doc, bindings.lines);
+    BindingSession page = testing::Session(*doc, bindings.lines);
     EXPECT_EQ(c.reader, page.Value("barcode_reader"));
     EXPECT_EQ(c.rfid, page.Value("rfid_reader") != 0);
     EXPECT_EQ(c.first_list, page.Value("scan_mode"));
@@ -152,7 +152,7 @@ TEST(ReaderPageState, EnablingFollowsTheReader) {
 TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
   auto doc = testing::DefaultDocument(1);
   const OwnedBindings bindings = ReaderPageBindings(false);
-  testing::BindingDriver page(*doc, bindings.lines);
+  BindingSession page = testing::Session(*doc, bindings.lines);
   page.Set("symbology_25", 0);
   page.Set("symbology_26", 1);
   page.Set("scan_mode", 1);
@@ -160,7 +160,7 @@ TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
   page.Type("time_out", "10");
   page.Set("symbology_1", 0);
   page.Set("symbology_24", 0);
-  page.Ok();
+  page.Commit();
   ApplyReaderPage(*doc);
   EXPECT_EQ(0x83, doc->record[3712]);  // bits 7-6 = 2
   EXPECT_EQ(0x16, doc->record[3710]);
@@ -171,7 +171,7 @@ TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
   EXPECT_FALSE(doc->modified);
 
   page.Set("symbology_25", 1);
-  page.Ok();
+  page.Commit();
   ApplyReaderPage(*doc);
   EXPECT_EQ(0x43, doc->record[3712]);
 }
@@ -179,15 +179,15 @@ TEST(ReaderPageApply, LinearSetStoresEan128AsOneOrTwo) {
 TEST(ReaderPageApply, LongRangeLaserClearsTheTwoDReaderOnlySymbologies) {
   auto doc = testing::DefaultDocument(1);
   const OwnedBindings bindings = ReaderPageBindings(true);
-  testing::BindingDriver page(*doc, bindings.lines);
+  BindingSession page = testing::Session(*doc, bindings.lines);
   page.Set("barcode_reader", kLongRangeLaser);  // at once
   EXPECT_EQ(0x04, doc->record[kReaderType.offset]);
-  testing::BindingDriver reopened(*doc, bindings.lines);
+  BindingSession reopened = testing::Session(*doc, bindings.lines);
   EXPECT_FALSE(reopened.Enabled("scan_mode"));
   EXPECT_TRUE(reopened.Enabled("aim_duration"));
   for (int box = 1; box <= 27; ++box) reopened.Set("symbology_" + std::to_string(box), 1);
   reopened.Type("aim_duration", "200");
-  reopened.Ok();
+  reopened.Commit();
   ApplyReaderPage(*doc);
   EXPECT_EQ(0xFC, doc->record[58659]);
   EXPECT_EQ(0x18, doc->record[58670]);  // Code 11 off
@@ -200,12 +200,12 @@ TEST(ReaderPageApply, LongRangeLaserClearsTheTwoDReaderOnlySymbologies) {
 TEST(ReaderPageApply, TwoDReaderStoresRfidAndAllEnableBits) {
   auto doc = testing::DefaultDocument(1);
   const OwnedBindings bindings = ReaderPageBindings(true);
-  testing::BindingDriver(*doc, bindings.lines).Set("barcode_reader", kTwoDReader);
-  testing::BindingDriver page(*doc, bindings.lines);
+  testing::Session(*doc, bindings.lines).Set("barcode_reader", kTwoDReader);
+  BindingSession page = testing::Session(*doc, bindings.lines);
   EXPECT_FALSE(page.Enabled("aim_duration"));
   page.Set("rfid_reader", 1);
   for (int box = 1; box <= 27; ++box) page.Set("symbology_" + std::to_string(box), 1);
-  page.Ok();
+  page.Commit();
   ApplyReaderPage(*doc);
   EXPECT_EQ(0x03, doc->record[kReaderType.offset]);
   EXPECT_EQ(0xFC, doc->record[58659]);

@@ -58,11 +58,10 @@ std::vector<ApplyLine> Lines(const std::string& shape) {
 
 // Clicks or chooses "checked=..", "checked[i]=..", "chosen=..", "chosen[i]=.." as the user would;
 // false for other names.
-bool ApplyListChange(testing::BindingDriver& dialog, const std::string& name,
-                     const std::string& value) {
+bool ApplyListChange(BindingSession& dialog, const std::string& name, const std::string& value) {
   const std::string list = name.substr(0, name.find('['));
   if (list != "checked" && list != "chosen") return false;
-  const std::vector<std::string_view> controls = dialog.Controls(list == "chosen");
+  const std::vector<std::string_view> controls = testing::Controls(dialog, list == "chosen");
   const std::size_t at =
       name.find('[') != std::string::npos ? std::stoul(name.substr(name.find('[') + 1)) : 0;
   const std::vector<int> values = Numbers(value);
@@ -76,7 +75,7 @@ TEST(SymbologyApply, LinearDialogsPackTheirControls) {
     const LinearOptionDialog* dialog = FindLinearOptionDialog(line.dialog);
     ASSERT_NE(dialog, nullptr) << line.where;
     const OwnedBindings bindings = LinearOptionBindings(*dialog);
-    testing::BindingDriver user(*doc, bindings.lines);
+    BindingSession user = testing::Session(*doc, bindings.lines);
     for (const auto& [name, value] : line.changes) {
       if (ApplyListChange(user, name, value)) continue;
       ASSERT_EQ(name, "length") << line.where;
@@ -85,7 +84,7 @@ TEST(SymbologyApply, LinearDialogsPackTheirControls) {
       user.Type("length_1", std::to_string(n[1]));
       user.Type("length_2", std::to_string(n[2]));
     }
-    user.Ok();
+    user.Commit();
     ApplyLinearOptions(*doc, *dialog);
     for (std::size_t i = 0; i < line.want.size(); ++i) {
       EXPECT_EQ(line.want[i], doc->reader_block2[line.offset + i - kReaderBlock2Offset])
@@ -107,14 +106,14 @@ TEST(SymbologyApply, TwoDimensionalDialogsPackTheirControls) {
     }
     OpenTwoDOptions(*doc, *dialog);
     const OwnedBindings bindings = TwoDOptionBindings(*dialog);
-    testing::BindingDriver user(*doc, bindings.lines);
+    BindingSession user = testing::Session(*doc, bindings.lines);
     for (const auto& [name, value] : line.changes) {
       if (name == "set" || ApplyListChange(user, name, value)) continue;
       if (name == "option") {
         user.Set("length_option", value == "two"     ? kTwoLengths
                                   : value == "range" ? kLengthRange
                                                      : kAnyLength);
-        LengthOptionChosen(user.pending(), *dialog);
+        LengthOptionChosen(user.Pending(), *dialog);
       } else {
         ASSERT_EQ(name, "lengths") << line.where;
         const std::vector<int> n = Numbers(value);
@@ -122,7 +121,7 @@ TEST(SymbologyApply, TwoDimensionalDialogsPackTheirControls) {
         user.Type("length_2", std::to_string(n[1]));
       }
     }
-    user.Ok();
+    user.Commit();
     ApplyTwoDOptions(*doc, *dialog);
     for (std::size_t i = 0; i < line.want.size(); ++i) {
       EXPECT_EQ(line.want[i], doc->reader_block1[line.offset + i - kReaderBlock1Offset])

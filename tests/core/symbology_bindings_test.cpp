@@ -63,7 +63,7 @@ void ExpectOnlyOwnBitsChanged(std::span<const std::uint8_t> before,
 
 // Every control of the dialog set at random (numbers typed, up to 129), then OK.
 void UseEveryControl(Document& doc, const OwnedBindings& bindings, std::mt19937& random) {
-  testing::BindingDriver user(doc, bindings.lines);
+  BindingSession user = testing::Session(doc, bindings.lines);
   for (const FieldBinding& line : bindings.lines) {
     if (line.kind == ControlKind::kNumberEdit) {
       user.Type(line.control, std::to_string(random() % 130));
@@ -71,7 +71,7 @@ void UseEveryControl(Document& doc, const OwnedBindings& bindings, std::mt19937&
       user.Set(line.control, static_cast<int>(random() % 6));
     }
   }
-  user.Ok();
+  user.Commit();
 }
 
 TEST(SymbologyBindings, LinearDialogsWriteOnlyTheirOwnBits) {

@@ -87,7 +87,7 @@ TEST(LinearOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
     auto doc = testing::DefaultDocument(1);
     const auto before = doc->reader_block2;
     const OwnedBindings bindings = LinearOptionBindings(dialog);
-    testing::BindingDriver(*doc, bindings.lines).Ok();
+    testing::Session(*doc, bindings.lines).Commit();
     ApplyLinearOptions(*doc, dialog);
     EXPECT_EQ(before, doc->reader_block2) << dialog.template_name;
   }
@@ -98,12 +98,12 @@ TEST(LinearOptionDialogs, OpeningShowsTheWorkingBlock) {
   auto doc = testing::DefaultDocument(1);
   const auto shown = [&doc](std::string_view name, bool choices) {
     const OwnedBindings bindings = LinearOptionBindings(*FindLinearOptionDialog(name));
-    return testing::BindingDriver(*doc, bindings.lines).Values(choices);
+    return testing::Values(testing::Session(*doc, bindings.lines), choices);
   };
   const OwnedBindings industrial = LinearOptionBindings(*FindLinearOptionDialog("Industrial25Dlg"));
-  testing::BindingDriver user(*doc, industrial.lines);
-  EXPECT_EQ((std::vector<std::int64_t>{0, 1}), user.Values(false));
-  EXPECT_EQ((std::vector<std::int64_t>{0}), user.Values(true));
+  BindingSession user = testing::Session(*doc, industrial.lines);
+  EXPECT_EQ((std::vector<std::int64_t>{0, 1}), testing::Values(user, false));
+  EXPECT_EQ((std::vector<std::int64_t>{0}), testing::Values(user, true));
   EXPECT_EQ(1, user.Value("length_qualification"));
   EXPECT_EQ("127", user.Text("length_1"));
   EXPECT_EQ("1", user.Text("length_2"));

@@ -93,7 +93,7 @@ TEST(TwoDOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
     const auto before = doc->reader_block1;
     OpenTwoDOptions(*doc, dialog);
     const OwnedBindings bindings = TwoDOptionBindings(dialog);
-    testing::BindingDriver(*doc, bindings.lines).Ok();
+    testing::Session(*doc, bindings.lines).Commit();
     ApplyTwoDOptions(*doc, dialog);
     EXPECT_EQ(before, doc->reader_block1) << dialog.template_name;
   }
@@ -105,36 +105,36 @@ TEST(TwoDOptionDialogs, OpeningShowsTheDefaults) {
     return TwoDOptionBindings(*FindTwoDOptionDialog(name));
   };
   const OwnedBindings code39 = shown("CODE39_2D_DLG");
-  testing::BindingDriver code39_user(*doc, code39.lines);
+  BindingSession code39_user = testing::Session(*doc, code39.lines);
   EXPECT_EQ(kLengthRange, code39_user.Value("length_option"));
   EXPECT_EQ("2", code39_user.Text("length_1"));
   EXPECT_EQ("55", code39_user.Text("length_2"));
   const OwnedBindings interleave = shown("INTERLEAVE25_2D_DLG");
-  testing::BindingDriver interleave_user(*doc, interleave.lines);
+  BindingSession interleave_user = testing::Session(*doc, interleave.lines);
   EXPECT_EQ(kOneLength, interleave_user.Value("length_option"));
   EXPECT_EQ("14", interleave_user.Text("length_1"));
-  EXPECT_EQ((std::vector<std::int64_t>{0}), interleave_user.Values(true));
+  EXPECT_EQ((std::vector<std::int64_t>{0}), testing::Values(interleave_user, true));
   const OwnedBindings upca = shown("UPCA_2D_DLG");
-  testing::BindingDriver upca_user(*doc, upca.lines);
-  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), upca_user.Values(false));
-  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), upca_user.Values(true));
+  BindingSession upca_user = testing::Session(*doc, upca.lines);
+  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), testing::Values(upca_user, false));
+  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), testing::Values(upca_user, true));
 }
 
 TEST(TwoDOptionDialogs, SupplementalsAreSharedByTheUpcAndEan8Dialogs) {
   auto doc = testing::DefaultDocument(1);
   const TwoDOptionDialog& upce = *FindTwoDOptionDialog("UPCE_2D_DLG");
   const OwnedBindings upce_bindings = TwoDOptionBindings(upce);
-  testing::BindingDriver user(*doc, upce_bindings.lines);
-  user.Set(user.Controls(true)[1], 2);
-  user.Set(user.Controls(false)[2], 1);  // the coupon bit is shared too
-  user.Ok();
+  BindingSession user = testing::Session(*doc, upce_bindings.lines);
+  user.Set(testing::Controls(user, true)[1], 2);
+  user.Set(testing::Controls(user, false)[2], 1);  // the coupon bit is shared too
+  user.Commit();
   ApplyTwoDOptions(*doc, upce);
   const OwnedBindings upca = TwoDOptionBindings(*FindTwoDOptionDialog("UPCA_2D_DLG"));
-  testing::BindingDriver upca_user(*doc, upca.lines);
-  EXPECT_EQ(2, upca_user.Values(true)[1]);
-  EXPECT_EQ(1, upca_user.Values(false)[1]);
+  BindingSession upca_user = testing::Session(*doc, upca.lines);
+  EXPECT_EQ(2, testing::Values(upca_user, true)[1]);
+  EXPECT_EQ(1, testing::Values(upca_user, false)[1]);
   const OwnedBindings ean8 = TwoDOptionBindings(*FindTwoDOptionDialog("EAN8_2D_DLG"));
-  EXPECT_EQ(2, testing::BindingDriver(*doc, ean8.lines).Values(true)[0]);
+  EXPECT_EQ(2, testing::Values(testing::Session(*doc, ean8.lines), true)[0]);
 }
 
 TEST(TwoDOptionDialogs, Code39OpeningClearsItsSpareBitsEvenWhenCancelled) {

@@ -51,8 +51,8 @@ bool SameReader(const Document& a, const Document& b) {
 }
 
 // Clicks every check box of a symbology dialog, and the same in the core's copy of the user.
-void ToggleChecks(QWidget* dialog, testing::BindingDriver& core) {
-  for (std::string_view name : core.Controls(false)) {
+void ToggleChecks(QWidget* dialog, BindingSession& core) {
+  for (std::string_view name : testing::Controls(core, false)) {
     FindControl<QCheckBox>(dialog, QtText(name))->click();
     core.Set(name, 1 - core.Value(name));
   }
@@ -97,7 +97,7 @@ class BarcodePageTest : public QObject {
     const LinearOptionDialog& table = LinearOptionDialogs()[index];
     auto expected = std::make_unique<Document>(*doc_);
     const OwnedBindings bindings = LinearOptionBindings(table);
-    testing::BindingDriver core(*expected, bindings.lines);
+    BindingSession core = testing::Session(*expected, bindings.lines);
     LinearOptionsDialog dialog(*doc_, table);
     ToggleChecks(&dialog, core);
     for (const ChoiceControl& group : table.radios) {
@@ -119,7 +119,7 @@ class BarcodePageTest : public QObject {
     }
     Close(&dialog, ok);
     if (ok) {
-      core.Ok();
+      core.Commit();
       ApplyLinearOptions(*expected, table);
     }
     QVERIFY(SameReader(*doc_, *expected));
@@ -135,7 +135,7 @@ class BarcodePageTest : public QObject {
     auto expected = std::make_unique<Document>(*doc_);
     OpenTwoDOptions(*expected, table);
     const OwnedBindings bindings = TwoDOptionBindings(table);
-    testing::BindingDriver core(*expected, bindings.lines);
+    BindingSession core = testing::Session(*expected, bindings.lines);
     ToggleChecks(&TwoDDialog(table), core);
     for (const ChoiceControl& list : table.lists) {
       const std::string name = ControlName(list.caption);
@@ -149,13 +149,13 @@ class BarcodePageTest : public QObject {
       testing::TypeInto(FindControl<QLineEdit>(dialog_.get(), "length_1"), "6");
       testing::TypeInto(FindControl<QLineEdit>(dialog_.get(), "length_2"), "10");
       core.Set("length_option", kTwoLengths);
-      LengthOptionChosen(core.pending(), table);
+      LengthOptionChosen(core.Pending(), table);
       core.Type("length_1", "6");
       core.Type("length_2", "10");
     }
     Close(dialog_.get(), ok);
     if (ok) {
-      core.Ok();
+      core.Commit();
       ApplyTwoDOptions(*expected, table);
     }
     QVERIFY(SameReader(*doc_, *expected));
