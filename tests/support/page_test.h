@@ -1,7 +1,6 @@
 #ifndef VELTRIX_TESTS_SUPPORT_PAGE_TEST_H_
 #define VELTRIX_TESTS_SUPPORT_PAGE_TEST_H_
 
-#include <QFile>
 #include <QLineEdit>
 #include <QtTest>
 #include <memory>
@@ -22,22 +21,6 @@ T* FindControl(QWidget* page, const QString& name) {
 inline void TypeInto(QLineEdit* edit, const QString& text) {
   edit->clear();
   QTest::keyClicks(edit, text);
-}
-
-// The rows of tests/ui/data/number_edits.txt for `page`: columns edit, typed, shown, stored.
-inline void AddNumberEditRows(const QString& page) {
-  QTest::addColumn<QString>("edit");
-  QTest::addColumn<QString>("typed");
-  QTest::addColumn<QString>("shown");
-  QTest::addColumn<int>("stored");
-  QFile file(QStringLiteral(VELTRIX_SOURCE_DIR "/tests/ui/data/number_edits.txt"));
-  if (!file.open(QIODevice::ReadOnly)) qFatal("no number_edits.txt");
-  for (const QByteArray& line : file.readAll().split('\n')) {
-    const QList<QByteArray> f = line.simplified().split(' ');
-    if (f.size() != 5 || f[0].startsWith('#') || f[0] != page.toLatin1()) continue;
-    QTest::newRow(qPrintable(f[1] + " " + f[2]))
-        << QString(f[1]) << QString(f[2]) << QString(f[3]) << f[4].toInt();
-  }
 }
 
 // The document and the page a page test drives, made afresh by each test function's init().

@@ -165,79 +165,6 @@ class BarcodePageTest : public QObject {
     }
   }
 
-  void timeOutIsCorrectedAsTypedAndStoredOnApply_data() { testing::AddNumberEditRows("barcode"); }
-  void timeOutIsCorrectedAsTypedAndStoredOnApply() {
-    QFETCH(QString, edit);
-    QFETCH(QString, typed);
-    Open(1);
-    testing::TypeInto(OnPage<QLineEdit>(edit), typed);
-    QTEST(OnPage<QLineEdit>(edit)->text(), "shown");
-    page_->Apply(*doc_);
-    QTEST(int(ReadNumber(doc_->record, kTimeOut)), "stored");
-  }
-
-  // The linear set as a new document shows it; EAN128 unchecked stores 2; Reset to Default puts
-  // back the defaults and the page shows them.
-  void linearSet() {
-    Open(1);
-    QVERIFY(!OnPage<QComboBox>("barcode_reader")->isEnabled());
-    QVERIFY(!OnPage<QPushButton>("rfid_more")->isEnabled());
-    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Laser"));
-    QCOMPARE(OnPage<QCheckBox>("symbology_25")->text(), QString("EAN128"));
-    QVERIFY(OnPage<QCheckBox>("symbology_25")->isChecked());
-    QVERIFY(OnPage<QCheckBox>("symbology_27")->isHidden());
-    QVERIFY(OnPage<QPushButton>("more_25")->isVisibleTo(page_.get()));
-    QVERIFY(OnPage<QPushButton>("more_11")->isHidden());
-    QVERIFY(!OnPage<QLineEdit>("aim_duration")->isEnabled());
-
-    OnPage<QCheckBox>("symbology_25")->click();
-    OnPage<QCheckBox>("symbology_1")->click();
-    OnPage<QComboBox>("scan_mode")->setCurrentIndex(1);
-    page_->Apply(*doc_);
-    QCOMPARE(int(doc_->record[3712] >> 6), 2);
-    QCOMPARE(int(doc_->record[3690] & 0x80), 0);
-    QCOMPARE(int(ReadNumber(doc_->record, kScanMode)), 1);
-
-    OnPage<QPushButton>("reset_to_default")->click();
-    QCOMPARE(QByteArray(reinterpret_cast<const char*>(&doc_->record[3690]), 4).toHex(),
-             QByteArray("9bc9003f"));
-    QCOMPARE(QByteArray(reinterpret_cast<const char*>(&doc_->record[3710]), 3).toHex(),
-             QByteArray("660303"));
-    QVERIFY(OnPage<QCheckBox>("symbology_1")->isChecked());
-    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Laser"));
-  }
-
-  // Product 3 may choose the reader: the record takes it at once and the page relabels; the long
-  // range laser disables the 2D-only symbologies and applying clears them.
-  void readerChangeRelabelsAndRefills() {
-    doc_->record[kProductOffset] = 3;
-    Open(3);
-    OnPage<QComboBox>("barcode_reader")->setCurrentIndex(1);
-    QCOMPARE(int(doc_->record[kReaderType.offset] & 0x05), 1);
-    QCOMPARE(OnPage<QCheckBox>("symbology_1")->text(), QString("UPC-A"));
-    QVERIFY(OnPage<QCheckBox>("symbology_27")->isVisibleTo(page_.get()));
-    QVERIFY(!OnPage<QComboBox>("scan_mode")->isEnabled());
-    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Internal"));
-    OnPage<QCheckBox>("symbology_5")->click();  // EAN13 off: Bookland EAN follows
-    QVERIFY(!OnPage<QCheckBox>("symbology_6")->isEnabled());
-    OnPage<QCheckBox>("symbology_5")->click();
-    QVERIFY(OnPage<QCheckBox>("symbology_6")->isEnabled());
-
-    OnPage<QComboBox>("barcode_reader")->setCurrentIndex(2);
-    QCOMPARE(int(doc_->record[kReaderType.offset] & 0x05), 4);
-    QVERIFY(!OnPage<QCheckBox>("symbology_13")->isEnabled());
-    QVERIFY(!OnPage<QPushButton>("more_13")->isEnabled());
-    QVERIFY(OnPage<QLineEdit>("aim_duration")->isEnabled());
-    testing::TypeInto(OnPage<QLineEdit>("aim_duration"), "300");
-    QCOMPARE(OnPage<QLineEdit>("aim_duration")->text(), QString("255"));
-    OnPage<QCheckBox>("rfid_reader")->click();
-    page_->Apply(*doc_);
-    QCOMPARE(ReadWorking(*doc_, kTwoDCode11), 0u);
-    QCOMPARE(ReadNumber(doc_->record, kTwoDPdf417), 0u);  // the working block reached the record
-    QCOMPARE(ReadNumber(doc_->record, kAimDuration), 255u);
-    QCOMPARE(ReadNumber(doc_->record, kRfidReader), 1u);
-  }
-
   // Values no control can show (from a loaded file): a list selects, and OK stores, the nearest
   // entry; the disabled two-dimensional box keeps its value through OK.
   // Values a box cannot take as typed (from a file or veltrix-cli set) show in full and survive
@@ -283,20 +210,6 @@ class BarcodePageTest : public QObject {
     Close(&advanced, true);
     QCOMPARE(maximum->value(), 50);
     QCOMPARE(ReadWorking(*doc_, kMaximumLength), 50u);
-  }
-
-  // Values no entry stands for show the nearest entry; a disabled control keeps what is stored.
-  void oddStoredValues() {
-    WriteWorking(*doc_, kScanMode, 12);
-    Open(1);
-    QCOMPARE(OnPage<QComboBox>("scan_mode")->currentText(), QString("Aiming"));
-    doc_->record[kReaderType.offset] = 1;
-    WriteWorking(*doc_, kTwoDBox201, 15);
-    WriteWorking(*doc_, kTwoDList401, 6);
-    Open(1);
-    page_->Apply(*doc_);
-    QCOMPARE(ReadNumber(doc_->record, kTwoDBox201), 15u);
-    QCOMPARE(ReadNumber(doc_->record, kTwoDList401), 6u);
   }
 
   // "RFID": every control changed; the switch key is claimed at once and refused while another

@@ -35,58 +35,6 @@ class EmulationPageTest : public QObject, testing::PageUnderTest<EmulationPage> 
   void init() { OpenPage(2); }
   void cleanup() { ClosePage(); }
 
-  // The font size button already chosen changes nothing, not even steps typed by hand.
-  void fontSizeAndLanguageSetTheSteps() {
-    Type("horizontal_steps", "25");
-    Find<QRadioButton>("font_size_0")->click();
-    QCOMPARE(Value(kHorizontalSteps), 25);
-    Find<QRadioButton>("font_size_1")->click();
-    QCOMPARE(Value(kHorizontalSteps), 14);
-    QCOMPARE(Find<QLineEdit>("horizontal_steps")->text(), QString("14"));
-    // A language sets the font size and both steps (the core's table): French is small.
-    Find<QComboBox>("language")->setCurrentIndex(6);
-    QVERIFY(Find<QRadioButton>("font_size_0")->isChecked());
-    QCOMPARE(Find<QLineEdit>("vertical_steps")->text(), QString("7"));
-    QCOMPARE(Value(kEmulationType), 6);
-  }
-
-  void numberEditsAreCorrectedAsTyped_data() { testing::AddNumberEditRows("emulation"); }
-  void numberEditsAreCorrectedAsTyped() {
-    QFETCH(QString, edit);
-    QFETCH(QString, typed);
-    Type(edit, typed);
-    QTEST(Find<QLineEdit>(edit)->text(), "shown");
-    const FieldBinding* b = FindBinding(EmulationBindings(), edit.toStdString());
-    QTEST(int(BoundValue(*doc_, *b)), "stored");
-  }
-
-  void cursorTrackingAndLockScreenExcludeEachOther() {
-    Find<QCheckBox>("lock_screen")->click();
-    QVERIFY(!Find<QCheckBox>("cursor_tracking")->isChecked());
-    QCOMPARE(std::pair(Value(kCursorTracking), Value(kLockScreen)), std::pair(0, 1));
-    Find<QCheckBox>("cursor_tracking")->click();
-    QVERIFY(!Find<QCheckBox>("lock_screen")->isChecked());
-    QCOMPARE(std::pair(Value(kCursorTracking), Value(kLockScreen)), std::pair(1, 0));
-    QVERIFY(!Find<QCheckBox>("disable_local_echo")->isVisibleTo(page_.get()));
-  }
-
-  // FN+2 as navigator key: its row reads "Navigator Key" and its button is off; the message key
-  // cannot take it too; "Disable" gives FN+2 back to PF2.
-  void keyCombosClaimAndRelease() {
-    Find<QComboBox>("navigator_key")->setCurrentIndex(2);
-    QCOMPARE(Find<QLabel>("key_label_2")->text(), QString("Navigator Key"));
-    QVERIFY(!Find<QPushButton>("key_2")->isEnabled());
-    QString message;
-    testing::AnswerMessageBox(&message);
-    Find<QComboBox>("message_key")->setCurrentIndex(2);
-    QCOMPARE(message, QString("Function Key Mapping: The function key is defined already !!"));
-    QCOMPARE(Find<QComboBox>("message_key")->currentIndex(), 0);
-    QCOMPARE(Value(kMessageFunctionKey), 0);
-    Find<QComboBox>("navigator_key")->setCurrentIndex(0);
-    QCOMPARE(Find<QLabel>("key_label_2")->text(), QString("PF2"));
-    QVERIFY(Find<QPushButton>("key_2")->isEnabled());
-  }
-
   void mappingDialogOkAndCancel_data() {
     QTest::addColumn<bool>("ok");
     QTest::addColumn<QString>("label");
@@ -113,19 +61,6 @@ class EmulationPageTest : public QObject, testing::PageUnderTest<EmulationPage> 
     QTEST(Find<QLabel>("key_label_5")->text(), "label");
     const auto code = FieldBytes(std::span<const std::uint8_t>(doc_->record), kKeyCode, 5);
     QCOMPARE(code[2], std::uint8_t(ok ? 0x56 : 0x4D));
-  }
-
-  void resetKeepsFieldLengthAndRestoresTheRest() {
-    Find<QRadioButton>("field_length_1")->click();
-    Find<QComboBox>("language")->setCurrentIndex(4);
-    Find<QComboBox>("navigator_key")->setCurrentIndex(3);
-    WriteNumber(doc_->record, kLoginNameKey, 4);
-    ClaimFunctionKey(*doc_, 4, kRoleNameKey);
-    Find<QPushButton>("reset")->click();
-    QCOMPARE(Value(kFieldLengthIfExceed), 1);
-    QCOMPARE(Find<QComboBox>("language")->currentIndex(), 0);
-    QCOMPARE(Find<QLabel>("key_label_3")->text(), QString("PF3"));
-    QCOMPARE(Find<QLabel>("key_label_4")->text(), QString("Name Key"));
   }
 
   // A group the list does not hold (from a file) survives OK instead of locking the key.

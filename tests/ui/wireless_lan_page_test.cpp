@@ -31,64 +31,6 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
   void init() { OpenPage(2); }
   void cleanup() { ClosePage(); }
 
-  void dhcpDisablesTheAddressesAndKeepsThem() {
-    QVERIFY(!Find<QLineEdit>("gateway")->isEnabled());
-    Find<QCheckBox>("dhcp_server")->click();
-    QVERIFY(Find<QLineEdit>("gateway")->isEnabled());
-    Type("gateway", "10.0.0.1");
-    Find<QCheckBox>("dhcp_server")->click();
-    QVERIFY(!Find<QLineEdit>("gateway")->isEnabled());
-    QCOMPARE(Text(kGateway), QString("10.0.0.1"));
-    QVERIFY(!Find<QLineEdit>("eap_id")->isEnabled());
-    QVERIFY(!Find<QLineEdit>("wep_key_1")->isEnabled());
-  }
-
-  void numberEditsAreCorrectedAsTyped_data() { testing::AddNumberEditRows("wlan"); }
-  void numberEditsAreCorrectedAsTyped() {
-    QFETCH(QString, edit);
-    QFETCH(QString, typed);
-    Type(edit, typed);
-    QTEST(Find<QLineEdit>(edit)->text(), "shown");
-    const FieldDef& field = edit == "telnet_port" ? kTelnetPort : kKeepAliveMinutes;
-    QTEST(int(ReadNumber(doc_->record, field)), "stored");
-  }
-
-  // FN+3 for the login name, then for the password: refused. FN+4 for the password releases its
-  // former key and claims FN+4; Reset gives every key back.
-  void keyCombosFollowTheClaimRule() {
-    Find<QComboBox>("login_password_key")->setCurrentIndex(5);
-    Find<QComboBox>("login_name_key")->setCurrentIndex(3);
-    QString message;
-    testing::AnswerMessageBox(&message);
-    Find<QComboBox>("login_password_key")->setCurrentIndex(3);
-    QCOMPARE(message, QString("Function Key Mapping: The function key is defined already !!"));
-    QCOMPARE(Find<QComboBox>("login_password_key")->currentIndex(), 5);
-    Find<QComboBox>("login_password_key")->setCurrentIndex(4);
-    QCOMPARE(MappingLabel(*doc_, 5), std::string("PF5"));
-    QCOMPARE(MappingLabel(*doc_, 4), std::string("Password Key"));
-    QVERIFY(QString::fromStdString(MappingSummaryLine(*doc_, 3)).contains("Name Key"));
-    Find<QCheckBox>("auto_sign_on")->click();
-    Find<QPushButton>("reset")->click();
-    QCOMPARE(MappingLabel(*doc_, 3), std::string("PF3"));
-    QCOMPARE(MappingLabel(*doc_, 4), std::string("PF4"));
-    QCOMPARE(Find<QComboBox>("login_name_key")->currentIndex(), 0);
-    QCOMPARE(ReadNumber(doc_->record, kAutoSignOn), 0u);
-  }
-
-  void keyLengthShowsAndCutsTheKeys() {
-    Find<QCheckBox>("wep")->click();
-    for (int i = 0; i < 16; ++i) doc_->record[kWepKey.offset + i] = std::uint8_t(i + 1);
-    page_->SetActive(*doc_);
-    QCOMPARE(Find<QLineEdit>("wep_key_1")->text(), QString("01 02 03 04 05 "));
-    // Showing the key stores it as shown: bytes 5 to 15 zero.
-    for (int i = 5; i < 16; ++i) QCOMPARE(doc_->record[kWepKey.offset + i], std::uint8_t(0));
-    Find<QComboBox>("wep_key_length")->setCurrentIndex(1);
-    QCOMPARE(Find<QLineEdit>("wep_key_1")->text(),
-             QString("01 02 03 04 05 00 00 00 00 00 00 00 00 "));
-    Find<QComboBox>("wep_key_length")->setCurrentIndex(0);
-    for (int i = 5; i < 16; ++i) QCOMPARE(doc_->record[kWepKey.offset + i], std::uint8_t(0));
-  }
-
   // Key 2 through the grid editor: it opens full (five bytes), so the sixth click after Clear is
   // refused; OK stores what was picked, Cancel leaves the key.
   void wepKeysComeFromTheGridEditor_data() {

@@ -1,0 +1,155 @@
+// The pages of the settings sheet driven as a user does, step by step, from the scripts in
+// tests/ui/data/page_scripts.txt (the file's header explains the steps).
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QtTest>
+#include <memory>
+
+#include "cli/settings_input.h"
+#include "resources/text_qt.h"
+#include "settings/document.h"
+#include "settings/field_values.h"
+#include "settings/reader/working_block.h"
+#include "settings/settings_page.h"
+#include "shell/settings_page_registry_qt.h"
+#include "support/modal.h"
+#include "support/page_test.h"
+
+using namespace veltrix;
+
+namespace {
+
+struct Script {
+  QString name;
+  QList<QPair<int, QString>> steps;  // line number, step
+};
+
+QList<Script> ReadScripts() {
+  QFile file(QStringLiteral(VELTRIX_SOURCE_DIR "/tests/ui/data/page_scripts.txt"));
+  QList<Script> scripts;
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) qFatal("no page_scripts.txt");
+  int number = 0;
+  for (const QByteArray& raw : file.readAll().split('\n')) {
+    const QString line = QString::fromUtf8(raw).trimmed();
+    ++number;
+    if (line.isEmpty() || line.startsWith('#')) continue;
+    if (line.startsWith("case ")) {
+      scripts.append({line.mid(5), {}});
+    } else if (!scripts.isEmpty()) {
+      scripts.last().steps.append({number, line});
+    }
+  }
+  return scripts;
+}
+
+// What a control shows: an edit's or label's text, a list's entry, a button's check mark.
+QString Shown(QWidget* w) {
+  if (auto* edit = qobject_cast<QLineEdit*>(w)) return edit->text();
+  if (auto* combo = qobject_cast<QComboBox*>(w)) return combo->currentText();
+  if (auto* label = qobject_cast<QLabel*>(w)) return label->text();
+  if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+    return button->isChecked() ? QStringLiteral("checked") : QStringLiteral("unchecked");
+  }
+  return {};
+}
+
+}  // namespace
+
+class PageScriptsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void scripts_data() {
+    QTest::addColumn<int>("index");
+    const QList<Script> all = ReadScripts();
+    for (int i = 0; i < all.size(); ++i) QTest::newRow(qPrintable(all[i].name)) << i;
+  }
+
+  void scripts() {
+    QFETCH(int, index);
+    const Script script = ReadScripts()[index];
+    auto doc = std::make_unique<Document>();
+    std::unique_ptr<QWidget> parent;
+    SettingsPage* page = nullptr;
+    for (const auto& [number, step] : script.steps) {
+      const QString where = QStringLiteral("line %1: %2").arg(number).arg(step);
+      const QString verb = step.section(' ', 0, 0);
+      const QString name = step.section(' ', 1, 1);
+      const QString rest = step.section(' ', 2);
+      if (verb == "new") {
+        SetDefaults(*doc, name.toInt());
+        continue;
+      }
+      if (verb == "set") {
+        QVERIFY2(cli::ApplySetAssignment(*doc, step.mid(4).toStdString()).empty(),
+                 qPrintable(where));
+        CopyRecordToReaderBlocks(*doc);  // as a file with these bytes opens
+        continue;
+      }
+      if (verb == "raw") {  // a number no control would store: from a file
+        const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
+        QVERIFY2(element.single(), qPrintable(where));
+        const FieldElement e = ElementsOf(element)[0];
+        WriteNumber(doc->record, *e.field, name.section('=', 1).toUInt(), e.i, e.j);
+        CopyRecordToReaderBlocks(*doc);
+        continue;
+      }
+      if (verb == "stored") {
+        const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
+        QVERIFY2(element.single(), qPrintable(where));
+        const QString value =
+            QString::fromStdString(FormatElementValue(doc->record, ElementsOf(element)[0]));
+        QVERIFY2(value.trimmed() == (name.section('=', 1) + ' ' + rest).trimmed(),
+                 qPrintable(where + " holds " + value));
+        continue;
+      }
+      if (verb == "page") {
+        static const QStringList kPages = {"system", "barcode", "wlan", "emulation", "screen"};
+        parent = std::make_unique<QWidget>();
+        page = SettingsPageRegistry::Installed().Create(
+            static_cast<SheetPageId>(kPages.indexOf(name)), *doc, parent.get());
+        page->Initialise(*doc);
+        page->SetActive(*doc);
+        continue;
+      }
+      if (verb == "apply") {
+        page->Apply(*doc);
+        continue;
+      }
+      QVERIFY2(page != nullptr, qPrintable(where));
+      QWidget* control = testing::FindControl<QWidget>(page, name);
+      QString message;
+      const bool refused = step.endsWith(" refused");
+      if (refused) testing::AnswerMessageBox(&message);
+      if (verb == "click") {
+        qobject_cast<QAbstractButton*>(control)->click();
+      } else if (verb == "choose") {
+        qobject_cast<QComboBox*>(control)->setCurrentIndex(rest.section(' ', 0, 0).toInt());
+      } else if (verb == "type") {
+        testing::TypeInto(qobject_cast<QLineEdit*>(control), rest);
+      } else if (verb == "shows") {
+        auto* button = qobject_cast<QAbstractButton*>(control);
+        const QString shown = button != nullptr && rest != "checked" && rest != "unchecked"
+                                  ? button->text()
+                                  : Shown(control).trimmed();
+        QVERIFY2(shown == rest, qPrintable(where + " shows " + shown));
+      } else if (verb == "enabled" || verb == "disabled") {
+        QVERIFY2(control->isEnabled() == (verb == "enabled"), qPrintable(where));
+      } else if (verb == "hidden" || verb == "visible") {
+        QVERIFY2(control->isVisibleTo(page) == (verb == "visible"), qPrintable(where));
+      } else {
+        QFAIL(qPrintable(where + ": unknown step"));
+      }
+      if (refused) {
+        QTRY_COMPARE(message,
+                     QString("Function Key Mapping: The function key is defined already !!"));
+      }
+    }
+  }
+};
+
+QTEST_MAIN(PageScriptsTest)
+#include "page_scripts_test.moc"
