@@ -35,43 +35,6 @@ class EmulationPageTest : public QObject, testing::PageUnderTest<EmulationPage> 
   void init() { OpenPage(2); }
   void cleanup() { ClosePage(); }
 
-  void mappingDialogOkAndCancel_data() {
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<QString>("label");
-    QTest::newRow("OK") << true << "PF13";
-    QTest::newRow("Cancel") << false << "PF5";
-  }
-  void mappingDialogOkAndCancel() {
-    QFETCH(bool, ok);
-    QString code_shown;
-    testing::WhenModal([&](QWidget* w) {
-      auto* dialog = qobject_cast<FunctionKeyDialog*>(w);
-      QVERIFY(dialog);
-      QVERIFY(!dialog->findChild<QComboBox*>("group")->isEnabled());
-      auto* host = dialog->findChild<QComboBox*>("host_key");
-      QCOMPARE(host->currentText(), QString("PF5"));
-      host->setFocus();
-      QTest::keyClicks(host, "PF13");  // typed as a user picks from a list
-      host->setCurrentIndex(13);
-      code_shown = dialog->findChild<QLineEdit*>("key_code")->text();
-      ok ? dialog->accept() : dialog->reject();
-    });
-    Find<QPushButton>("key_5")->click();
-    QCOMPARE(code_shown, QString("ESC [ V "));
-    QTEST(Find<QLabel>("key_label_5")->text(), "label");
-    const auto code = FieldBytes(std::span<const std::uint8_t>(doc_->record), kKeyCode, 5);
-    QCOMPARE(code[2], std::uint8_t(ok ? 0x56 : 0x4D));
-  }
-
-  // A group the list does not hold (from a file) survives OK instead of locking the key.
-  void storedGroupTheListLacksSurvivesOk() {
-    WriteNumber(doc_->record, kKeyMappingGroup, 7, 5);
-    FunctionKeyDialog dialog(*doc_, 5);
-    dialog.accept();
-    QCOMPARE(ReadNumber(doc_->record, kKeyMappingGroup, 5), 7u);
-    QVERIFY(MappingRowEnabled(*doc_, 5));
-  }
-
   // Inside the sheet: Cancel puts back the record and the key code table; a language chosen
   // here changes the Screen page's sizes; a key claimed elsewhere shows when the tab is shown.
   void insideTheSheet() {

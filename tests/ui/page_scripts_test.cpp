@@ -1,6 +1,7 @@
 // The pages of the settings sheet driven as a user does, step by step, from the scripts in
 // tests/ui/data/page_scripts.txt (the file's header explains the steps).
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -11,7 +12,11 @@
 #include "cli/settings_input.h"
 #include "resources/text_qt.h"
 #include "settings/document.h"
+#include "settings/emulation/function_key_dialog.h"
 #include "settings/field_values.h"
+#include "settings/reader/advanced_barcode_dialog.h"
+#include "settings/reader/rfid_dialog.h"
+#include "settings/reader/symbology_dialog.h"
 #include "settings/reader/working_block.h"
 #include "settings/settings_page.h"
 #include "shell/settings_page_registry_qt.h"
@@ -48,6 +53,7 @@ QList<Script> ReadScripts() {
 // What a control shows: an edit's or label's text, a list's entry, a button's check mark.
 QString Shown(QWidget* w) {
   if (auto* edit = qobject_cast<QLineEdit*>(w)) return edit->text();
+  if (auto* spin = qobject_cast<QAbstractSpinBox*>(w)) return spin->text();
   if (auto* combo = qobject_cast<QComboBox*>(w)) return combo->currentText();
   if (auto* label = qobject_cast<QLabel*>(w)) return label->text();
   if (auto* button = qobject_cast<QAbstractButton*>(w)) {
@@ -74,6 +80,7 @@ class PageScriptsTest : public QObject {
     auto doc = std::make_unique<Document>();
     std::unique_ptr<QWidget> parent;
     SettingsPage* page = nullptr;
+    std::unique_ptr<QDialog> dialog;
     for (const auto& [number, step] : script.steps) {
       const QString where = QStringLiteral("line %1: %2").arg(number).arg(step);
       const QString verb = step.section(' ', 0, 0);
@@ -115,12 +122,34 @@ class PageScriptsTest : public QObject {
         page->SetActive(*doc);
         continue;
       }
+      if (verb == "dialog") {
+        if (name == "rfid") {
+          dialog = std::make_unique<RfidDialog>(*doc);
+        } else if (name == "advanced") {
+          dialog = std::make_unique<AdvancedBarcodeDialog>(*doc);
+        } else if (name == "function-key") {
+          dialog = std::make_unique<FunctionKeyDialog>(*doc, rest.toInt());
+        } else if (const auto* linear = FindLinearOptionDialog(name.toStdString())) {
+          dialog = std::make_unique<LinearOptionsDialog>(*doc, *linear);
+        } else if (const auto* two_d = FindTwoDOptionDialog(name.toStdString())) {
+          dialog = std::make_unique<TwoDOptionsDialog>(*doc, *two_d);
+        }
+        QVERIFY2(dialog != nullptr, qPrintable(where));
+        dialog->show();
+        continue;
+      }
+      if (verb == "ok" || verb == "cancel") {
+        verb == "ok" ? dialog->accept() : dialog->reject();
+        dialog.reset();
+        continue;
+      }
       if (verb == "apply") {
         page->Apply(*doc);
         continue;
       }
-      QVERIFY2(page != nullptr, qPrintable(where));
-      QWidget* control = testing::FindControl<QWidget>(page, name);
+      QWidget* within = dialog != nullptr ? static_cast<QWidget*>(dialog.get()) : page;
+      QVERIFY2(within != nullptr, qPrintable(where));
+      QWidget* control = testing::FindControl<QWidget>(within, name);
       QString message;
       const bool refused = step.endsWith(" refused");
       if (refused) testing::AnswerMessageBox(&message);
@@ -128,8 +157,9 @@ class PageScriptsTest : public QObject {
         qobject_cast<QAbstractButton*>(control)->click();
       } else if (verb == "choose") {
         qobject_cast<QComboBox*>(control)->setCurrentIndex(rest.section(' ', 0, 0).toInt());
-      } else if (verb == "type") {
-        testing::TypeInto(qobject_cast<QLineEdit*>(control), rest);
+      } else if (verb == "type") {  // into an edit, or a spin box's edit
+        auto* edit = qobject_cast<QLineEdit*>(control);
+        testing::TypeInto(edit != nullptr ? edit : control->findChild<QLineEdit*>(), rest);
       } else if (verb == "shows") {
         auto* button = qobject_cast<QAbstractButton*>(control);
         const QString shown = button != nullptr && rest != "checked" && rest != "unchecked"
@@ -139,7 +169,7 @@ class PageScriptsTest : public QObject {
       } else if (verb == "enabled" || verb == "disabled") {
         QVERIFY2(control->isEnabled() == (verb == "enabled"), qPrintable(where));
       } else if (verb == "hidden" || verb == "visible") {
-        QVERIFY2(control->isVisibleTo(page) == (verb == "visible"), qPrintable(where));
+        QVERIFY2(control->isVisibleTo(within) == (verb == "visible"), qPrintable(where));
       } else {
         QFAIL(qPrintable(where + ": unknown step"));
       }
