@@ -217,38 +217,6 @@ class BarcodePageTest : public QObject {
     }
   }
 
-  // Inside the sheet the page keeps no snapshot: Cancel keeps the reader chosen and what the
-  // "more..." dialogs changed, which reaches the record (and the summary) at the next OK.
-  void insideTheSheet() {
-    doc_->record[kProductOffset] = 3;
-    {
-      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
-      sheet.tabs()->setCurrentIndex(1);
-      QWidget* page = sheet.page(1);
-      FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(1);
-      FindControl<QComboBox>(page, "barcode_reader")->setCurrentIndex(0);
-      testing::WhenModal([](QWidget* w) {
-        FindControl<QCheckBox>(w, "verify_checksum")->click();
-        Close(qobject_cast<QDialog*>(w), true);
-      });
-      FindControl<QPushButton>(page, "more_1")->click();
-      FindControl<QCheckBox>(page, "symbology_2")->click();
-      sheet.reject();
-    }
-    QCOMPARE(int(doc_->record[kReaderType.offset]), 0);
-    QCOMPARE(ReadWorking(*doc_, kCode39VerifyChecksum), 1u);
-    QCOMPARE(ReadNumber(doc_->record, kCode39VerifyChecksum), 0u);
-    QCOMPARE(ReadNumber(doc_->record, kItalianPharmacode), 0u);  // the page's own mark is lost
-    QVERIFY(!doc_->modified);
-
-    SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
-    sheet.tabs()->setCurrentIndex(1);
-    sheet.accept();
-    QCOMPARE(ReadNumber(doc_->record, kCode39VerifyChecksum), 1u);
-    QVERIFY(RenderSummaryText(BuildSummary(*doc_)).find("Verify Checksum : Enable\n") !=
-            std::string::npos);
-  }
-
  private:
   void Open(int product) {
     doc_->record[kProductOffset] = static_cast<std::uint8_t>(product);

@@ -20,6 +20,8 @@
 #include "settings/reader/working_block.h"
 #include "settings/settings_page.h"
 #include "shell/settings_page_registry_qt.h"
+#include "shell/settings_sheet_dialog.h"
+#include "shell/summary.h"
 #include "support/modal.h"
 #include "support/page_test.h"
 
@@ -81,6 +83,8 @@ class PageScriptsTest : public QObject {
     std::unique_ptr<QWidget> parent;
     SettingsPage* page = nullptr;
     std::unique_ptr<QDialog> dialog;
+    std::unique_ptr<SettingsSheetDialog> sheet;
+    static const QStringList kPages = {"system", "barcode", "wlan", "emulation", "screen"};
     for (const auto& [number, step] : script.steps) {
       const QString where = QStringLiteral("line %1: %2").arg(number).arg(step);
       const QString verb = step.section(' ', 0, 0);
@@ -104,6 +108,35 @@ class PageScriptsTest : public QObject {
         CopyRecordToReaderBlocks(*doc);
         continue;
       }
+      if (verb == "working") {  // a reader field's working copy, as OK would store it
+        Document copy = *doc;
+        CopyReaderBlocksToRecord(copy);
+        const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
+        QVERIFY2(element.single(), qPrintable(where));
+        QCOMPARE(QString::fromStdString(FormatElementValue(copy.record, ElementsOf(element)[0])),
+                 name.section('=', 1));
+        continue;
+      }
+      if (verb == "summary") {
+        const std::string summary = RenderSummaryText(BuildSummary(*doc));
+        QVERIFY2(summary.find(step.mid(8).toStdString()) != std::string::npos, qPrintable(where));
+        continue;
+      }
+      if (verb == "modified") {
+        QVERIFY2(doc->modified == (name == "yes"), qPrintable(where));
+        continue;
+      }
+      if (verb == "sheet") {
+        sheet = std::make_unique<SettingsSheetDialog>(*doc, SettingsPageRegistry::Installed());
+        sheet->show();
+        page = sheet->page(0);
+        continue;
+      }
+      if (verb == "tab") {
+        sheet->tabs()->setCurrentIndex(kPages.indexOf(name));
+        page = sheet->page(kPages.indexOf(name));
+        continue;
+      }
       if (verb == "stored") {
         const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
         QVERIFY2(element.single(), qPrintable(where));
@@ -114,7 +147,6 @@ class PageScriptsTest : public QObject {
         continue;
       }
       if (verb == "page") {
-        static const QStringList kPages = {"system", "barcode", "wlan", "emulation", "screen"};
         parent = std::make_unique<QWidget>();
         page = SettingsPageRegistry::Installed().Create(
             static_cast<SheetPageId>(kPages.indexOf(name)), *doc, parent.get());
@@ -138,9 +170,16 @@ class PageScriptsTest : public QObject {
         dialog->show();
         continue;
       }
-      if (verb == "ok" || verb == "cancel") {
-        verb == "ok" ? dialog->accept() : dialog->reject();
-        dialog.reset();
+      if (verb == "ok" || verb == "cancel") {  // the dialog open, else the sheet
+        QDialog* closing = dialog != nullptr ? dialog.get() : sheet.get();
+        QVERIFY2(closing != nullptr, qPrintable(where));
+        verb == "ok" ? closing->accept() : closing->reject();
+        if (dialog != nullptr) {
+          dialog.reset();
+        } else {
+          sheet.reset();
+          page = nullptr;
+        }
         continue;
       }
       if (verb == "apply") {

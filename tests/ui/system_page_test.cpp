@@ -103,27 +103,6 @@ class SystemPageTest : public QObject, testing::PageUnderTest<SystemPage> {
     }
   }
 
-  // Through the real sheet: a change on this page is undone by Cancel, kept by OK.
-  void sheetCancelRestoresAndOkKeeps() {
-    const SettingsRecord before = doc_->record;
-    {
-      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
-      QVERIFY(qobject_cast<SystemPage*>(sheet.page(0)) != nullptr);
-      sheet.page(0)->findChild<QLineEdit*>("auto_power_off")->setText("0300");
-      QCOMPARE(ReadNumber(doc_->record, kAutoPowerOff), 300u);
-      sheet.reject();
-    }
-    QVERIFY(doc_->record == before);
-    QVERIFY(!doc_->modified);
-    {
-      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
-      sheet.page(0)->findChild<QLineEdit*>("idle")->setText("12");
-      sheet.accept();
-    }
-    QCOMPARE(doc_->record[29], std::uint8_t{9});
-    QVERIFY(doc_->modified);
-  }
-
   // The sheet has one size whatever the document holds, and fits the screen (also at 150%).
   void sheetHasOneSizeAndFitsTheScreen() {
     SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());

@@ -118,30 +118,6 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
     QCOMPARE(hosts->currentText(), typed);
   }
 
-  // Inside the sheet: a key claimed here shows as taken on the Emulation page; Cancel puts the
-  // record back, OK keeps it and the summary names the key on both sections.
-  void insideTheSheet() {
-    const SettingsRecord before = doc_->record;
-    for (const bool ok : {false, true}) {
-      SettingsSheetDialog sheet(*doc_, SettingsPageRegistry::Installed());
-      sheet.tabs()->setCurrentIndex(2);
-      sheet.page(2)->findChild<QComboBox*>("login_name_key")->setCurrentIndex(7);
-      sheet.tabs()->setCurrentIndex(3);
-      QCOMPARE(sheet.page(3)->findChild<QLabel*>("key_label_7")->text(), QString("Name Key"));
-      QVERIFY(!sheet.page(3)->findChild<QPushButton*>("key_7")->isEnabled());
-      sheet.tabs()->setCurrentIndex(2);
-      if (ok) {
-        sheet.accept();
-        break;
-      }
-      sheet.reject();
-      QVERIFY(doc_->record == before);
-    }
-    const std::string summary = RenderSummaryText(BuildSummary(*doc_));
-    QVERIFY(summary.find("Login Name Key : FN+7\n") != std::string::npos);
-    QVERIFY(summary.find("FN+7  =>  Name Key\n") != std::string::npos);
-  }
-
  private:
   QString Text(const FieldDef& field) {
     return QString::fromStdString(ReadText(doc_->record, field));
