@@ -64,27 +64,7 @@ TEST(EmulationDefaults, MessageDefaultsTouchOnlyTheirTenBytesAndTwoFields) {
   EXPECT_EQ(expected, Image(*doc, 59660, 59783));
 }
 
-TEST(EmulationChoices, LanguageSetsFontAndSteps) {
-  struct Case {
-    int language;
-    std::uint32_t font, horizontal, vertical;
-  };
-  auto doc = testing::DefaultDocument(1);
-  for (const Case& c : {Case{4, 1, 14, 3}, Case{6, 0, 19, 7}, Case{1, 1, 14, 3}, Case{5, 0, 19, 7},
-                        Case{3, 1, 14, 3}, Case{0, 0, 19, 7}}) {
-    ChooseLanguage(*doc, c.language);
-    EXPECT_EQ(static_cast<std::uint32_t>(c.language), ReadNumber(doc->record, kEmulationType));
-    EXPECT_EQ(c.font, ReadNumber(doc->record, kFontSize)) << c.language;
-    EXPECT_EQ(c.horizontal, ReadNumber(doc->record, kHorizontalSteps)) << c.language;
-    EXPECT_EQ(c.vertical, ReadNumber(doc->record, kVerticalSteps)) << c.language;
-  }
-}
 
-TEST(EmulationChoices, ExcludeStringKeepsNineteenCharacters) {
-  auto doc = testing::DefaultDocument(1);
-  WriteText(doc->record, kExcludeString, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-  EXPECT_EQ("ABCDEFGHIJKLMNOPQRS", ReadText(doc->record, kExcludeString));
-}
 
 }  // namespace
 }  // namespace veltrix

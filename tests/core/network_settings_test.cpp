@@ -47,39 +47,7 @@ TEST(WepKeys, TextIsUpperCaseHexPairsEachFollowedByABlank) {
   EXPECT_EQ("", WepKeyText({}));
 }
 
-TEST(WepKeys, LengthChangesShowAndClearTheRightBytes) {
-  auto doc = testing::DefaultDocument(2);
-  ChangeWepKeyLength(*doc, 1);
-  std::vector<std::uint8_t> key(16);
-  for (int i = 0; i < 16; ++i) key[i] = static_cast<std::uint8_t>(0x10 + i);
-  StoreWepKey(*doc, 2, key);
-  EXPECT_EQ("10 11 12 13 14 15 16 17 18 19 1A 1B 1C ", StoredWepKeyText(*doc, 2));
-  auto stored = FieldBytes(std::span<const std::uint8_t>(doc->record), kWepKey, 2);
-  EXPECT_EQ(0, stored[13]);  // only 13 bytes are the key
-  EXPECT_EQ(0, stored[15]);
 
-  ChangeWepKeyLength(*doc, 0);
-  EXPECT_EQ("10 11 12 13 14 ", StoredWepKeyText(*doc, 2));
-  for (int i = 5; i < 16; ++i) EXPECT_EQ(0, stored[i]) << i;
-
-  // Back to 128 bits: the cleared bytes read as zeros.
-  ChangeWepKeyLength(*doc, 1);
-  EXPECT_EQ("10 11 12 13 14 00 00 00 00 00 00 00 00 ", StoredWepKeyText(*doc, 2));
-  EXPECT_EQ("", StoredWepKeyText(*doc, 4));
-}
-
-TEST(WepKeys, LongerKeysShowZerosEvenWhenAFileHeldBytesBehindTheShortKey) {
-  auto doc = testing::DefaultDocument(1);
-  // 64-bit keys with bytes behind them, as a file can hold them.
-  for (int k = 0; k < kWepKeyCount; ++k) {
-    auto stored = FieldBytes(std::span<std::uint8_t>(doc->record), kWepKey, k);
-    std::fill(stored.begin(), stored.end(), static_cast<std::uint8_t>(0xA0 + k));
-  }
-  ChangeWepKeyLength(*doc, 1);
-  EXPECT_EQ("A1 A1 A1 A1 A1 00 00 00 00 00 00 00 00 ", StoredWepKeyText(*doc, 1));
-  auto stored = FieldBytes(std::span<const std::uint8_t>(doc->record), kWepKey, 3);
-  for (int i = 5; i < 16; ++i) EXPECT_EQ(0, stored[i]) << i;
-}
 
 TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
   auto doc = testing::DefaultDocument(1);
@@ -90,18 +58,6 @@ TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
   EXPECT_EQ(before, doc->record);
 }
 
-TEST(NetworkControls, EnablingFollowsDhcpEapAndWep) {
-  auto doc = testing::DefaultDocument(1);
-  EXPECT_EQ((NetworkControlStates{false, false, false}), NetworkControlStatesOf(*doc));
-  WriteNumber(doc->record, kDhcpServer, 0);
-  WriteNumber(doc->record, kWepKeyEnabled, 1);
-  EXPECT_EQ((NetworkControlStates{true, false, true}), NetworkControlStatesOf(*doc));
-  WriteNumber(doc->record, kEapEnabled, 1);
-  WriteNumber(doc->record, kDhcpServer, 1);
-  EXPECT_EQ((NetworkControlStates{false, true, true}), NetworkControlStatesOf(*doc));
-  // Ticking DHCP only disables the edits: the addresses stay stored.
-  EXPECT_EQ("192.168.1.241", ReadText(doc->record, kTerminalIp));
-}
 
 }  // namespace
 }  // namespace veltrix
