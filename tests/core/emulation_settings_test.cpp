@@ -64,7 +64,5 @@ TEST(EmulationDefaults, MessageDefaultsTouchOnlyTheirTenBytesAndTwoFields) {
   EXPECT_EQ(expected, Image(*doc, 59660, 59783));
 }
 
-
-
 }  // namespace
 }  // namespace veltrix

@@ -47,8 +47,6 @@ TEST(WepKeys, TextIsUpperCaseHexPairsEachFollowedByABlank) {
   EXPECT_EQ("", WepKeyText({}));
 }
 
-
-
 TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
   auto doc = testing::DefaultDocument(1);
   WriteNumber(doc->record, kActiveHostIpOrName, 9);
@@ -57,7 +55,6 @@ TEST(HostList, ActiveIndexBeyondTheListFromAFileWritesNothing) {
   PadNetworkTexts(*doc);
   EXPECT_EQ(before, doc->record);
 }
-
 
 }  // namespace
 }  // namespace veltrix

@@ -1,5 +1,5 @@
-// Summary lines that the golden cases cannot reach: values only a file can hold, the working
-// copy of the reader settings, and random records.
+// Summary lines that the summary cases cannot reach: the working copy of the reader settings,
+// bytes no text edit makes, and random records.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -38,41 +38,6 @@ TEST(BardodeSummary, ReadsTheLinearWorkingCopy) {
   EXPECT_EQ("Scan Mode : Continuous", bardode.children[0].children[0].text);
 }
 
-struct UnknownValueCase {
-  const char* name;
-  const FieldDef* field;
-  std::uint32_t value;
-  std::vector<int> path;  // child indices from the branch down to the line
-  const char* want;
-};
-
-class BardodeUnknownValue : public ::testing::TestWithParam<UnknownValueCase> {};
-
-TEST_P(BardodeUnknownValue, ShowsTheNumber) {
-  auto doc = testing::DefaultDocument(1);
-  WriteWorking(*doc, *GetParam().field, GetParam().value);
-  SummaryNode bardode{"Bardode", {}};
-  AppendReaderSummary(*doc, bardode);
-  const SummaryNode* node = &bardode;
-  for (int index : GetParam().path) node = &node->children.at(index);
-  EXPECT_EQ(GetParam().want, node->text);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, BardodeUnknownValue,
-    ::testing::Values(
-        UnknownValueCase{"ScanMode", &kScanMode, 12, {0, 0}, "Scan Mode : 12"},
-        UnknownValueCase{"AutoEnter", &kAutoEnter, 2, {2, 9}, "Auto Enter : 2"},
-        UnknownValueCase{"GoodBeep", &kGoodBeep, 7, {2, 10}, "Good Beep : 7"},
-        UnknownValueCase{"ScanControl", &kScanControl, 3, {2, 11}, "Scan Control : 3"},
-        UnknownValueCase{"SwitchKey", &kScanSwitchKeyName, 11, {2, 12}, "Scan SwitchKey Name : 11"},
-        UnknownValueCase{"StartStopSelection",
-                         &kIndustrial25StartStop,
-                         3,
-                         {1, 3, 0},
-                         "Start / Stop Selection : 3"}),
-    [](const auto& info) { return std::string(info.param.name); });
-
 TEST(BardodeSummary, ControlBytesOfTheLeadingCodeShowAsQuestionMarks) {
   auto doc = testing::DefaultDocument(1);
   WriteText(doc->record, kLeadingCode, "A\nB\x7F");
@@ -98,47 +63,14 @@ TEST(BardodeSummary, AnyRecordGivesTheSameShape) {
   }
 }
 
-TEST(WirelessSummary, ValuesOnlyAFileCanHoldDoNotBreakTheLines) {
+// A text filling its whole field (no NUL, as a file may hold it) shows in full.
+TEST(WirelessSummary, ATextWithoutItsNulShowsWhole) {
   auto doc = std::make_unique<Document>();
   SetDefaults(*doc, 1);
-  WriteNumber(doc->record, kLoginNameKey, 42);
-  WriteNumber(doc->record, kWepKeyLength, 7);
   auto local_name = FieldBytes(std::span<std::uint8_t>(doc->record), kLocalName);
   std::fill(local_name.begin(), local_name.end(), 'Z');  // no NUL within the width
   const std::string text = Branch(*doc, "Wireless LAN");
-  EXPECT_NE(std::string::npos, text.find("Login Name Key : 42\n"));
-  EXPECT_NE(std::string::npos, text.find("WEP Key Length : 64 bits (5 bytes)\n"));
   EXPECT_NE(std::string::npos, text.find("Local Name : " + std::string(20, 'Z') + "\n"));
-}
-
-TEST(EmulationSummary, EmulationTypeNamesWhatTheHostIsToldAndTheLanguage) {
-  struct Case {
-    int type;
-    std::string line;
-  };
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, 1);
-  for (const Case& c :
-       {Case{0, "IBM-3179-2"}, Case{1, "IBM-5555-B01 (Tranditional Chinese)"},
-        Case{2, "IBM-5555-B01 (Simplified Chinese)"}, Case{3, "IBM-5555-B01 (Korean)"},
-        Case{5, "IBM-3179-2 (Greek)"}, Case{6, "IBM-3179-2 (French)"}, Case{9, "IBM-3179-2"}}) {
-    WriteNumber(doc->record, kEmulationType, static_cast<std::uint32_t>(c.type));
-    EXPECT_NE(std::string::npos,
-              Branch(*doc, "Emulation").find("Emulation Type : " + c.line + "\n"))
-        << c.type;
-  }
-}
-
-TEST(EmulationSummary, MessageLineShowsTheStoredIndex) {
-  auto doc = std::make_unique<Document>();
-  SetDefaults(*doc, 1);
-  // "24" chosen in the list is index 23.
-  EXPECT_NE(std::string::npos, Branch(*doc, "Emulation").find("Message Line Number: 23\n"));
-  WriteNumber(doc->record, kFontSize, 5);
-  WriteNumber(doc->record, kNavigator, 9);
-  const std::string text = Branch(*doc, "Emulation");
-  EXPECT_NE(std::string::npos, text.find("Font Size : 5\n"));
-  EXPECT_NE(std::string::npos, text.find("Navigator : 9\n"));
 }
 
 }  // namespace

@@ -79,15 +79,5 @@ TEST(SystemSummary, AppliedDravinSWithEmptyPassword) {
   ExpectSummaryMatchesGolden(*doc, "system_applied_empty_password.txt");
 }
 
-TEST(SystemSummary, UnknownValuesShowTheirNumbers) {
-  auto doc = testing::DefaultDocument(1);
-  doc->record[kDownloadVia.offset] = 9;
-  doc->record[kBaudRate.offset] = 200;
-  SummaryNode system{"System", {}};
-  AppendSystemSummary(*doc, system);
-  EXPECT_EQ("Download via : 9", system.children[4].text);
-  EXPECT_EQ("Baud Rate : 200", system.children[5].text);
-}
-
 }  // namespace
 }  // namespace veltrix
