@@ -41,30 +41,9 @@ void ExpectSummaryMatchesGolden(const Document& doc, const std::string& name) {
   EXPECT_TRUE(testing::MatchesGolden(RenderSummaryText({system}), "summary/" + name));
 }
 
-// Changes as the page's controls make them.
-void Set(Document& doc, std::string_view control, std::int64_t value) {
-  StoreBoundValue(doc, *FindBinding(SystemBindings(), control), value);
-}
+// A text typed into an edit of the page.
 void Type(Document& doc, std::string_view control, std::string_view text) {
   StoreBoundText(doc, *FindBinding(SystemBindings(), control), text);
-}
-
-TEST(SystemSummary, ChangedFields) {
-  auto doc = testing::DefaultDocument(2);
-  SystemEditor editor(*doc);
-  editor.Initialise();
-  Set(*doc, "power_on", 1);
-  Type(*doc, "auto_power_off", "300");
-  Set(*doc, "backlight", 1);
-  Type(*doc, "idle", "9");
-  Set(*doc, "download_via", 3);
-  Set(*doc, "baud_rate", 2);
-  Set(*doc, "key_click", 0);
-  Type(*doc, "password", "1234");
-  for (const SecurityFlag& flag : kSecurityFlags) Set(*doc, flag.field->name, 1);
-  editor.SelectScreen(0);
-  editor.EditPromptLine(0, "1. Host");
-  ExpectSummaryMatchesGolden(*doc, "system_changed.txt");
 }
 
 // After OK every text is 40 characters with blanks behind; the empty password line ends after
