@@ -1,3 +1,6 @@
+// The document commands (New, Open, Save, Save As, Exit, product change, Undo) with a file system
+// in memory and the user's answers queued, from the scripts in tests/core/data/shell_commands.txt
+// (the file's header explains the steps).
 #include <gtest/gtest.h>
 
 #include <map>
@@ -7,6 +10,7 @@
 
 #include "shell/command_table.h"
 #include "shell/commands.h"
+#include "support/case_file.h"
 #include "support/fake_ports.h"
 
 namespace veltrix {
@@ -63,12 +67,8 @@ class DocumentCommandsTest : public ::testing::Test {
     return doc;
   }
 
-  void ChooseProduct(int index) { ASSERT_TRUE(commands_.ChangeProduct(index)); }
-  std::vector<std::string> Texts() const {
-    std::vector<std::string> texts;
-    for (const auto& shown : prompt_.shown) texts.push_back(shown.text);
-    return texts;
-  }
+  // Runs one step; false when a check did not hold.
+  bool Step(const std::vector<std::string>& w, const std::string& rest);
 
   std::unique_ptr<Document> doc_;
   FakeUserPrompt prompt_;
@@ -76,6 +76,7 @@ class DocumentCommandsTest : public ::testing::Test {
   FakeFiles files_;
   int sheets_ = 0;
   DocumentCommands commands_;
+  std::size_t said_ = 0;  // the messages checked so far
 };
 
 class ProductRuleTest : public DocumentCommandsTest, public ::testing::WithParamInterface<int> {};
@@ -92,298 +93,99 @@ TEST_P(ProductRuleTest, CommandsThatNeedAProductAreRefusedWithoutOne) {
   } else {
     EXPECT_TRUE(prompt_.shown.empty());
   }
-  ChooseProduct(1);
+  ASSERT_TRUE(commands_.ChangeProduct(1));
   EXPECT_TRUE(commands_.CheckProduct(id));
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryCommand, ProductRuleTest,
                          ::testing::Values(kCmdNew, kCmdOpen, kCmdDownloadProgram));
 
-TEST_F(DocumentCommandsTest, ProductChangeReplacesTheDocumentWithoutAsking) {
-  ChooseProduct(1);
-  doc_->record[kSomeByte] = 0xEE;
-  doc_->modified = true;
-  doc_->file_name = "a.QVL";
-  ChooseProduct(2);
-  EXPECT_EQ(doc_->product(), 2);
-  EXPECT_NE(doc_->record[kSomeByte], 0xEE);
-  EXPECT_FALSE(doc_->modified);
-  EXPECT_TRUE(doc_->file_name.empty());
-  EXPECT_TRUE(prompt_.shown.empty());
-  EXPECT_FALSE(commands_.ChangeProduct(2));  // same product: nothing happens
+std::optional<std::string> NameOrNone(const std::string& word) {
+  if (word == "none") return std::nullopt;
+  return word;
 }
 
-TEST_F(DocumentCommandsTest, NewWhileUnmodifiedResetsAndOpensTheSheet) {
-  ChooseProduct(2);
-  doc_->file_name = "x.QVL";
-  commands_.New();
-  EXPECT_TRUE(prompt_.shown.empty());
-  EXPECT_EQ(doc_->product(), 2);
-  EXPECT_TRUE(doc_->file_name.empty());
-  EXPECT_EQ(sheets_, 1);
+std::string Unescaped(std::string text) {
+  for (std::size_t at; (at = text.find("\\n")) != std::string::npos;) text.replace(at, 2, "\n");
+  return text;
 }
 
-// Configure-OK-Configure-Cancel leaves changed bytes with the flag cleared: closing still asks,
-// as the title's "*" shows; bytes put back as they were ask nothing.
-TEST_F(DocumentCommandsTest, ChangedBytesAskEvenWithTheFlagCleared) {
-  ChooseProduct(2);
-  doc_->record[kSomeByte] ^= 0xFF;
-  EXPECT_TRUE(commands_.HasUnsavedChanges());
-  prompt_.answers.push_back(PromptAnswer::kCancel);
-  EXPECT_FALSE(commands_.QueryClose());
-  EXPECT_EQ(Texts(), std::vector<std::string>{std::string(kSaveTheProgram)});
-  doc_->record[kSomeByte] ^= 0xFF;
-  EXPECT_FALSE(commands_.HasUnsavedChanges());
-  EXPECT_TRUE(commands_.QueryClose());
-}
-
-// A product change replaces the document without asking; Undo brings it back (file name,
-// bytes, unsaved state) until the next change.
-TEST_F(DocumentCommandsTest, UndoBringsBackWhatAProductChangeReplaced) {
-  ChooseProduct(1);
-  doc_->record[kSomeByte] = 0xEE;
-  doc_->file_name = "a.QVL";
-  ChooseProduct(2);
-  ASSERT_TRUE(commands_.CanUndo());
-  EXPECT_FALSE(commands_.HasUnsavedChanges());
-  EXPECT_TRUE(commands_.Undo());
-  EXPECT_EQ(doc_->product(), 1);
-  EXPECT_EQ(doc_->record[kSomeByte], 0xEE);
-  EXPECT_EQ(doc_->file_name, "a.QVL");
-  EXPECT_TRUE(commands_.HasUnsavedChanges());
-  EXPECT_FALSE(commands_.Undo());
-  // A change in the sheet after a product change ends the Undo.
-  ChooseProduct(2);
-  sheets_ = 0;
-  commands_.Configure();
-  EXPECT_TRUE(commands_.CanUndo());  // the sheet changed nothing
-  doc_->record[kSomeByte] ^= 0x01;
-  commands_.Configure();
-  EXPECT_FALSE(commands_.CanUndo());
-  EXPECT_TRUE(prompt_.shown.empty());
-}
-
-struct AskCase {
-  const char* name;
-  PromptAnswer answer;
-  bool saves;
-  bool goes_on;
-};
-
-class SaveQuestionTest : public DocumentCommandsTest,
-                         public ::testing::WithParamInterface<AskCase> {};
-
-TEST_P(SaveQuestionTest, NewAsksWhileModified) {
-  const AskCase& c = GetParam();
-  ChooseProduct(1);
-  doc_->file_name = "old.QVL";
-  doc_->record[kSomeByte] = 0x11;
-  doc_->modified = true;
-  prompt_.answers = {c.answer};
-  commands_.New();
-  EXPECT_EQ(Texts(), std::vector<std::string>{"Save the program ?"});
-  EXPECT_EQ(prompt_.shown[0].caption, "Veltrix - TN5250");
-  EXPECT_EQ(files_.files.count("old.QVL"), c.saves ? 1u : 0u);
-  EXPECT_EQ(sheets_, c.goes_on ? 1 : 0);
-  EXPECT_EQ(doc_->modified, !c.goes_on);
-}
-
-TEST_P(SaveQuestionTest, CloseAsksWhileModified) {
-  const AskCase& c = GetParam();
-  ChooseProduct(1);
-  doc_->file_name = "old.QVL";
-  doc_->modified = true;
-  prompt_.answers = {c.answer};
-  EXPECT_EQ(commands_.QueryClose(), c.goes_on);
-  EXPECT_EQ(files_.writes, c.saves ? 1 : 0);
-}
-
-TEST_P(SaveQuestionTest, OpenAsksWhileModified) {
-  const AskCase& c = GetParam();
-  ChooseProduct(1);
-  doc_->modified = true;
-  doc_->file_name = "old.QVL";
-  files_.files["other.QVL"] = 0x42;
-  chooser_.open_result = "other.QVL";
-  prompt_.answers = {c.answer};
-  EXPECT_EQ(commands_.Open(), c.goes_on);
-  EXPECT_EQ(files_.files.count("old.QVL"), c.saves ? 1u : 0u);
-  EXPECT_EQ(doc_->file_name, c.goes_on ? "other.QVL" : "old.QVL");
-}
-
-INSTANTIATE_TEST_SUITE_P(Answers, SaveQuestionTest,
-                         ::testing::Values(AskCase{"Yes", PromptAnswer::kYes, true, true},
-                                           AskCase{"No", PromptAnswer::kNo, false, true},
-                                           AskCase{"Cancel", PromptAnswer::kCancel, false, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(DocumentCommandsTest, AFailedSaveInTheQuestionKeepsTheWindowAndTheChanges) {
-  ChooseProduct(1);
-  doc_->modified = true;
-  doc_->file_name = "locked.QVL";
-  doc_->record[kSomeByte] = 0x31;
-  files_.fail_writes = true;
-  prompt_.answers = {PromptAnswer::kYes, PromptAnswer::kYes};
-  EXPECT_FALSE(commands_.QueryClose());
-  commands_.New();
-  EXPECT_EQ(sheets_, 0);
-  EXPECT_EQ(doc_->record[kSomeByte], 0x31);
-  EXPECT_TRUE(doc_->modified);
-  EXPECT_EQ(Texts(),
-            (std::vector<std::string>{
-                "Save the program ?",
-                "Could not save the settings file \"locked.QVL\".\nNo space left on device",
-                "Save the program ?",
-                "Could not save the settings file \"locked.QVL\".\nNo space left on device"}));
-  EXPECT_EQ(prompt_.shown[1].caption, "Error");
-  EXPECT_EQ(prompt_.shown[1].icon, PromptIcon::kExclamation);
-}
-
-// A read-only file is saved only when the user says so; No leaves it and the changes.
-TEST_F(DocumentCommandsTest, AReadOnlyFileIsTheUsersDecision) {
-  ChooseProduct(1);
-  doc_->file_name = "kept.QVL";
-  files_.read_only = true;
-  for (PromptAnswer answer : {PromptAnswer::kNo, PromptAnswer::kYes}) {
-    doc_->modified = true;
-    prompt_.answers = {answer};
-    commands_.Save();
-    EXPECT_EQ(doc_->modified, answer == PromptAnswer::kNo);
-    EXPECT_EQ(prompt_.shown.back().text, "\"kept.QVL\" is read-only. Save it anyway?");
+bool DocumentCommandsTest::Step(const std::vector<std::string>& w, const std::string& rest) {
+  const std::string& verb = w[0];
+  const auto yes = [&w](std::size_t i) { return w.at(i) == "yes"; };
+  // Doing: what the user did or has prepared.
+  if (verb == "product") return commands_.ChangeProduct(std::stoi(w[1])) == (w.size() < 3);
+  if (verb == "name") doc_->file_name = w[1];
+  if (verb == "byte") doc_->record[kSomeByte] = static_cast<std::uint8_t>(std::stoi(w[1]));
+  if (verb == "touch") doc_->modified = true;
+  if (verb == "file") files_.files[w[1]] = static_cast<std::uint8_t>(std::stoi(w[2]));
+  if (verb == "report") files_.reports[w[1]] = {std::stoul(w[2]), std::stoul(w[3]), yes(4), false};
+  if (verb == "fail-writes") files_.fail_writes = true;
+  if (verb == "read-only") files_.read_only = true;
+  if (verb == "opens") chooser_.open_result = NameOrNone(w[1]);
+  if (verb == "saves-as") chooser_.save_result = NameOrNone(w[1]);
+  if (verb == "answer") {
+    for (std::size_t i = 1; i < w.size(); ++i) {
+      prompt_.answers.push_back(w[i] == "Yes"  ? PromptAnswer::kYes
+                                : w[i] == "No" ? PromptAnswer::kNo
+                                               : PromptAnswer::kCancel);
+    }
   }
-  EXPECT_EQ(files_.files.count("kept.QVL"), 1u);
+  if (verb == "new") commands_.New();
+  if (verb == "configure") commands_.Configure();
+  if (verb == "open") return commands_.Open() == yes(2);
+  if (verb == "save") return commands_.Save() == yes(2);
+  if (verb == "save-as") return commands_.SaveAs() == yes(2);
+  if (verb == "close") return commands_.QueryClose() == yes(2);
+  if (verb == "undo") return commands_.Undo() == yes(2);
+  // Checking.
+  if (verb == "said") {
+    if (said_ >= prompt_.shown.size()) return false;
+    const FakeUserPrompt::Shown& shown = prompt_.shown[said_++];
+    return shown.text == Unescaped(rest);
+  }
+  if (verb == "caption") return prompt_.shown.at(said_ - 1).caption == rest;
+  if (verb == "exclamation") return prompt_.shown.at(said_ - 1).icon == PromptIcon::kExclamation;
+  if (verb == "silent") return said_ == prompt_.shown.size();
+  if (verb == "holds") {
+    const auto it = files_.files.find(w[1]);
+    return w[2] == "-" ? it == files_.files.end()
+                       : it != files_.files.end() && it->second == std::stoi(w[2]);
+  }
+  if (verb == "writes") return files_.writes == std::stoi(w[1]);
+  if (verb == "sheets") return sheets_ == std::stoi(w[1]);
+  if (verb == "modified") return doc_->modified == yes(1);
+  if (verb == "unsaved") return commands_.HasUnsavedChanges() == yes(1);
+  if (verb == "can-undo") return commands_.CanUndo() == yes(1);
+  if (verb == "byte-is") return doc_->record[kSomeByte] == std::stoi(w[1]);
+  if (verb == "product-is") return doc_->product() == std::stoi(w[1]);
+  if (verb == "name-is") return doc_->file_name == (w[1] == "-" ? "" : w[1]);
+  if (verb == "chooser") {
+    return w[1] == "filter"      ? chooser_.last_filter.description == rest.substr(7)
+           : w[1] == "initial"   ? chooser_.last_initial == (w[2] == "-" ? "" : w[2])
+           : w[1] == "extension" ? chooser_.last_extension == w[2]
+                                 : chooser_.save_calls == std::stoi(w[2]);
+  }
+  return true;
 }
 
-TEST_F(DocumentCommandsTest, ACancelledSaveAsInTheQuestionKeepsTheWindow) {
-  ChooseProduct(1);
-  doc_->modified = true;
-  prompt_.answers = {PromptAnswer::kYes};
-  chooser_.save_result.reset();
-  EXPECT_FALSE(commands_.QueryClose());
-  EXPECT_EQ(chooser_.save_calls, 1);
-  EXPECT_EQ(Texts(), std::vector<std::string>{"Save the program ?"});
+class CommandScript : public DocumentCommandsTest,
+                      public ::testing::WithParamInterface<testing::DataCase> {};
+
+TEST_P(CommandScript, Runs) {
+  for (const testing::CaseLine& line : GetParam().lines) {
+    const std::vector<std::string> w = testing::Words(line.text);
+    const std::size_t blank = line.text.find(' ');
+    const std::string rest = blank == std::string::npos ? "" : line.text.substr(blank + 1);
+    EXPECT_TRUE(Step(w, rest)) << "line " << line.number << ": " << line.text;
+  }
 }
 
-TEST_F(DocumentCommandsTest, CloseWithoutChangesDoesNotAsk) {
-  EXPECT_TRUE(commands_.QueryClose());
-  EXPECT_TRUE(prompt_.shown.empty());
-}
-
-TEST_F(DocumentCommandsTest, OpenWorksWithoutAProductAndReadsTheFile) {
-  files_.files["in.QVL"] = 0x42;
-  chooser_.open_result = "in.QVL";
-  EXPECT_TRUE(commands_.Open());
-  EXPECT_EQ(doc_->record[kSomeByte], 0x42);
-  EXPECT_EQ(doc_->file_name, "in.QVL");
-  EXPECT_FALSE(doc_->modified);
-  EXPECT_EQ(sheets_, 1);
-  EXPECT_EQ(chooser_.last_filter.description, "Settings (*.QVL)");
-  EXPECT_EQ(chooser_.last_filter.pattern, "*.QVL");
-}
-
-// A file that is not a whole settings file is read by Open's rules, the user is told, and Save
-// asks before replacing it: No saves under another name, Yes replaces it, and from then on it is
-// a settings file like any other.
-TEST_F(DocumentCommandsTest, AForeignFileIsReportedAndNotReplacedWithoutAQuestion) {
-  files_.files["notes.QVL"] = 1;
-  files_.reports["notes.QVL"] = SettingsFileReport{20, 20, true, false};
-  chooser_.open_result = "notes.QVL";
-  ASSERT_TRUE(commands_.Open());
-  ASSERT_EQ(prompt_.shown.size(), 1u);
-  EXPECT_EQ(prompt_.shown[0].text,
-            "\"notes.QVL\" was not opened as it stands:\n"
-            "- it is 20 bytes, not 580984; read as far as it goes\n"
-            "- it has no accepted format tag, version or product; read as the defaults of "
-            "product 1\n\nSave asks before it replaces this file.");
-
-  prompt_.answers = {PromptAnswer::kCancel, PromptAnswer::kNo, PromptAnswer::kYes};
-  EXPECT_FALSE(commands_.Save());
-  EXPECT_EQ(files_.writes, 0);
-  chooser_.save_result = "other.QVL";
-  EXPECT_TRUE(commands_.Save());
-  EXPECT_EQ(files_.files.count("other.QVL"), 1u);
-  EXPECT_EQ(files_.files["notes.QVL"], 1);  // untouched
-  EXPECT_EQ(prompt_.shown.back().text,
-            "\"notes.QVL\" was not a whole settings file when it was opened.\n"
-            "Replace it with these settings?");
-
-  chooser_.open_result = "notes.QVL";
-  ASSERT_TRUE(commands_.Open());
-  doc_->record[kSomeByte] = 7;
-  EXPECT_TRUE(commands_.Save());  // Yes
-  EXPECT_EQ(files_.files["notes.QVL"], 7);
-  const std::size_t asked = prompt_.shown.size();
-  EXPECT_TRUE(commands_.Save());
-  EXPECT_EQ(prompt_.shown.size(), asked);
-}
-
-TEST_F(DocumentCommandsTest, CancelledOpenKeepsContentsButForgetsNameAndFlag) {
-  ChooseProduct(1);
-  doc_->record[kSomeByte] = 0x77;
-  doc_->file_name = "kept.QVL";
-  doc_->modified = true;
-  prompt_.answers = {PromptAnswer::kNo};
-  chooser_.open_result.reset();
-  EXPECT_FALSE(commands_.Open());
-  EXPECT_EQ(doc_->record[kSomeByte], 0x77);
-  EXPECT_TRUE(doc_->file_name.empty());
-  EXPECT_FALSE(doc_->modified);
-  EXPECT_EQ(sheets_, 0);
-  EXPECT_EQ(chooser_.last_initial, "");  // the name was cleared before the dialog
-}
-
-TEST_F(DocumentCommandsTest, UnreadableFileIsReportedAndOpensNothing) {
-  chooser_.open_result = "missing.QVL";
-  EXPECT_FALSE(commands_.Open());
-  EXPECT_EQ(Texts(), std::vector<std::string>{"Could not open the settings file \"missing.QVL\"."});
-  EXPECT_EQ(sheets_, 0);
-  EXPECT_TRUE(doc_->file_name.empty());
-}
-
-TEST_F(DocumentCommandsTest, SaveWithANameWritesAndClearsTheFlag) {
-  ChooseProduct(1);
-  doc_->file_name = "doc.QVL";
-  doc_->modified = true;
-  doc_->record[kSomeByte] = 9;
-  EXPECT_TRUE(commands_.Save());
-  EXPECT_EQ(files_.files["doc.QVL"], 9);
-  EXPECT_FALSE(doc_->modified);
-  EXPECT_EQ(chooser_.save_calls, 0);
-}
-
-TEST_F(DocumentCommandsTest, SaveWithoutANameAsksForOne) {
-  ChooseProduct(1);
-  doc_->modified = true;
-  chooser_.save_result = "/tmp/new.QVL";
-  EXPECT_TRUE(commands_.Save());
-  EXPECT_EQ(doc_->file_name, "/tmp/new.QVL");
-  EXPECT_EQ(chooser_.last_extension, "QVL");
-  EXPECT_FALSE(doc_->modified);
-}
-
-TEST_F(DocumentCommandsTest, FailedOrCancelledSaveKeepsTheFlag) {
-  ChooseProduct(1);
-  doc_->modified = true;
-  chooser_.save_result.reset();
-  EXPECT_FALSE(commands_.SaveAs());
-  EXPECT_TRUE(doc_->modified);
-  EXPECT_EQ(files_.writes, 0);
-
-  files_.fail_writes = true;
-  chooser_.save_result = "b.QVL";
-  EXPECT_FALSE(commands_.SaveAs());
-  EXPECT_TRUE(doc_->modified);
-  EXPECT_EQ(doc_->file_name, "b.QVL");  // Save As makes the name current before writing
-}
-
-TEST_F(DocumentCommandsTest, SaveAsAlwaysAsksEvenWithAName) {
-  ChooseProduct(1);
-  doc_->file_name = "first.QVL";
-  chooser_.save_result = "second.QVL";
-  EXPECT_TRUE(commands_.SaveAs());
-  EXPECT_EQ(files_.files.count("second.QVL"), 1u);
-  EXPECT_EQ(files_.files.count("first.QVL"), 0u);
-}
+INSTANTIATE_TEST_SUITE_P(Cases, CommandScript,
+                         ::testing::ValuesIn(testing::ReadDataCases("shell_commands.txt")),
+                         [](const auto& info) {
+                           return "line" + std::to_string(info.param.number);
+                         });
 
 }  // namespace
 }  // namespace veltrix
