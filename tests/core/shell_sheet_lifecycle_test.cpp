@@ -7,6 +7,7 @@
 #include "settings/document.h"
 #include "settings/page_snapshot.h"
 #include "shell/sheet_lifecycle.h"
+#include "support/case_file.h"
 
 namespace veltrix {
 namespace {
@@ -44,86 +45,51 @@ class SheetLifecycleTest : public ::testing::Test {
   std::vector<FakePage> pages_;
 };
 
-TEST_F(SheetLifecycleTest, PagesAreCreatedOnFirstShowAndActivatedOnEveryShow) {
-  SheetLifecycle sheet = MakeSheet();
-  sheet.Open();
-  sheet.Show(4);
-  sheet.Show(0);
-  sheet.Show(4);
-  EXPECT_TRUE(sheet.created(0));
-  EXPECT_FALSE(sheet.created(1));
-  EXPECT_TRUE(sheet.created(4));
-  EXPECT_EQ(log_, (std::vector<std::string>{"init 0 clear", "active 0", "init 4 clear", "active 4",
-                                            "active 0", "active 4"}));
+// One step of tests/core/data/sheet_lifecycle.txt; false when a check did not hold.
+bool Step(SheetLifecycle& sheet, Document& doc, std::vector<std::string>& log,
+          const std::vector<std::string>& w) {
+  const std::string& verb = w[0];
+  const auto number = [&w](std::size_t i) { return std::stoi(w.at(i)); };
+  if (verb == "open") sheet.Open();
+  if (verb == "show") sheet.Show(number(1));
+  if (verb == "ok") sheet.Ok();
+  if (verb == "cancel") sheet.Cancel();
+  if (verb == "touch") doc.modified = true;
+  if (verb == "byte") doc.record[kSomeByte] = static_cast<std::uint8_t>(number(1));
+  if (verb == "page-byte") doc.pages[number(1)][number(2)] = static_cast<std::uint8_t>(number(3));
+  if (verb == "key-code") doc.key_codes[0] = static_cast<std::uint8_t>(number(1));
+  if (verb == "forget") log.clear();
+  if (verb == "byte-is") return doc.record[kSomeByte] == number(1);
+  if (verb == "page-byte-is") return doc.pages[number(1)][number(2)] == number(3);
+  if (verb == "key-code-is") return doc.key_codes[0] == number(1);
+  if (verb == "modified") return doc.modified == (w[1] == "yes");
+  if (verb == "created") return sheet.created(number(1)) == (w[2] == "yes");
+  if (verb == "calls") {  // every call the pages got since the last "forget", in order
+    std::string calls;
+    for (const std::string& entry : log) calls += (calls.empty() ? "" : ", ") + entry;
+    std::string wanted;
+    for (std::size_t i = 1; i < w.size(); ++i) wanted += (i > 1 ? " " : "") + w[i];
+    return calls == wanted;
+  }
+  return true;
 }
 
-TEST_F(SheetLifecycleTest, CancelAtOnceLeavesTheRecordAndClearsTheFlag) {
-  doc_->modified = true;
-  const SettingsRecord before = doc_->record;
-  SheetLifecycle sheet = MakeSheet();
-  sheet.Open();
-  doc_->record[kSomeByte] ^= 0xFF;  // the page writes as the user works
-  sheet.Cancel();
-  EXPECT_EQ(doc_->record, before);
-  EXPECT_FALSE(doc_->modified);
-  EXPECT_EQ(log_.back(), "cancel 0");
-}
+class SheetScript : public SheetLifecycleTest,
+                    public ::testing::WithParamInterface<testing::DataCase> {};
 
-TEST_F(SheetLifecycleTest, OkAppliesCreatedPagesInPageOrderAndSetsTheFlag) {
+TEST_P(SheetScript, Runs) {
   SheetLifecycle sheet = MakeSheet();
-  sheet.Open();
-  sheet.Show(3);
-  sheet.Show(1);
-  log_.clear();
-  sheet.Ok();
-  EXPECT_EQ(log_, (std::vector<std::string>{"apply 0", "apply 1", "apply 3"}));
-  EXPECT_TRUE(doc_->modified);
-}
-
-TEST_F(SheetLifecycleTest, SystemChangeSurvivesCancelOnTheScreenPage) {
-  SheetLifecycle sheet = MakeSheet();
-  sheet.Open();
-  doc_->record[kSomeByte] = 0x5A;  // changed on the System page
-  sheet.Show(4);                   // the Screen page's snapshot already holds it
-  doc_->pages[0][0] = 7;           // changed on the Screen page
-  sheet.Cancel();
-  EXPECT_EQ(doc_->record[kSomeByte], 0x5A);
-  EXPECT_EQ(doc_->pages[0][0], 0);
-  EXPECT_EQ(log_.back(), "cancel 4");
-}
-
-// The Barcode page keeps no snapshot: shown alone it neither clears nor sets the flag.
-TEST_F(SheetLifecycleTest, BarcodePageAloneLeavesTheFlag) {
-  for (const bool modified : {false, true}) {
-    doc_->modified = modified;
-    log_.clear();
-    SheetLifecycle sheet = MakeSheet();
-    sheet.Show(1);
-    EXPECT_EQ(log_.front(), modified ? "init 1 modified" : "init 1 clear");
-    sheet.Ok();
-    EXPECT_EQ(doc_->modified, modified);
+  for (const testing::CaseLine& line : GetParam().lines) {
+    EXPECT_TRUE(Step(sheet, *doc_, log_, testing::Words(line.text)))
+        << "line " << line.number << ": " << line.text;
   }
 }
 
-TEST_F(SheetLifecycleTest, CancelOnTheBarcodePageRestoresNothing) {
-  SheetLifecycle sheet = MakeSheet();
-  sheet.Open();
-  sheet.Show(1);
-  doc_->record[kSomeByte] = 0x33;
-  sheet.Cancel();
-  EXPECT_EQ(doc_->record[kSomeByte], 0x33);
-}
-
-TEST_F(SheetLifecycleTest, EmulationSnapshotCoversTheKeyCodeTable) {
-  SheetLifecycle sheet = MakeSheet();
-  sheet.Show(3);
-  const auto key_codes = doc_->key_codes;
-  doc_->key_codes[0] ^= 0xFF;
-  doc_->pages[1][1] = 9;  // not the Emulation page's to restore
-  sheet.Cancel();
-  EXPECT_EQ(doc_->key_codes, key_codes);
-  EXPECT_EQ(doc_->pages[1][1], 9);
-}
+INSTANTIATE_TEST_SUITE_P(Cases, SheetScript,
+                         ::testing::ValuesIn(testing::ReadDataCases("sheet_lifecycle.txt")),
+                         [](const auto& info) {
+                           return "line" + std::to_string(info.param.number);
+                         });
 
 TEST_F(SheetLifecycleTest, OutOfRangeOrRefusedPagesAreIgnored) {
   SheetLifecycle sheet(*doc_, [](int) -> SheetPage* { return nullptr; });
