@@ -63,7 +63,8 @@ std::string Quote(const std::string& arg) {
 
 // A line that starts a step of its own, not one of what a command prints.
 bool IsDirective(const std::string& text) {
-  for (const char* word : {"$ ", "file ", "size ", "host", "contains ", "lacks "}) {
+  for (const char* word :
+       {"$ ", "file ", "size ", "host", "contains ", "lacks ", "terminal", "same "}) {
     if (text.rfind(word, 0) == 0) return true;
   }
   return false;
@@ -76,6 +77,25 @@ std::map<std::string, std::vector<std::uint8_t>> Snapshot(const std::filesystem:
     files[entry.path().filename().string()] = ReadBytes(entry.path().string());
   }
   return files;
+}
+
+// Starts `args` with standard output to `out_fd` (or nowhere) and standard error nowhere.
+pid_t Spawn(std::vector<std::string> args, int out_fd = -1) {
+  std::vector<char*> argv;
+  for (std::string& a : args) argv.push_back(a.data());
+  argv.push_back(nullptr);
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  if (out_fd >= 0) {
+    posix_spawn_file_actions_adddup2(&actions, out_fd, STDOUT_FILENO);
+  } else {
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+  }
+  posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+  pid_t pid = -1;
+  if (::posix_spawn(&pid, argv[0], &actions, nullptr, argv.data(), environ) != 0) pid = -1;
+  posix_spawn_file_actions_destroy(&actions);
+  return pid;
 }
 
 // veltrix-demo-host on a port of its choosing, for as long as the case runs.
@@ -95,19 +115,10 @@ class DemoHost {
     if (!certificate.empty()) {
       args.insert(args.end(), {"--tls-cert", tls + certificate, "--tls-key", tls + "host.key"});
     }
-    std::vector<char*> argv;
-    for (std::string& a : args) argv.push_back(a.data());
-    argv.push_back(nullptr);
     int out[2];
     if (::pipe(out) != 0) return "";
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
-    posix_spawn_file_actions_addclose(&actions, out[0]);
-    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    const bool spawned =
-        ::posix_spawn(&pid_, argv[0], &actions, nullptr, argv.data(), environ) == 0;
-    posix_spawn_file_actions_destroy(&actions);
+    pid_ = Spawn(args, out[1]);
+    const bool spawned = pid_ > 0;
     ::close(out[1]);
     std::string line;  // "listening on 127.0.0.1:PORT"
     for (char c; spawned && ::read(out[0], &c, 1) == 1 && c != '\n';) line += c;
@@ -183,8 +194,34 @@ class CliTranscript : public ::testing::TestWithParam<Case> {
     err_ = ReadText(err);
   }
 
+  // Simulated terminals started by "terminal": waited for after the next command.
+  void StartTerminals(int count, const std::vector<std::string>& args) {
+#ifdef VELTRIX_TERMINAL_SIM_PATH
+    for (int i = 0; i < count; ++i) {
+      std::vector<std::string> argv = {VELTRIX_TERMINAL_SIM_PATH, "--connect",
+                                       "127.0.0.1:" + variables_["$FREE"], "--wait", "30"};
+      for (std::string arg : args) {
+        if (const std::size_t at = arg.find("%i"); at != std::string::npos) {
+          arg.replace(at, 2, std::to_string(i));
+        }
+        const bool file = argv.back() == "--settings-out" || argv.back() == "--program-out";
+        argv.push_back(file ? work_.File(arg) : arg);
+      }
+      terminals_.push_back(Spawn(argv));
+    }
+#else
+    static_cast<void>(count);
+    static_cast<void>(args);
+#endif
+  }
+  void WaitForTerminals() {
+    for (pid_t pid : terminals_) ::waitpid(pid, nullptr, 0);
+    terminals_.clear();
+  }
+
   TempFolder work_, output_;
   DemoHost host_;
+  std::vector<pid_t> terminals_;
   std::map<std::string, std::string> variables_;
   int status_ = 0;
   std::string out_, err_;
@@ -192,6 +229,8 @@ class CliTranscript : public ::testing::TestWithParam<Case> {
 
 TEST_P(CliTranscript, Runs) {
   const std::vector<Line>& lines = GetParam().lines;
+  variables_["$FREE"] = ClosedPort();
+  variables_["$DATA"] = std::string(VELTRIX_SOURCE_DIR) + "/tests/core/data";
   for (std::size_t i = 0; i < lines.size();) {
     const Line& command = lines[i++];
     const std::string& text = command.text;
@@ -213,6 +252,24 @@ TEST_P(CliTranscript, Runs) {
       variables_["$TLS"] = std::string(VELTRIX_SOURCE_DIR) + "/tests/ui/data/tls";
       continue;
     }
+    if (text.rfind("terminal", 0) == 0) {  // "terminal ARGS" or "terminals N ARGS"
+      auto w = Words(text);
+      const int count = w[0] == "terminals" ? std::stoi(w[1]) : 1;
+      w.erase(w.begin(), w.begin() + (w[0] == "terminals" ? 2 : 1));
+      StartTerminals(count, w);
+#ifndef VELTRIX_TERMINAL_SIM_PATH
+      GTEST_SKIP() << "no terminal simulator in this build";
+#endif
+      continue;
+    }
+    if (text.rfind("same ", 0) == 0) {  // same A B [first N]
+      const auto w = Words(text);
+      std::vector<std::uint8_t> b = ReadBytes(
+          w[2].rfind("$DATA", 0) == 0 ? variables_["$DATA"] + w[2].substr(5) : work_.File(w[2]));
+      if (w.size() > 4) b.resize(std::stoul(w[4]));
+      EXPECT_TRUE(ReadBytes(work_.File(w[1])) == b) << where;
+      continue;
+    }
     if (text.rfind("contains ", 0) == 0 || text.rfind("lacks ", 0) == 0) {
       const std::size_t name = text.find(' ') + 1;
       const std::size_t wanted = text.find(' ', name) + 1;
@@ -223,6 +280,7 @@ TEST_P(CliTranscript, Runs) {
     ASSERT_EQ(0u, text.rfind("$ ", 0)) << where;
     const auto before = Snapshot(work_.path());
     Run(text.substr(2));
+    WaitForTerminals();
     // What follows the command: its output lines, then checks.
     std::string expected;
     bool whole = true, prefix = false;
@@ -233,6 +291,16 @@ TEST_P(CliTranscript, Runs) {
         status = std::stoi(l.substr(2));
       } else if (l.rfind("! ", 0) == 0) {
         EXPECT_NE(std::string::npos, err_.find(l.substr(2))) << where << "\nstderr: " << err_;
+      } else if (l.rfind("* ", 0) == 0) {  // "* N TEXT": TEXT stands N times in the output
+        whole = false;
+        const std::size_t blank = l.find(' ', 2);
+        const std::string wanted = l.substr(blank + 1);
+        std::size_t n = 0;
+        for (std::size_t at = out_.find(wanted); at != std::string::npos;
+             at = out_.find(wanted, at + 1)) {
+          ++n;
+        }
+        EXPECT_EQ(std::stoul(l.substr(2, blank - 2)), n) << where << ": " << wanted;
       } else if (l.rfind("!~ ", 0) == 0) {
         whole = false;
         EXPECT_EQ(std::string::npos, out_.find(l.substr(3))) << where << "\nstdout: " << out_;

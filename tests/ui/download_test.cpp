@@ -1,6 +1,7 @@
-// Downloads over real links: veltrix-cli against veltrix-terminal-sim over loopback TCP and over a
-// pseudo-terminal pair, with the simulator's faults; and the window's command against a terminal
-// in-process, checking that the window keeps working while the progress dialog advances.
+// Downloads over real links: veltrix-cli against veltrix-terminal-sim over a pseudo-terminal pair
+// (over loopback TCP, with the simulator's faults, they are among the command-line transcripts);
+// and the window's command against a terminal in-process, checking that the window keeps working
+// while the progress dialog advances.
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -27,25 +28,6 @@ namespace {
 const QString kCli = QStringLiteral(VELTRIX_CLI_PATH);
 const QString kSim = QStringLiteral(VELTRIX_BINARY_DIR "/veltrix-terminal-sim");
 
-// A program of `bytes` random-looking data bytes in S3 records of 32, loaded at 0x8000.
-QByteArray Program(int bytes, QByteArray* data) {
-  QByteArray text;
-  for (int i = 0; i < bytes; ++i) data->append(static_cast<char>((i * 37 + 11) & 0xFF));
-  for (int at = 0; at < bytes; at += 32) {
-    QByteArray body;
-    const QByteArray chunk = data->mid(at, 32);
-    body.append(static_cast<char>(chunk.size() + 5));
-    const quint32 address = 0x8000 + static_cast<quint32>(at);
-    for (int s = 24; s >= 0; s -= 8) body.append(static_cast<char>(address >> s));
-    body += chunk;
-    unsigned sum = 0;
-    for (char c : body) sum += static_cast<unsigned char>(c);
-    body.append(static_cast<char>(0xFF - (sum & 0xFF)));
-    text += "S3" + body.toHex().toUpper() + "\r\n";
-  }
-  return text + "S70500000000FA\r\n";
-}
-
 // The socket answers what it receives through the simulator's rules, each reply `delay_ms` later.
 void AnswerAs(sim::SimulatedTerminal& terminal, QTcpSocket& socket, int delay_ms) {
   QObject::connect(&socket, &QTcpSocket::readyRead, [&terminal, &socket, delay_ms] {
@@ -66,10 +48,6 @@ class DownloadTest : public QObject {
 
  private slots:
   void initTestCase();
-  void settingsAndProgramOverTcp_data();
-  void settingsAndProgramOverTcp();
-  void fleetOfTwoHundredOverTcp();
-  void srecCatProgramOverTcp();
   void settingsOverAPseudoTerminal();
   void windowStaysResponsiveAndProgressAdvances();
   void propertiesDialogStartsAtTheFirstPort();
@@ -78,161 +56,14 @@ class DownloadTest : public QObject {
   void theRfWaitCancelsAndASecondCommandRaisesIt();
 
  private:
-  // Starts veltrix-cli download with `args`, then the simulator with `sim_args` on its port.
-  struct Run {
-    int cli_exit = -1;
-    int sim_exit = -1;
-    QString out;
-    QString sim_out;
-  };
-  Run Download(const QStringList& args, const QStringList& sim_args, int terminals = -1);
   QTemporaryDir dir_;
   QString settings_;
-  QString program_;
-  QByteArray program_data_;
 };
 
 void DownloadTest::initTestCase() {
   QVERIFY(dir_.isValid());
   settings_ = dir_.filePath("a.QVL");
   QCOMPARE(QProcess::execute(kCli, {"new", "--product", "2", "--out", settings_}), 0);
-  program_ = dir_.filePath("p.SHX");
-  QFile file(program_);
-  QVERIFY(file.open(QIODevice::WriteOnly));
-  file.write(Program(2000, &program_data_));
-}
-
-DownloadTest::Run DownloadTest::Download(const QStringList& args, const QStringList& sim_args,
-                                         int terminals) {
-  Run run;
-  QProcess cli;
-  cli.setReadChannel(QProcess::StandardError);
-  cli.start(kCli,
-            QStringList{"download"} + args +
-                QStringList{"--via", "rf", "--listen-address", "127.0.0.1", "--listen-port", "0"});
-  // The tool names the port it listens on before anything else.
-  QRegularExpression listening("Listening on port (\\d+)");
-  QString err;
-  QRegularExpressionMatch match;
-  while (!(match = listening.match(err)).hasMatch() && cli.waitForReadyRead(10000)) {
-    err += cli.readAllStandardError();
-  }
-  if (!match.hasMatch()) return run;
-  const QString port = match.captured(1);
-  if (terminals < 0) terminals = 1;
-  std::vector<std::unique_ptr<QProcess>> sims;
-  for (int i = 0; i < terminals; ++i) {
-    auto sim = std::make_unique<QProcess>();
-    QStringList with_output = sim_args;
-    with_output.replaceInStrings("%i", QString::number(i));
-    sim->start(kSim, QStringList{"--connect", "127.0.0.1:" + port} + with_output);
-    sims.push_back(std::move(sim));
-  }
-  cli.waitForFinished(60000);
-  for (auto& sim : sims) {
-    sim->waitForFinished(20000);
-    run.sim_exit = std::max(run.sim_exit, sim->exitCode());
-    run.sim_out += sim->readAllStandardOutput();
-  }
-  run.cli_exit = cli.exitCode();
-  run.out = cli.readAllStandardOutput();
-  return run;
-}
-
-void DownloadTest::settingsAndProgramOverTcp_data() {
-  QTest::addColumn<QString>("what");
-  QTest::addColumn<QStringList>("faults");
-  QTest::addColumn<int>("exit");
-  QTest::addColumn<QString>("expected");
-  QTest::newRow("settings") << "settings" << QStringList() << 0
-                            << "Download: Downloaded completely!";
-  QTest::newRow("settings, a block refused once")
-      << "settings" << QStringList{"--nak-block", "300"} << 0 << "Download: Downloaded completely!";
-  QTest::newRow("settings, the terminal closes mid-transfer")
-      << "settings" << QStringList{"--close-at", "5"} << 3
-      << "Error: Error on downloading!\nError: Failed to download, would you like to retry? No";
-  QTest::newRow("program, FN during the erase and to a frame")
-      << "program" << QStringList{"--erase-fn", "--fn-frame", "3"} << 0
-      << "Download: Downloaded completely!";
-  QTest::newRow("program, FF to a frame")
-      << "program" << QStringList{"--ff-frame", "2"} << 3
-      << "Download: Error on downloading!\nError: Failed to download, would you like to retry? No";
-}
-
-void DownloadTest::settingsAndProgramOverTcp() {
-  QFETCH(QString, what);
-  QFETCH(QStringList, faults);
-  QFETCH(int, exit);
-  QFETCH(QString, expected);
-  const QString received = dir_.filePath("received.bin");
-  QFile::remove(received);
-  const bool settings = what == "settings";
-  Run run = Download({what, settings ? settings_ : program_},
-                     faults + QStringList{settings ? "--settings-out" : "--program-out", received});
-  QCOMPARE(run.out.trimmed(), expected);
-  QCOMPARE(run.cli_exit, exit);
-  QVERIFY2(!run.sim_out.contains("problem"), qPrintable(run.sim_out));
-  if (exit != 0) return;
-  QFile got(received);
-  QVERIFY(got.open(QIODevice::ReadOnly));
-  QFile sent(settings_);
-  QVERIFY(sent.open(QIODevice::ReadOnly));
-  QCOMPARE(got.readAll(), settings ? sent.read(kRecordSize) : program_data_);
-}
-
-void DownloadTest::fleetOfTwoHundredOverTcp() {
-  // One terminal more than the fleet: it is closed at once and named, the others all complete.
-  Run run = Download({"settings", settings_, "--terminals", "200", "--json"},
-                     {"--settings-out", dir_.filePath("fleet%i.bin")}, 201);
-  QCOMPARE(run.cli_exit, 0);
-  const QStringList lines = run.out.trimmed().split('\n');
-  QCOMPARE(lines.size(), 201);
-  QSet<QString> addresses;
-  int completed = 0;
-  for (const QString& line : lines) {
-    const QJsonObject o = QJsonDocument::fromJson(line.toUtf8()).object();
-    addresses.insert(o["address"].toString());
-    if (o["result"] == "Downloaded completely!" && o["blocks"] == 598) ++completed;
-  }
-  QCOMPARE(completed, 200);
-  QCOMPARE(addresses.size(), 201);
-  QVERIFY(run.out.contains("\"result\":\"Refused: no download was waiting for this terminal\""));
-  QFile sent(settings_);
-  QVERIFY(sent.open(QIODevice::ReadOnly));
-  const QByteArray record = sent.read(kRecordSize);
-  int received = 0;
-  for (int i = 0; i < 201; ++i) {
-    QFile got(dir_.filePath(QString("fleet%1.bin").arg(i)));
-    if (!got.open(QIODevice::ReadOnly)) continue;
-    QCOMPARE(got.readAll(), record);
-    ++received;
-  }
-  QCOMPARE(received, 200);
-}
-
-void DownloadTest::srecCatProgramOverTcp() {
-  const QString srec_cat = QStandardPaths::findExecutable("srec_cat");
-  if (srec_cat.isEmpty()) QSKIP("srec_cat is not installed");
-  // Another tool's S-records: LF line ends, an S0 header, S2 records, an S5 count, an S8 end.
-  QByteArray binary;
-  for (int i = 0; i < 5000; ++i) binary.append(static_cast<char>((i * 131 + i / 7) & 0xFF));
-  const QString bin = dir_.filePath("other.bin");
-  const QString srec = dir_.filePath("other.srec");
-  QFile out(bin);
-  QVERIFY(out.open(QIODevice::WriteOnly));
-  out.write(binary);
-  out.close();
-  QCOMPARE(QProcess::execute(
-               srec_cat, {bin, "-binary", "-offset", "0x12000", "-execution-start-address=0x12000",
-                          "-o", srec, "-address-length=3"}),
-           0);
-  const QString received = dir_.filePath("other-received.bin");
-  Run run = Download({"program", srec}, {"--program-out", received});
-  QCOMPARE(run.out.trimmed(), "Download: Downloaded completely!");
-  QVERIFY(run.sim_out.contains("program at 0x00012000"));
-  QFile got(received);
-  QVERIFY(got.open(QIODevice::ReadOnly));
-  QCOMPARE(got.readAll(), binary);
 }
 
 void DownloadTest::settingsOverAPseudoTerminal() {
