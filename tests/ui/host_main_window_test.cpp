@@ -48,7 +48,6 @@ class HostMainWindowTest : public QObject {
   void cancelledDialogChangesNothing();
 
  private:
-  void ReformatOnTheScreenPage(const QString& path);
   bool Enabled(int command) const { return window_->action(command)->isEnabled(); }
   QString Status() const { return window_->statusBar()->currentMessage(); }
   QString Label(const char* name) const {
@@ -211,125 +210,12 @@ void HostMainWindowTest::capturesThreeScreensIntoAFile() {
   QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture));
   QCOMPARE(QFileInfo(path).size(), qint64(20 + 3 * 10424));
 
-  ReformatOnTheScreenPage(path);
-
   // Disconnecting while capturing closes the file; the next connection starts without capture.
   window_->ExecuteCommand(kCmdStartCapture);
   window_->ExecuteCommand(kCmdDisconnect);
   window_->ExecuteCommand(kCmdConnect);
   QTRY_VERIFY(parts_.connection->connected());
   QVERIFY(Enabled(kCmdStartCapture) && !Enabled(kCmdCapture) && !Enabled(kCmdStopCapture));
-}
-
-// The captured file on the Screen page: loaded, fields mapped to lines on two pages, a page
-// deleted; Cancel puts everything back, a refused file changes nothing, OK keeps the pages.
-void HostMainWindowTest::ReformatOnTheScreenPage(const QString& path) {
-  Document& doc = window_->document();
-  WriteNumber(doc.record, *FindField("ProductIndex"), 1);
-  const SettingsRecord record_before = doc.record;
-  for (bool ok : {false, true}) {
-    SettingsSheetDialog sheet(doc, SettingsPageRegistry::Installed());
-    sheet.show();
-    sheet.tabs()->setCurrentIndex(static_cast<int>(SheetPageId::kScreen));
-    auto* page = static_cast<ScreenPage*>(sheet.page(static_cast<int>(SheetPageId::kScreen)));
-    QVERIFY(page != nullptr);
-    QStringList shown;
-    page->SetMessageShower([&](const QString&, const QString& text) { shown << text; });
-    page->SetQuestion([](const QString&, const QString& text) {
-      return text == QStringLiteral("Are you sure to delete this page ?");
-    });
-    auto label = [&](const char* name) { return page->findChild<QLabel*>(name)->text(); };
-    auto button = [&](const char* name) { return page->findChild<QPushButton*>(name); };
-
-    // A file of the wrong size: "Version Error", nothing changes.
-    QTemporaryDir dir;
-    QFile bad(dir.filePath(QStringLiteral("bad.SCR")));
-    QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write(QByteArray(21, '\0')) == 21);
-    bad.close();
-    page->SetFileAsker([&] { return std::optional<std::string>(bad.fileName().toStdString()); });
-    QTest::mouseClick(button("load_screens"), Qt::LeftButton);
-    QCOMPARE(shown, QStringList{QStringLiteral("Version Error")});
-    QCOMPARE(label("total_pages"), QStringLiteral("0"));
-    QVERIFY(doc.record == record_before);
-
-    page->SetFileAsker([&] { return std::optional<std::string>(path.toStdString()); });
-    QTest::mouseClick(button("load_screens"), Qt::LeftButton);
-    QCOMPARE(label("total_pages"), QStringLiteral("3"));
-    QCOMPARE(label("current_page"), QStringLiteral("1"));
-    QVERIFY(page->findChild<QPlainTextEdit*>("preview")->toPlainText().contains("Sign On"));
-    QVERIFY(!button("previous_page")->isEnabled() && button("next_page")->isEnabled());
-
-    // Page 1 (sign on): line 1 shows field 1 with a text typed key by key.
-    auto* field = page->findChild<QComboBox*>("line_field_1");
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_Down);
-    QCOMPARE(field->currentText(), QStringLiteral("1"));
-    QTest::keyClicks(page->findChild<QLineEdit*>("line_text_1"), QStringLiteral("User:"));
-    const std::string x = page->findChild<QLineEdit*>("line_x_1")->text().toStdString();
-    // The terminal's display shows the text and the field's content; the host screen marks
-    // the two input fields and the characteristic cells.
-    auto* terminal = page->findChild<QPlainTextEdit*>("terminal_preview");
-    QVERIFY(terminal->toPlainText().startsWith(QStringLiteral("User:[")));
-    QCOMPARE(terminal->document()->blockCount(), 8);
-    const auto marks = page->findChild<QPlainTextEdit*>("preview")->extraSelections();
-    QVERIFY(marks.size() > 2);
-    QVERIFY(std::ranges::any_of(marks, [](const QTextEdit::ExtraSelection& m) {
-      return m.format.fontUnderline() && m.cursor.selectedText().size() == 10;
-    }));
-    // A line text is stored in the terminal's single-byte code and takes what it stores.
-    auto* text2 = page->findChild<QLineEdit*>("line_text_2");
-    QTest::keyClicks(text2, QStringLiteral("Qt"));
-    QTest::sendKeyEvent(QTest::Click, text2, Qt::Key_Eacute, QChar(0xE9), Qt::NoModifier);
-    QCOMPARE(ReadText(doc.record, kTerminalScreen, 0, 1), std::string("Qt\xE9"));
-    QCOMPARE(text2->maxLength(), 19);
-    // Lines scrolled on a 16-line size; a font change shows the first lines again.
-    auto* size = page->findChild<QComboBox*>("terminal_size");
-    size->setCurrentIndex(1);
-    emit size->activated(1);
-    QTest::mouseClick(button("lines_forward"), Qt::LeftButton);
-    QCOMPARE(label("line_number_1"), QStringLiteral("9"));
-    const std::uint32_t font = ReadNumber(doc.record, kFontSize);
-    WriteNumber(doc.record, kFontSize, font == 0 ? 1 : 0);
-    page->SetActive(doc);
-    QCOMPARE(label("line_number_1"), QStringLiteral("1"));
-    WriteNumber(doc.record, kFontSize, font);
-    page->SetActive(doc);
-    size->setCurrentIndex(0);
-    emit size->activated(0);
-    // Page 2 (menu): line 2 shows field 1.
-    QTest::mouseClick(button("next_page"), Qt::LeftButton);
-    QVERIFY(page->findChild<QPlainTextEdit*>("preview")->toPlainText().contains("Main Menu"));
-    auto* field2 = page->findChild<QComboBox*>("line_field_2");
-    QTest::keyClick(field2, Qt::Key_Down);
-    QTest::keyClicks(page->findChild<QLineEdit*>("line_text_2"), QStringLiteral("Option"));
-    // Page 3 goes.
-    QTest::mouseClick(button("last_page"), Qt::LeftButton);
-    QTest::mouseClick(button("delete_page"), Qt::LeftButton);
-    QCOMPARE(label("total_pages"), QStringLiteral("2"));
-    QCOMPARE(label("current_page"), QStringLiteral("2"));
-
-    const int sign_on_column = static_cast<int>(ReadNumber(doc.record, kHostColumn, 0, 0));
-    QCOMPARE(std::to_string(sign_on_column), x);
-    QCOMPARE(ReadText(doc.record, kTerminalScreen, 0, 0), std::string("User:"));
-    QCOMPARE(ReadText(doc.record, kTerminalScreen, 1, 1), std::string("Option"));
-    QCOMPARE(ReadNumber(doc.record, kHostRow, 0, 1), 255u);
-    if (!ok) {
-      sheet.reject();
-      QVERIFY(doc.record == record_before);
-      continue;
-    }
-    // For a look at it (kept in the build folder).
-    QTest::mouseClick(button("first_page"), Qt::LeftButton);
-    QCoreApplication::processEvents();
-    QVERIFY(sheet.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("screen_page.png")));
-    sheet.accept();
-  }
-  QCOMPARE(ReadNumber(doc.record, kTotalPages), 2u);
-  QCOMPARE(ReadNumber(doc.record, kScreensLoaded), 1u);
-  const std::string summary = RenderSummaryText(BuildSummary(doc));
-  QVERIFY(summary.find("Terminal Screen : User:") != std::string::npos);
-  QVERIFY(summary.find("Terminal Screen : Option") != std::string::npos);
-  QVERIFY(summary.find("Page  3") == std::string::npos);
 }
 
 void HostMainWindowTest::hostClosingRunsTheDisconnectCommand() {

@@ -6,9 +6,11 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QtTest>
 #include <memory>
 
+#include "capture/screen_page.h"
 #include "cli/settings_input.h"
 #include "resources/text_qt.h"
 #include "settings/document.h"
@@ -58,6 +60,7 @@ QString Shown(QWidget* w) {
   if (auto* spin = qobject_cast<QAbstractSpinBox*>(w)) return spin->text();
   if (auto* combo = qobject_cast<QComboBox*>(w)) return combo->currentText();
   if (auto* label = qobject_cast<QLabel*>(w)) return label->text();
+  if (auto* text = qobject_cast<QPlainTextEdit*>(w)) return text->toPlainText();
   if (auto* button = qobject_cast<QAbstractButton*>(w)) {
     return button->isChecked() ? QStringLiteral("checked") : QStringLiteral("unchecked");
   }
@@ -84,6 +87,7 @@ class PageScriptsTest : public QObject {
     SettingsPage* page = nullptr;
     std::unique_ptr<QDialog> dialog;
     std::unique_ptr<SettingsSheetDialog> sheet;
+    QStringList messages;  // what the Screen page told the user
     static const QStringList kPages = {"system", "barcode", "wlan", "emulation", "screen"};
     for (const auto& [number, step] : script.steps) {
       const QString where = QStringLiteral("line %1: %2").arg(number).arg(step);
@@ -113,7 +117,7 @@ class PageScriptsTest : public QObject {
         CopyReaderBlocksToRecord(copy);
         const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
         QVERIFY2(element.single(), qPrintable(where));
-        QCOMPARE(QString::fromStdString(FormatElementValue(copy.record, ElementsOf(element)[0])),
+        QCOMPARE(QString::fromLatin1(FormatElementValue(copy.record, ElementsOf(element)[0])),
                  name.section('=', 1));
         continue;
       }
@@ -135,13 +139,12 @@ class PageScriptsTest : public QObject {
       if (verb == "tab") {
         sheet->tabs()->setCurrentIndex(kPages.indexOf(name));
         page = sheet->page(kPages.indexOf(name));
-        continue;
       }
       if (verb == "stored") {
         const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
         QVERIFY2(element.single(), qPrintable(where));
         const QString value =
-            QString::fromStdString(FormatElementValue(doc->record, ElementsOf(element)[0]));
+            QString::fromLatin1(FormatElementValue(doc->record, ElementsOf(element)[0]));
         QVERIFY2(value.trimmed() == (name.section('=', 1) + ' ' + rest).trimmed(),
                  qPrintable(where + " holds " + value));
         continue;
@@ -151,6 +154,23 @@ class PageScriptsTest : public QObject {
         page = SettingsPageRegistry::Installed().Create(
             static_cast<SheetPageId>(kPages.indexOf(name)), *doc, parent.get());
         page->Initialise(*doc);
+        page->SetActive(*doc);
+      }
+      if (auto* screen = qobject_cast<ScreenPage*>(page); screen != nullptr && verb != "screens") {
+        screen->SetMessageShower([&messages](const QString&, const QString& t) { messages << t; });
+        screen->SetQuestion([](const QString&, const QString&) { return true; });
+      }
+      if (verb == "page" || verb == "tab") continue;
+      if (verb == "screens") {  // the file the Screen page's "Load" is given, from tests/ui/data
+        const std::string file = VELTRIX_SOURCE_DIR "/tests/ui/data/" + name.toStdString();
+        qobject_cast<ScreenPage*>(page)->SetFileAsker([file] { return std::optional(file); });
+        continue;
+      }
+      if (verb == "told") {
+        QVERIFY2(messages.value(messages.size() - 1) == step.mid(5), qPrintable(where));
+        continue;
+      }
+      if (verb == "active") {
         page->SetActive(*doc);
         continue;
       }
@@ -194,8 +214,21 @@ class PageScriptsTest : public QObject {
       if (refused) testing::AnswerMessageBox(&message);
       if (verb == "click") {
         qobject_cast<QAbstractButton*>(control)->click();
-      } else if (verb == "choose") {
-        qobject_cast<QComboBox*>(control)->setCurrentIndex(rest.section(' ', 0, 0).toInt());
+      } else if (verb == "choose" || verb == "pick") {  // pick: as the user's choice is signalled
+        auto* list = qobject_cast<QComboBox*>(control);
+        list->setCurrentIndex(rest.section(' ', 0, 0).toInt());
+        if (verb == "pick") emit list->activated(list->currentIndex());
+      } else if (verb == "key") {
+        control->setFocus();
+        QTest::keyClick(control, static_cast<Qt::Key>(QKeySequence(rest)[0].key()));
+      } else if (verb == "holds") {
+        QVERIFY2(Shown(control).contains(rest), qPrintable(where + " shows " + Shown(control)));
+      } else if (verb == "append") {  // typed behind what the edit holds, key by key
+        for (const QChar c : rest) {
+          QTest::sendKeyEvent(QTest::Click, control,
+                              c.unicode() < 128 ? Qt::Key(c.toUpper().unicode()) : Qt::Key_unknown,
+                              c, Qt::NoModifier);
+        }
       } else if (verb == "type") {  // into an edit, or a spin box's edit
         auto* edit = qobject_cast<QLineEdit*>(control);
         testing::TypeInto(edit != nullptr ? edit : control->findChild<QLineEdit*>(), rest);
