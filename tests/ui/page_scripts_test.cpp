@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -218,6 +219,29 @@ class PageScriptsTest : public QObject {
         auto* list = qobject_cast<QComboBox*>(control);
         list->setCurrentIndex(rest.section(' ', 0, 0).toInt());
         if (verb == "pick") emit list->activated(list->currentIndex());
+      } else if (verb ==
+                 "grid") {  // a click opens "The Grid Control"; keys in it, then OK or Cancel
+        const QStringList keys = rest.split(' ');
+        QString refusal;
+        testing::WhenModal([&keys, &refusal](QWidget* grid) {
+          QWidget* chart = grid->findChild<QWidget*>("grid_chart");
+          for (const QString& key : keys) {
+            if (key == "clear") {
+              grid->findChild<QAbstractButton*>("grid_clear")->click();
+            } else if (key == "ok" || key == "cancel") {
+              key == "ok" ? qobject_cast<QDialog*>(grid)->accept()
+                          : qobject_cast<QDialog*>(grid)->reject();
+            } else if (key == "refused") {  // the next Enter: "Too many characters !!!"
+              testing::AnswerMessageBox(&refusal, grid);
+            } else {
+              QTest::keyClick(chart, static_cast<Qt::Key>(QKeySequence(key)[0].key()));
+            }
+          }
+        });
+        QTest::mouseClick(control, Qt::LeftButton);
+        if (keys.contains("refused")) {
+          QCOMPARE(refusal, QString("The Grid Control: Too many characters !!!"));
+        }
       } else if (verb == "key") {
         control->setFocus();
         QTest::keyClick(control, static_cast<Qt::Key>(QKeySequence(rest)[0].key()));

@@ -31,36 +31,6 @@ class WirelessLanPageTest : public QObject, testing::PageUnderTest<WirelessLanPa
   void init() { OpenPage(2); }
   void cleanup() { ClosePage(); }
 
-  // Key 2 through the grid editor: it opens full (five bytes), so the sixth click after Clear is
-  // refused; OK stores what was picked, Cancel leaves the key.
-  void wepKeysComeFromTheGridEditor_data() {
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("OK") << true << "41 41 41 41 41 ";
-    QTest::newRow("Cancel") << false << "00 00 00 00 00 ";
-  }
-  void wepKeysComeFromTheGridEditor() {
-    QFETCH(bool, ok);
-    Find<QCheckBox>("wep")->click();
-    QString refusal;
-    testing::WhenModal([&](QWidget* w) {
-      auto* grid = qobject_cast<GridDialog*>(w);
-      QVERIFY(grid);
-      QCOMPARE(grid->editor().bytes().size(), std::size_t{5});
-      grid->findChild<QPushButton*>("grid_clear")->click();
-      QWidget* chart = grid->findChild<QWidget*>("grid_chart");
-      const QPoint cell(chart->width() / 17 * 5 + 3, chart->height() / 17 * 2 + 3);  // 0x41
-      for (int i = 0; i < 5; ++i) QTest::mouseClick(chart, Qt::LeftButton, {}, cell);
-      testing::AnswerMessageBox(&refusal, grid);
-      QTest::mouseClick(chart, Qt::LeftButton, {}, cell);
-      QCOMPARE(refusal, QString("The Grid Control: Too many characters !!!"));
-      ok ? grid->accept() : grid->reject();
-    });
-    QTest::mouseClick(Find<QLineEdit>("wep_key_2"), Qt::LeftButton);
-    QTEST(Find<QLineEdit>("wep_key_2")->text(), "text");
-    QCOMPARE(doc_->record[kWepKey.offset + 16], std::uint8_t(ok ? 0x41 : 0));
-  }
-
   // Typed into the host combo while entry 3 is active: entry 3 changes, the others stay; OK
   // pads the active entry only.
   void hostComboEditsTheActiveEntry() {
