@@ -16,12 +16,6 @@ namespace {
 
 using testing::DefaultDocument;
 
-// The Screen section of the document's summary as text.
-std::string ScreenSummary(const Document& doc) {
-  const std::vector<SummaryNode> tree = BuildSummary(doc);
-  return tree.empty() ? std::string() : RenderSummaryText({tree.back()});
-}
-
 TEST(ScreenPageFields, LieWhereTheTerminalExpectsThem) {
   const struct {
     const FieldDef& field;
@@ -76,55 +70,15 @@ TEST(ScreenPageDefaults, ClearThePagesAndUnmapEveryLine) {
   EXPECT_EQ(0xEE, doc->record[57659]);  // the unused tail is not the section's
 }
 
-TEST(ScreenSummary, ListsPagesLinesAndMappedFields) {
-  auto doc = DefaultDocument(1);
-  WriteNumber(doc->record, kTotalPages, 3);
-  // Page 1: 20 x 8, line 2 shows a field, line 3 has a field but no text.
-  WriteText(doc->record, kTerminalScreen, "ABC", 0, 1);
-  WriteNumber(doc->record, kHostRow, 5, 0, 1);
-  WriteNumber(doc->record, kHostColumn, 10, 0, 1);
-  WriteNumber(doc->record, kHostRow, 7, 0, 2);
-  WriteNumber(doc->record, kHostColumn, 2, 0, 2);
-  // Page 2: 40 x 16, a text without a field on the last line.
-  WriteNumber(doc->record, kReformatPageTo, 4, 1);
-  WriteText(doc->record, kTerminalScreen, "Qty:", 1, 15);
-  // Page 3: a size index no list knows lists all 24 lines.
-  WriteNumber(doc->record, kReformatPageTo, 9, 2);
-  WriteText(doc->record, kTerminalScreen, "last", 2, 23);
-  EXPECT_TRUE(testing::MatchesGolden(ScreenSummary(*doc), "summary/screen_pages.txt"));
-}
-
-TEST(ScreenSummary, CursorRuleAndUnterminatedTexts) {
+// A text filling its slot without a NUL (as a file may hold it) shows whole.
+TEST(ScreenSummary, UnterminatedTexts) {
   auto doc = DefaultDocument(2);
   WriteNumber(doc->record, kTotalPages, 1);
-  WriteNumber(doc->record, kCursorLocationIsSpecifiedBy, 1);
   auto line = FieldBytes(std::span<std::uint8_t>(doc->record), kTerminalScreen, 0, 0);
   std::ranges::fill(line, 'x');  // no NUL within the slot
   const std::vector<SummaryNode> tree = BuildSummary(*doc);
   const SummaryNode& page = tree.back().children.at(0);
-  EXPECT_EQ("Cursor location is specified by : Host row and column", page.children.at(1).text);
   EXPECT_EQ("Terminal Screen : " + std::string(41, 'x'), page.children.at(2).children.at(1).text);
-}
-
-TEST(ScreenSummary, ListsAtMostFiftyPages) {
-  auto doc = DefaultDocument(1);
-  WriteNumber(doc->record, kTotalPages, 200);
-  const std::vector<SummaryNode> tree = BuildSummary(*doc);
-  ASSERT_EQ(50u, tree.back().children.size());
-  EXPECT_EQ("Page 50", tree.back().children.back().text);
-}
-
-TEST(ScreenSummary, LargeFontOffersTheOtherSizes) {
-  const FieldDef* font_size = FindField("FontSize");
-  ASSERT_NE(nullptr, font_size);
-  auto doc = DefaultDocument(1);
-  WriteNumber(doc->record, *font_size, 1);
-  WriteNumber(doc->record, kTotalPages, 1);
-  WriteNumber(doc->record, kReformatPageTo, 2, 0);
-  const std::vector<SummaryNode> summary = BuildSummary(*doc);
-  const SummaryNode& page = summary.back().children.at(0);
-  EXPECT_EQ("Reformat page  1 to 15 characters * 12 lines", page.children.at(0).text);
-  EXPECT_EQ(2u + 12u, page.children.size());
 }
 
 TEST(TerminalScreenSizes, GiveCharactersAndLinesForBothFonts) {
