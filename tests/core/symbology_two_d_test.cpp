@@ -99,44 +99,6 @@ TEST(TwoDOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
   }
 }
 
-TEST(TwoDOptionDialogs, OpeningShowsTheDefaults) {
-  auto doc = testing::DefaultDocument(1);
-  const auto shown = [](std::string_view name) {
-    return TwoDOptionBindings(*FindTwoDOptionDialog(name));
-  };
-  const OwnedBindings code39 = shown("CODE39_2D_DLG");
-  BindingSession code39_user = testing::Session(*doc, code39.lines);
-  EXPECT_EQ(kLengthRange, code39_user.Value("length_option"));
-  EXPECT_EQ("2", code39_user.Text("length_1"));
-  EXPECT_EQ("55", code39_user.Text("length_2"));
-  const OwnedBindings interleave = shown("INTERLEAVE25_2D_DLG");
-  BindingSession interleave_user = testing::Session(*doc, interleave.lines);
-  EXPECT_EQ(kOneLength, interleave_user.Value("length_option"));
-  EXPECT_EQ("14", interleave_user.Text("length_1"));
-  EXPECT_EQ((std::vector<std::int64_t>{0}), testing::Values(interleave_user, true));
-  const OwnedBindings upca = shown("UPCA_2D_DLG");
-  BindingSession upca_user = testing::Session(*doc, upca.lines);
-  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), testing::Values(upca_user, false));
-  EXPECT_EQ((std::vector<std::int64_t>{1, 0}), testing::Values(upca_user, true));
-}
-
-TEST(TwoDOptionDialogs, SupplementalsAreSharedByTheUpcAndEan8Dialogs) {
-  auto doc = testing::DefaultDocument(1);
-  const TwoDOptionDialog& upce = *FindTwoDOptionDialog("UPCE_2D_DLG");
-  const OwnedBindings upce_bindings = TwoDOptionBindings(upce);
-  BindingSession user = testing::Session(*doc, upce_bindings.lines);
-  user.Set(testing::Controls(user, true)[1], 2);
-  user.Set(testing::Controls(user, false)[2], 1);  // the coupon bit is shared too
-  user.Commit();
-  ApplyTwoDOptions(*doc, upce);
-  const OwnedBindings upca = TwoDOptionBindings(*FindTwoDOptionDialog("UPCA_2D_DLG"));
-  BindingSession upca_user = testing::Session(*doc, upca.lines);
-  EXPECT_EQ(2, testing::Values(upca_user, true)[1]);
-  EXPECT_EQ(1, testing::Values(upca_user, false)[1]);
-  const OwnedBindings ean8 = TwoDOptionBindings(*FindTwoDOptionDialog("EAN8_2D_DLG"));
-  EXPECT_EQ(2, testing::Values(testing::Session(*doc, ean8.lines), true)[0]);
-}
-
 TEST(TwoDOptionDialogs, Code39OpeningClearsItsSpareBitsEvenWhenCancelled) {
   auto doc = testing::DefaultDocument(1);
   doc->reader_block1[58664 - 58659] |= 0x30;
