@@ -93,28 +93,5 @@ TEST(LinearOptionDialogs, OkWithoutChangesKeepsTheDefaultBlock) {
   }
 }
 
-// What the dialogs show of the default working block, and of a stored choice no radio stands for.
-TEST(LinearOptionDialogs, OpeningShowsTheWorkingBlock) {
-  auto doc = testing::DefaultDocument(1);
-  const auto shown = [&doc](std::string_view name, bool choices) {
-    const OwnedBindings bindings = LinearOptionBindings(*FindLinearOptionDialog(name));
-    return testing::Values(testing::Session(*doc, bindings.lines), choices);
-  };
-  const OwnedBindings industrial = LinearOptionBindings(*FindLinearOptionDialog("Industrial25Dlg"));
-  BindingSession user = testing::Session(*doc, industrial.lines);
-  EXPECT_EQ((std::vector<std::int64_t>{0, 1}), testing::Values(user, false));
-  EXPECT_EQ((std::vector<std::int64_t>{0}), testing::Values(user, true));
-  EXPECT_EQ(1, user.Value("length_qualification"));
-  EXPECT_EQ("127", user.Text("length_1"));
-  EXPECT_EQ("1", user.Text("length_2"));
-
-  // "None" while the transmit bit is clear; bit 0 shows "AIM Telepen  (Full ASCII)".
-  EXPECT_EQ((std::vector<std::int64_t>{0}), shown("CodabarDlg", true));
-  EXPECT_EQ((std::vector<std::int64_t>{1}), shown("TelepenDlg", true));
-  EXPECT_EQ((std::vector<std::int64_t>{0, 1}), shown("MSIDlg", true));
-  WriteWorking(*doc, kIndustrial25StartStop, 3);
-  EXPECT_EQ((std::vector<std::int64_t>{2}), shown("Industrial25Dlg", true));
-}
-
 }  // namespace
 }  // namespace veltrix
