@@ -10,7 +10,6 @@
 #include "settings/emulation/emulation_choices.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/emulation/key_mapping.h"
-#include "settings/emulation/number_edit.h"
 #include "settings/network/network_settings.h"
 
 namespace veltrix {

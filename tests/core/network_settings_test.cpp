@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,7 +10,6 @@
 #include "default_document.h"
 #include "settings/emulation/function_keys.h"
 #include "settings/emulation/key_mapping.h"
-#include "settings/emulation/number_edit.h"
 #include "settings/network/network_choices.h"
 #include "settings/network/wep_key.h"
 

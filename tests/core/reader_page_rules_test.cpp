@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <set>
 #include <string>
@@ -15,7 +14,6 @@
 #include "settings/reader/reader_settings.h"
 #include "settings/reader/two_d_fields.h"
 #include "settings/reader/working_block.h"
-#include "support/binding_driver.h"
 
 namespace veltrix {
 namespace {

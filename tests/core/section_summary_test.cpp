@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "default_document.h"
-#include "settings/emulation/emulation_settings.h"
 #include "settings/network/network_settings.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/reader_record_fields.h"

@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "default_document.h"
-#include "settings/reader/length_pair.h"
 #include "settings/reader/linear_fields.h"
 #include "settings/reader/number_box.h"
 #include "settings/reader/reader_settings.h"

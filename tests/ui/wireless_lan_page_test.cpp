@@ -1,25 +1,13 @@
 // The Wireless LAN page driven as a user does, alone and inside the settings sheet.
 #include "settings/network/wireless_lan_page.h"
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
 #include <QtTest>
 #include <memory>
 
 #include "settings/document.h"
-#include "settings/emulation/key_mapping.h"
-#include "settings/grid/grid_dialog.h"
 #include "settings/network/network_settings.h"
-#include "shell/settings_page_registry_qt.h"
-#include "shell/settings_sheet_dialog.h"
-#include "shell/summary.h"
-#include "support/modal.h"
 #include "support/page_test.h"
 
 using namespace veltrix;
