@@ -4,12 +4,10 @@
 // while the progress dialog advances.
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QPushButton>
 #include <QDir>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTcpSocket>
