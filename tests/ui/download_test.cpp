@@ -4,10 +4,10 @@
 // while the progress dialog advances.
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QPushButton>
 #include <QDir>
 #include <QProcess>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTcpSocket>
@@ -139,12 +139,6 @@ void DownloadTest::propertiesDialogStartsAtTheFirstPort() {
   QVERIFY(dialog.port_box()->isEnabled());
   dialog.port_box()->setEditText("/dev/pts/7");  // a port the system does not list
   QCOMPARE(dialog.port(), "/dev/pts/7");
-  dialog.show();
-  QVERIFY(dialog.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("download_properties.png")));
-  DownloadProgressDialog progress(598);
-  progress.SetPosition(250);
-  progress.show();
-  QVERIFY(progress.grab().save(QDir(VELTRIX_BINARY_DIR).filePath("download_progress.png")));
 }
 
 void DownloadTest::closingTheWindowMidTransferClosesTheLink() {

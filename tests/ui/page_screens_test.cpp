@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "download/download_dialog.h"
 #include "settings/document.h"
 #include "settings/emulation/function_key_dialog.h"
 #include "settings/grid/grid_dialog.h"
@@ -19,6 +20,8 @@
 #include "settings/reader/symbology_dialog.h"
 #include "shell/settings_page_registry_qt.h"
 #include "shell/settings_sheet_dialog.h"
+#include "tn5250/certificate_dialog.h"
+#include "tn5250/host_ip_dialog.h"
 
 using namespace veltrix;
 
@@ -118,6 +121,19 @@ class PageScreensTest : public QObject {
     look(GridDialog(GridMode::kKeyNames, 9, codes), "grid_key_names");
     look(GridDialog(GridMode::kHex, 10, codes), "grid_hex");
     look(GridDialog(GridMode::kKeyCodes, 1, codes), "grid_key_codes");
+    HostIpForm form;
+    HostIpDialog connect(form, "127.0.0.1");
+    connect.use_tls_box()->setChecked(true);
+    Look(&connect, "connect_tls");
+    look(DownloadPropertiesDialog(1, 2, {"ttyS0", "ttyUSB0"}), "download_properties");
+    look(DownloadProgressDialog(598), "download_progress");
+    CertificateFacts facts{.subject = "127.0.0.1",
+                           .issuer = "127.0.0.1",
+                           .problems = {CertificateProblem::kSelfSigned}};
+    TrustedCertificates trusted;
+    trusted.Trust("10.0.0.5", "SHA256:00");
+    look(CertificateDialog("127.0.0.1", facts, CertificateVerdict::kAsk, trusted, {}),
+         "certificate");
   }
 
  private:
