@@ -4,42 +4,13 @@
 #include <vector>
 
 #include "default_document.h"
-#include "settings/emulation/function_keys.h"
 #include "settings/reader/advanced_options.h"
 #include "settings/reader/reader_record_fields.h"
 #include "settings/reader/reader_settings.h"
-#include "settings/reader/rfid_options.h"
 #include "support/binding_driver.h"
 
 namespace veltrix {
 namespace {
-
-// ---- RFID reader -------------------------------------------------------------------------------
-
-TEST(RfidOptions, SwitchKeyIsRefusedWhileAnotherRoleHoldsIt) {
-  auto doc = testing::DefaultDocument(1);
-  WriteNumber(doc->record, kScanSwitchKeyName, 0);
-  ClaimFunctionKey(*doc, 3, kRoleNameKey);
-  const FieldBinding& key = *FindBinding(RfidBindings(), "switch_key");
-  const auto choose = [&](int k) { return StoreBoundValue(*doc, key, k).refused; };
-
-  EXPECT_TRUE(choose(3));
-  EXPECT_EQ(0u, ReadNumber(doc->record, kScanSwitchKeyName));
-
-  EXPECT_FALSE(choose(4));
-  EXPECT_EQ(4u, ReadNumber(doc->record, kScanSwitchKeyName));
-  EXPECT_TRUE(FunctionKeyHasRole(*doc, 4));
-
-  EXPECT_FALSE(choose(4));  // the same key again
-
-  EXPECT_FALSE(choose(0));  // "Disable" releases it
-  EXPECT_EQ(0u, ReadNumber(doc->record, kScanSwitchKeyName));
-  EXPECT_FALSE(FunctionKeyHasRole(*doc, 4));
-  EXPECT_TRUE(FunctionKeyHasRole(*doc, 3));
-
-  choose(11);  // no such entry
-  EXPECT_EQ(0u, ReadNumber(doc->record, kScanSwitchKeyName));
-}
 
 // ---- advanced barcode settings -----------------------------------------------------------------
 
