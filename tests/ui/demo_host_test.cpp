@@ -245,88 +245,6 @@ QString RunScenario(const Scenario& scenario, EnginePipe& pipe) {
 
 }  // namespace
 
-class DemoHostTest : public QObject {
-  Q_OBJECT
-
- private slots:
-  void scenarios_data();
-  void scenarios();
-  void sessionGivesTheSameBytesForAnyChunking();
-  void negotiationAndSignOnOverLoopback();
-  void hostileStations_data();
-  void hostileStations();
-  void scriptSendsExpectsAndLogs();
-  void scriptWithoutNegotiation();
-  void executablePrintsItsEphemeralPort();
-};
-
-void DemoHostTest::scenarios_data() {
-  QTest::addColumn<int>("index");
-  const QList<Scenario> all = ReadScenarios();
-  QVERIFY(all.size() >= 10);
-  for (int i = 0; i < all.size(); ++i) QTest::newRow(qPrintable(all[i].name)) << i;
-}
-
-void DemoHostTest::scenarios() {
-  QFETCH(int, index);
-  const Scenario scenario = ReadScenarios()[index];
-  EnginePipe pipe(scenario.emulation_type);
-  QVERIFY(pipe.host.running());
-  const QString failure = RunScenario(scenario, pipe);
-  QVERIFY2(failure.isEmpty(), qPrintable(failure));
-}
-
-// Everything Veltrix's engine sends in one session, cut at every chunk size, gives the host's
-// same answers.
-void DemoHostTest::sessionGivesTheSameBytesForAnyChunking() {
-  EnginePipe pipe;
-  std::vector<veltrix::KeyStroke> keys;
-  std::string error;
-  QVERIFY(veltrix::ParseReplayKeys("chunk<Enter>1<Enter><PageDown><F3>2<Enter>ITEM0001<F5>", 0,
-                                   keys, error));
-  for (const auto& k : keys) pipe.Press(k);
-  const std::vector<std::uint8_t>& input = pipe.sent_all;
-  auto run = [&](std::size_t chunk) {
-    HostSession session(std::make_unique<DemoApplication>());
-    QByteArray out = Bytes(session.Start());
-    for (std::size_t i = 0; i < input.size(); i += chunk) {
-      out += Bytes(session.Receive(std::span(input).subspan(i, std::min(chunk, input.size() - i))));
-    }
-    return out;
-  };
-  const QByteArray whole = run(input.size());
-  QVERIFY(whole.contains(Host("ITEM0011")));
-  QVERIFY(whole.contains(Host("Read Immediate: item")));
-  for (std::size_t chunk = 1; chunk < 64; ++chunk) QCOMPARE(run(chunk), whole);
-}
-
-void DemoHostTest::negotiationAndSignOnOverLoopback() {
-  DemoHostServer server;
-  Station station;
-  QVERIFY(server.Listen(0) && station.Connect(server.port()));
-  QVERIFY(station.Negotiate("QPADEV0001"));
-  QCOMPARE(station.NextRecord(), Bytes({0x00, 0x11, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 0x04, 0xF3, 0x00,
-                                        0x05, 0xD9, 0x70, 0x00}));
-  const QByteArray sign_on = station.NextRecord();
-  QVERIFY(sign_on.contains(Host("QPADEV0001")));
-  // The password field does not display; the cursor starts in the user field; Read MDT Fields.
-  QVERIFY(sign_on.contains(Bytes({0x11, 7, 52, 0x1D, 0x40, 0x00, 0x27, 0x00, 0x0A})));
-  QVERIFY(sign_on.endsWith(Bytes({0x13, 6, 53, 0x04, 0x52, 0x00, 0x00})));
-
-  station.SendRecord(AidRecord(7, 55, kAidEnter, {{6, 53, "BOB"}, {7, 53, "SECRET"}}));
-  QVERIFY(station.NextRecord().contains(Host("Signed on as BOB")));
-  QVERIFY(server.log().contains("signed on: BOB"));
-  QCOMPARE(server.receivedRecords().size(), 1);
-  QVERIFY(server.receivedBytes().contains(Host("SECRET")));
-
-  QSignalSpy gone(&server, &DemoHostServer::stationDisconnected);
-  station.SendRecord(AidRecord(21, 7, kAidF3));
-  QVERIFY(station.NextRecord().contains(Host("Sign On")));
-  station.SendRecord(AidRecord(6, 53, kAidF3));
-  QVERIFY(station.WaitDisconnected());
-  QTRY_COMPARE(gone.count(), 1);
-}
-
 // Kernel's count of this process's resident memory, in KB. Under AddressSanitizer freed memory
 // stays in quarantine, so the bound below is not checked there.
 #if defined(__SANITIZE_ADDRESS__)
@@ -350,122 +268,188 @@ long ResidentKb() {
   return 0;
 }
 
-void DemoHostTest::hostileStations_data() {
-  QTest::addColumn<QByteArray>("sends");
-  QTest::addColumn<int>("repeat");
-  QTest::addColumn<bool>("dropped");
-  QTest::addColumn<QString>("log");
-  // Field data ending in a Set Buffer Address: answered like any record, the host goes on.
-  QTest::newRow("record ending in an SBA")
-      << Bytes({0x00, 0x0E, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 1, 1, 0xF1, 0x11, 0xFF, 0xEF}) << 1
-      << false << "Enter at 1,1";
-  QTest::newRow("50 MB without a record end")
-      << QByteArray(1 << 20, 'A') << 50 << true << "longer than any record";
-  QByteArray records;
-  while (records.size() < (1 << 20)) records += AidRecord(1, 1, kAidEnter) + Bytes({0xFF, 0xEF});
-  QTest::newRow("50 MB of records, none of the answers read")
-      << records << 50 << true << "does not read";
-  QTest::newRow("malformed records")
-      << Bytes({0x00, 0x02, 0x01, 0xFF, 0xEF}) << 16 << true << "sends garbage";
-  QTest::newRow("silence") << QByteArray() << 0 << true << "idle for 0.3 s";
-}
+class DemoHostTest : public QObject {
+  Q_OBJECT
 
-// One hostile station at a time: the host stays bounded in memory, drops the station where it
-// should, and keeps serving a well-behaved one.
-void DemoHostTest::hostileStations() {
-  QFETCH(QByteArray, sends);
-  QFETCH(int, repeat);
-  QFETCH(bool, dropped);
-  QFETCH(QString, log);
-  DemoHostServer server;
-  server.SetIdleLimit(sends.isEmpty() ? 300 : 30000);
-  Station good;
-  Station hostile;
-  QVERIFY(server.Listen(0) && hostile.Connect(server.port()));
-  QVERIFY(hostile.Negotiate("HOSTILE"));
-  // From here on the hostile station reads nothing: the kernel's buffers fill up.
-  QObject::disconnect(&hostile.socket, &QTcpSocket::readyRead, nullptr, nullptr);
-  hostile.socket.setReadBufferSize(4096);
-  const long before = ResidentKb();
-  for (int i = 0; i < repeat && hostile.socket.state() == QAbstractSocket::ConnectedState; ++i) {
-    hostile.Send(sends);
-    // Bounded by the socket, as a real flood is.
-    while (hostile.socket.bytesToWrite() > (4 << 20)) QTest::qWait(1);
+ private slots:
+  void scenarios_data() {
+    QTest::addColumn<int>("index");
+    const QList<Scenario> all = ReadScenarios();
+    QVERIFY(all.size() >= 10);
+    for (int i = 0; i < all.size(); ++i) QTest::newRow(qPrintable(all[i].name)) << i;
   }
-  QVERIFY(good.Connect(server.port()) && good.Negotiate("GOOD"));
-  good.NextRecord();  // the query
-  QVERIFY(good.NextRecord().contains(Host("GOOD")));
-  QTRY_VERIFY_WITH_TIMEOUT(server.log().join('\n').contains(log), 5000);
-  if (dropped) QVERIFY(hostile.WaitDisconnected());
-  // (When silence is the fault, the good station soon goes quiet and is dropped as well.)
-  if (!sends.isEmpty()) QCOMPARE(server.openConnections(), dropped ? 1 : 2);
-  QVERIFY(server.receivedBytes().size() <= DemoHostServer::kMaxKeptBytes);
-  QVERIFY2(kSanitized || ResidentKb() - before < 64 * 1024,
-           qPrintable(QString::number(ResidentKb() - before)));
-  good.SendRecord(AidRecord(6, 53, kAidF3));
-  QVERIFY(good.WaitDisconnected());
-}
+  void scenarios() {
+    QFETCH(int, index);
+    const Scenario scenario = ReadScenarios()[index];
+    EnginePipe pipe(scenario.emulation_type);
+    QVERIFY(pipe.host.running());
+    const QString failure = RunScenario(scenario, pipe);
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
+  }
+  // Everything Veltrix's engine sends in one session, cut at every chunk size, gives the host's
+  // same answers.
+  void sessionGivesTheSameBytesForAnyChunking() {
+    EnginePipe pipe;
+    std::vector<veltrix::KeyStroke> keys;
+    std::string error;
+    QVERIFY(veltrix::ParseReplayKeys("chunk<Enter>1<Enter><PageDown><F3>2<Enter>ITEM0001<F5>", 0,
+                                     keys, error));
+    for (const auto& k : keys) pipe.Press(k);
+    const std::vector<std::uint8_t>& input = pipe.sent_all;
+    auto run = [&](std::size_t chunk) {
+      HostSession session(std::make_unique<DemoApplication>());
+      QByteArray out = Bytes(session.Start());
+      for (std::size_t i = 0; i < input.size(); i += chunk) {
+        out +=
+            Bytes(session.Receive(std::span(input).subspan(i, std::min(chunk, input.size() - i))));
+      }
+      return out;
+    };
+    const QByteArray whole = run(input.size());
+    QVERIFY(whole.contains(Host("ITEM0011")));
+    QVERIFY(whole.contains(Host("Read Immediate: item")));
+    for (std::size_t chunk = 1; chunk < 64; ++chunk) QCOMPARE(run(chunk), whole);
+  }
+  void negotiationAndSignOnOverLoopback() {
+    DemoHostServer server;
+    Station station;
+    QVERIFY(server.Listen(0) && station.Connect(server.port()));
+    QVERIFY(station.Negotiate("QPADEV0001"));
+    QCOMPARE(station.NextRecord(), Bytes({0x00, 0x11, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 0x04, 0xF3,
+                                          0x00, 0x05, 0xD9, 0x70, 0x00}));
+    const QByteArray sign_on = station.NextRecord();
+    QVERIFY(sign_on.contains(Host("QPADEV0001")));
+    // The password field does not display; the cursor starts in the user field; Read MDT Fields.
+    QVERIFY(sign_on.contains(Bytes({0x11, 7, 52, 0x1D, 0x40, 0x00, 0x27, 0x00, 0x0A})));
+    QVERIFY(sign_on.endsWith(Bytes({0x13, 6, 53, 0x04, 0x52, 0x00, 0x00})));
 
-void DemoHostTest::scriptSendsExpectsAndLogs() {
-  DemoHostServer server;
-  Station station;
-  const auto first = OutboundRecord().ClearUnit().WriteToDisplay(0, 8).TextAt(2, 2, "HI").Finish();
-  const auto second = OutboundRecord().ReadImmediate().Finish();
-  const std::vector<std::uint8_t> wanted = {0x00, 0x0D, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 1, 1, 0xF1};
-  server.SetScript({ScriptStep::Send(first), ScriptStep::Expect(wanted), ScriptStep::Send(second),
-                    ScriptStep::ExpectAny(), ScriptStep::Close()});
-  QVERIFY(server.Listen(0) && station.Connect(server.port()) && station.Negotiate("S"));
-  QCOMPARE(station.NextRecord(), Bytes(first));
-  QVERIFY(!server.scriptFinished());
-  // A different AID than the script expects: noted, and the script goes on.
-  const QByteArray sent = AidRecord(1, 1, kAidF3);
-  station.SendRecord(sent);
-  QCOMPARE(station.NextRecord(), Bytes(second));
-  station.SendRecord(Bytes({0x00, 0x0A, 0x12, 0xA0, 0, 0, 4, 0, 0, 3}));
-  QVERIFY(station.WaitDisconnected());
-  QVERIFY(server.scriptFinished());
-  QCOMPARE(server.scriptMismatches(),
-           QStringList{"record 1: expected 00 0D 12 A0 00 00 04 00 00 03 01 01 F1, received "
-                       "00 0D 12 A0 00 00 04 00 00 03 01 01 33"});
-  QCOMPARE(server.receivedRecords().size(), 2);
-  QCOMPARE(server.receivedRecords()[0], sent);
-  QVERIFY(server.receivedBytes().contains(sent + Bytes({0xFF, 0xEF})));
-}
+    station.SendRecord(AidRecord(7, 55, kAidEnter, {{6, 53, "BOB"}, {7, 53, "SECRET"}}));
+    QVERIFY(station.NextRecord().contains(Host("Signed on as BOB")));
+    QVERIFY(server.log().contains("signed on: BOB"));
+    QCOMPARE(server.receivedRecords().size(), 1);
+    QVERIFY(server.receivedBytes().contains(Host("SECRET")));
 
-void DemoHostTest::scriptWithoutNegotiation() {
-  DemoHostServer server;
-  const auto record = OutboundRecord().ClearUnit().Finish();
-  server.SetScript({ScriptStep::Send(record), ScriptStep::ExpectAny(),
-                    ScriptStep::ExpectAid(kAidEnter), ScriptStep::ExpectAid(kAidF3)},
-                   false);
-  QVERIFY(server.Listen(0));
-  Station station;
-  QVERIFY(station.Connect(server.port()));
-  QVERIFY(station.Expect(Bytes(FrameRecord(record))));
-  station.SendRecord(AidRecord(1, 1, kAidEnter));
-  station.SendRecord(AidRecord(4, 9, kAidEnter, {{4, 9, "X"}}));
-  station.SendRecord(AidRecord(1, 1, kAidEnter));
-  QTRY_VERIFY(server.scriptFinished());
-  QCOMPARE(
-      server.scriptMismatches(),
-      QStringList{"record 3: expected AID 33, received 00 0D 12 A0 00 00 04 00 00 03 01 01 F1"});
-}
-
-void DemoHostTest::executablePrintsItsEphemeralPort() {
-  const QString program = QStringLiteral(VELTRIX_BINARY_DIR "/veltrix-demo-host");
-  if (!QFileInfo::exists(program)) QSKIP("veltrix-demo-host is not built");
-  QProcess host;
-  host.start(program, {"--port", "0"});
-  QVERIFY(host.waitForStarted());
-  QTRY_VERIFY(host.canReadLine());
-  const QString line = QString::fromLatin1(host.readLine()).trimmed();
-  QVERIFY2(line.startsWith("listening on 127.0.0.1:"), qPrintable(line));
-  Station station;
-  QVERIFY(station.Connect(line.section(':', 1).toUShort()));
-  QVERIFY(station.Expect(Bytes({0xFF, 0xFD, 39})));
-  host.kill();
-  host.waitForFinished();
-}
+    QSignalSpy gone(&server, &DemoHostServer::stationDisconnected);
+    station.SendRecord(AidRecord(21, 7, kAidF3));
+    QVERIFY(station.NextRecord().contains(Host("Sign On")));
+    station.SendRecord(AidRecord(6, 53, kAidF3));
+    QVERIFY(station.WaitDisconnected());
+    QTRY_COMPARE(gone.count(), 1);
+  }
+  void hostileStations_data() {
+    QTest::addColumn<QByteArray>("sends");
+    QTest::addColumn<int>("repeat");
+    QTest::addColumn<bool>("dropped");
+    QTest::addColumn<QString>("log");
+    // Field data ending in a Set Buffer Address: answered like any record, the host goes on.
+    QTest::newRow("record ending in an SBA")
+        << Bytes({0x00, 0x0E, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 1, 1, 0xF1, 0x11, 0xFF, 0xEF}) << 1
+        << false << "Enter at 1,1";
+    QTest::newRow("50 MB without a record end")
+        << QByteArray(1 << 20, 'A') << 50 << true << "longer than any record";
+    QByteArray records;
+    while (records.size() < (1 << 20)) records += AidRecord(1, 1, kAidEnter) + Bytes({0xFF, 0xEF});
+    QTest::newRow("50 MB of records, none of the answers read")
+        << records << 50 << true << "does not read";
+    QTest::newRow("malformed records")
+        << Bytes({0x00, 0x02, 0x01, 0xFF, 0xEF}) << 16 << true << "sends garbage";
+    QTest::newRow("silence") << QByteArray() << 0 << true << "idle for 0.3 s";
+  }
+  // One hostile station at a time: the host stays bounded in memory, drops the station where it
+  // should, and keeps serving a well-behaved one.
+  void hostileStations() {
+    QFETCH(QByteArray, sends);
+    QFETCH(int, repeat);
+    QFETCH(bool, dropped);
+    QFETCH(QString, log);
+    DemoHostServer server;
+    server.SetIdleLimit(sends.isEmpty() ? 300 : 30000);
+    Station good;
+    Station hostile;
+    QVERIFY(server.Listen(0) && hostile.Connect(server.port()));
+    QVERIFY(hostile.Negotiate("HOSTILE"));
+    // From here on the hostile station reads nothing: the kernel's buffers fill up.
+    QObject::disconnect(&hostile.socket, &QTcpSocket::readyRead, nullptr, nullptr);
+    hostile.socket.setReadBufferSize(4096);
+    const long before = ResidentKb();
+    for (int i = 0; i < repeat && hostile.socket.state() == QAbstractSocket::ConnectedState; ++i) {
+      hostile.Send(sends);
+      // Bounded by the socket, as a real flood is.
+      while (hostile.socket.bytesToWrite() > (4 << 20)) QTest::qWait(1);
+    }
+    QVERIFY(good.Connect(server.port()) && good.Negotiate("GOOD"));
+    good.NextRecord();  // the query
+    QVERIFY(good.NextRecord().contains(Host("GOOD")));
+    QTRY_VERIFY_WITH_TIMEOUT(server.log().join('\n').contains(log), 5000);
+    if (dropped) QVERIFY(hostile.WaitDisconnected());
+    // (When silence is the fault, the good station soon goes quiet and is dropped as well.)
+    if (!sends.isEmpty()) QCOMPARE(server.openConnections(), dropped ? 1 : 2);
+    QVERIFY(server.receivedBytes().size() <= DemoHostServer::kMaxKeptBytes);
+    QVERIFY2(kSanitized || ResidentKb() - before < 64 * 1024,
+             qPrintable(QString::number(ResidentKb() - before)));
+    good.SendRecord(AidRecord(6, 53, kAidF3));
+    QVERIFY(good.WaitDisconnected());
+  }
+  void scriptSendsExpectsAndLogs() {
+    DemoHostServer server;
+    Station station;
+    const auto first =
+        OutboundRecord().ClearUnit().WriteToDisplay(0, 8).TextAt(2, 2, "HI").Finish();
+    const auto second = OutboundRecord().ReadImmediate().Finish();
+    const std::vector<std::uint8_t> wanted = {0x00, 0x0D, 0x12, 0xA0, 0, 0, 4, 0, 0, 3, 1, 1, 0xF1};
+    server.SetScript({ScriptStep::Send(first), ScriptStep::Expect(wanted), ScriptStep::Send(second),
+                      ScriptStep::ExpectAny(), ScriptStep::Close()});
+    QVERIFY(server.Listen(0) && station.Connect(server.port()) && station.Negotiate("S"));
+    QCOMPARE(station.NextRecord(), Bytes(first));
+    QVERIFY(!server.scriptFinished());
+    // A different AID than the script expects: noted, and the script goes on.
+    const QByteArray sent = AidRecord(1, 1, kAidF3);
+    station.SendRecord(sent);
+    QCOMPARE(station.NextRecord(), Bytes(second));
+    station.SendRecord(Bytes({0x00, 0x0A, 0x12, 0xA0, 0, 0, 4, 0, 0, 3}));
+    QVERIFY(station.WaitDisconnected());
+    QVERIFY(server.scriptFinished());
+    QCOMPARE(server.scriptMismatches(),
+             QStringList{"record 1: expected 00 0D 12 A0 00 00 04 00 00 03 01 01 F1, received "
+                         "00 0D 12 A0 00 00 04 00 00 03 01 01 33"});
+    QCOMPARE(server.receivedRecords().size(), 2);
+    QCOMPARE(server.receivedRecords()[0], sent);
+    QVERIFY(server.receivedBytes().contains(sent + Bytes({0xFF, 0xEF})));
+  }
+  void scriptWithoutNegotiation() {
+    DemoHostServer server;
+    const auto record = OutboundRecord().ClearUnit().Finish();
+    server.SetScript({ScriptStep::Send(record), ScriptStep::ExpectAny(),
+                      ScriptStep::ExpectAid(kAidEnter), ScriptStep::ExpectAid(kAidF3)},
+                     false);
+    QVERIFY(server.Listen(0));
+    Station station;
+    QVERIFY(station.Connect(server.port()));
+    QVERIFY(station.Expect(Bytes(FrameRecord(record))));
+    station.SendRecord(AidRecord(1, 1, kAidEnter));
+    station.SendRecord(AidRecord(4, 9, kAidEnter, {{4, 9, "X"}}));
+    station.SendRecord(AidRecord(1, 1, kAidEnter));
+    QTRY_VERIFY(server.scriptFinished());
+    QCOMPARE(
+        server.scriptMismatches(),
+        QStringList{"record 3: expected AID 33, received 00 0D 12 A0 00 00 04 00 00 03 01 01 F1"});
+  }
+  void executablePrintsItsEphemeralPort() {
+    const QString program = QStringLiteral(VELTRIX_BINARY_DIR "/veltrix-demo-host");
+    if (!QFileInfo::exists(program)) QSKIP("veltrix-demo-host is not built");
+    QProcess host;
+    host.start(program, {"--port", "0"});
+    QVERIFY(host.waitForStarted());
+    QTRY_VERIFY(host.canReadLine());
+    const QString line = QString::fromLatin1(host.readLine()).trimmed();
+    QVERIFY2(line.startsWith("listening on 127.0.0.1:"), qPrintable(line));
+    Station station;
+    QVERIFY(station.Connect(line.section(':', 1).toUShort()));
+    QVERIFY(station.Expect(Bytes({0xFF, 0xFD, 39})));
+    host.kill();
+    host.waitForFinished();
+  }
+};
 
 QTEST_MAIN(DemoHostTest)
 #include "demo_host_test.moc"
