@@ -68,6 +68,16 @@ QString Shown(QWidget* w) {
   return {};
 }
 
+// The one element a name stands for ("HostRow[0][1]"), and its value as veltrix-cli get prints it.
+FieldElement Element(const QString& name) {
+  const ElementLookup lookup = LookUpElement(name.toStdString());
+  if (!lookup.single()) qFatal("no field element %s", qPrintable(name));
+  return ElementsOf(lookup)[0];
+}
+QString Formatted(const SettingsRecord& record, const QString& name) {
+  return QString::fromLatin1(FormatElementValue(record, Element(name))).trimmed();
+}
+
 }  // namespace
 
 class PageScriptsTest : public QObject {
@@ -106,9 +116,7 @@ class PageScriptsTest : public QObject {
         continue;
       }
       if (verb == "raw") {  // a number no control would store: from a file
-        const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
-        QVERIFY2(element.single(), qPrintable(where));
-        const FieldElement e = ElementsOf(element)[0];
+        const FieldElement e = Element(name.section('=', 0, 0));
         WriteNumber(doc->record, *e.field, name.section('=', 1).toUInt(), e.i, e.j);
         CopyRecordToReaderBlocks(*doc);
         continue;
@@ -116,10 +124,7 @@ class PageScriptsTest : public QObject {
       if (verb == "working") {  // a reader field's working copy, as OK would store it
         Document copy = *doc;
         CopyReaderBlocksToRecord(copy);
-        const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
-        QVERIFY2(element.single(), qPrintable(where));
-        QCOMPARE(QString::fromLatin1(FormatElementValue(copy.record, ElementsOf(element)[0])),
-                 name.section('=', 1));
+        QCOMPARE(Formatted(copy.record, name.section('=', 0, 0)), name.section('=', 1));
         continue;
       }
       if (verb == "summary") {
@@ -142,11 +147,8 @@ class PageScriptsTest : public QObject {
         page = sheet->page(kPages.indexOf(name));
       }
       if (verb == "stored") {
-        const ElementLookup element = LookUpElement(name.section('=', 0, 0).toStdString());
-        QVERIFY2(element.single(), qPrintable(where));
-        const QString value =
-            QString::fromLatin1(FormatElementValue(doc->record, ElementsOf(element)[0]));
-        QVERIFY2(value.trimmed() == (name.section('=', 1) + ' ' + rest).trimmed(),
+        const QString value = Formatted(doc->record, name.section('=', 0, 0));
+        QVERIFY2(value == (name.section('=', 1) + ' ' + rest).trimmed(),
                  qPrintable(where + " holds " + value));
         continue;
       }
