@@ -26,8 +26,6 @@ namespace veltrix {
 namespace {
 
 constexpr int kSymbologyRows = 9;
-// Only product 3 may change the reader and open the RFID settings.
-constexpr int kReaderProduct = 3;
 
 // Hidden controls keep their place, so that the columns stay aligned in both sets.
 template <typename Widget>
@@ -152,10 +150,8 @@ QWidget* BarcodePage::BuildSymbologies() {
     grid->addWidget(more_[i], row, column + 1);
     // Before the binder stores the mark: "Bookland EAN" may start following "EAN13".
     connect(checks_[i], &QCheckBox::clicked, this, [this, i] {
-      ReaderPageState state;
-      state.bookland_follows_ean13 = bookland_follows_ean13_;
-      PageCheckBoxToggled(state, kFirstCheckBoxId + i, doc().record[kReaderType.offset]);
-      bookland_follows_ean13_ = state.bookland_follows_ean13;
+      bookland_follows_ean13_ = BooklandFollowsEan13(bookland_follows_ean13_, kFirstCheckBoxId + i,
+                                                     doc().record[kReaderType.offset]);
     });
     connect(more_[i], &QPushButton::clicked, this, [this, i] { OpenMore(i); });
   }
@@ -176,13 +172,13 @@ void BarcodePage::Reload(bool keep_rfid) {
     binder_->Bind(bindings_.lines);
   }
   const ReaderSettingLabels& labels = two_d ? kTwoDSettingLabels : kLinearSettingLabels;
-  const std::string_view texts[] = {labels.first_list, labels.second_list, labels.number,
+  const auto lists = ReaderSettingLists(two_d);
+  const std::string_view texts[] = {lists[0].caption, lists[1].caption, labels.number,
                                     labels.number_unit};
   for (std::size_t k = 0; k < setting_labels_.size(); ++k) {
     setting_labels_[k]->setText(QtText(texts[k]));
     setting_labels_[k]->setEnabled(!two_d);
   }
-  const auto lists = ReaderSettingLists(two_d);
   Refill(first_list_, lists[0].texts);
   Refill(second_list_, lists[1].texts);
   SetTypingLimit(number_, two_d ? 1 : 3);
@@ -199,7 +195,7 @@ void BarcodePage::Reload(bool keep_rfid) {
     if (!shown) checks_[i]->setChecked(false);
     more_[i]->setVisible(shown && !boxes[i].more_dialog.empty());
   }
-  rfid_more_->setEnabled(doc().product() == kReaderProduct);
+  rfid_more_->setEnabled(MayChangeReader(doc()));
   bookland_follows_ean13_ = two_d;
 
   binder_->Revert();

@@ -127,8 +127,8 @@ ReaderPageState FillReaderPageState(const Document& doc) {
   return state;
 }
 
-void PageCheckBoxToggled(ReaderPageState& state, int id, std::uint8_t reader_type) {
-  if (id == kEan13CheckBox && reader_type != 0) state.bookland_follows_ean13 = true;
+bool BooklandFollowsEan13(bool follows, int id, std::uint8_t reader_type) {
+  return follows || (id == kEan13CheckBox && reader_type != 0);
 }
 
 bool PageCheckBoxEnabled(const ReaderPageState& state, int id) {
@@ -159,8 +159,6 @@ std::int64_t ReaderShown(std::int64_t reader_type) {
 void StoreReader(Document& doc, std::int64_t position) {
   ChooseReader(doc, static_cast<int>(position));
 }
-// Only product 3 may change the reader.
-bool MayChangeReader(const Document& doc) { return doc.product() == 3; }
 constexpr ChoiceControl kSettingLists[2][2] = {
     {{"Scan mode :", kScanModeNames, &kScanMode},
      {"Read redundancy :", kReadRedundancyNames, &kReadRedundancy}},
@@ -173,6 +171,8 @@ void StoreEan128(Document& doc, std::int64_t checked) {
 }
 
 }  // namespace
+
+bool MayChangeReader(const Document& doc) { return doc.product() == 3; }
 
 std::span<const ChoiceControl> ReaderSettingLists(bool two_d) { return kSettingLists[two_d]; }
 

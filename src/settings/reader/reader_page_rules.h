@@ -34,18 +34,14 @@ inline constexpr std::array<std::string_view, 4> kTwoDList401Names{"Turn off", "
                                                                    "External", "Both"};
 inline constexpr std::array<std::string_view, 2> kTwoDList402Names{"Turn off", "Turn on"};
 
-// The labels of the "Reader Settings" group: the two lists, box 201 and its unit. The terminal
-// names them only for the linear set; the two-dimensional set's are ours.
+// The labels of box 201 and its unit in the "Reader Settings" group (the lists' labels are their
+// captions). The terminal names them only for the linear set; the two-dimensional set's are ours.
 struct ReaderSettingLabels {
-  std::string_view first_list;
-  std::string_view second_list;
   std::string_view number;
   std::string_view number_unit;
 };
-inline constexpr ReaderSettingLabels kLinearSettingLabels{
-    "Scan mode :", "Read redundancy :", "Time out :", "sec"};
-inline constexpr ReaderSettingLabels kTwoDSettingLabels{
-    "Reader option 1 :", "Reader option 2 :", "Reader option 3 :", ""};
+inline constexpr ReaderSettingLabels kLinearSettingLabels{"Time out :", "sec"};
+inline constexpr ReaderSettingLabels kTwoDSettingLabels{"Reader option 3 :", ""};
 
 // A symbology check box of the page (ids 301-327) and the dialog its "more..." button opens
 // (empty when that button is hidden).
@@ -76,19 +72,21 @@ struct ReaderPageState {
   // "Bookland EAN" (306) is enabled only while "EAN13" (305) is checked: from the opening of the
   // two-dimensional set, and once 305 was toggled while ReaderType was not 0.
   bool bookland_follows_ean13 = false;
-
-  bool operator==(const ReaderPageState&) const = default;
 };
 
 // The reader and marks as the record (reader type) and the working blocks hold them.
 ReaderPageState FillReaderPageState(const Document& doc);
-// The user toggled check box `id` while the record's ReaderType byte is `reader_type`.
-void PageCheckBoxToggled(ReaderPageState& state, int id, std::uint8_t reader_type);
+// Whether "Bookland EAN" follows "EAN13" after the user toggled check box `id` while the record's
+// ReaderType byte is `reader_type` (`follows`: whether it did before).
+bool BooklandFollowsEan13(bool follows, int id, std::uint8_t reader_type);
 
 // Which check boxes and "more..." buttons the reader in `state` enables: "Code 11", "Postal Codes"
 // and "PDF417" to "QR Code" only for "2D Reader"; "Bookland EAN" only while "EAN13" is checked.
 bool PageCheckBoxEnabled(const ReaderPageState& state, int id);
 bool MoreButtonEnabled(const ReaderPageState& state, int id);
+
+// Only product 3 may change the reader (and open the RFID settings).
+bool MayChangeReader(const Document& doc);
 
 // The two lists of "Reader Settings" for the set: their captions, entries and fields.
 std::span<const ChoiceControl> ReaderSettingLists(bool two_d);
